@@ -1,0 +1,11 @@
+#pragma once
+
+namespace draftwick {
+
+/// The version record of the library. It stands here alone: the build, the packages and
+/// Document::VerMajor and its siblings read it from this file.
+inline constexpr int VersionMajor = 1;
+inline constexpr int VersionMinor = 0;
+inline constexpr int VersionRevision = 29;
+
+}  // namespace draftwick

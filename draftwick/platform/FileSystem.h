@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace draftwick::platform {
+
+/// An open file. Bytes go through as they are: nothing is translated or buffered here.
+/// Destroying an open file closes it and drops the outcome; Close() reports it.
+class File {
+public:
+    virtual ~File() = default;
+
+    /// Writes all bytes, or as many as possible: short writes and interruptions are dealt with here.
+    /// Returns how many were taken; fewer than `size` only together with an error.
+    virtual std::size_t Write(const char* bytes, std::size_t size, std::error_code& error) = 0;
+
+    /// Reads up to `size` bytes. 0 without an error is the end of the file.
+    virtual std::size_t Read(char* bytes, std::size_t size, std::error_code& error) = 0;
+
+    /// Ends the use of the file and reports what only shows then. A second call does nothing.
+    virtual void Close(std::error_code& error) = 0;
+};
+
+/// How Create treats a file that is already there, and who may read a new one.
+enum class Creation {
+    Overwrite,         ///< an existing file is emptied
+    Exclusive,         ///< an existing file is std::errc::file_exists
+    ExclusivePrivate,  ///< as Exclusive; only the owner can read it
+};
+
+/// The file operations that documents need. Names are UTF-8 on Windows, the system's own bytes elsewhere.
+class FileSystem {
+public:
+    virtual ~FileSystem() = default;
+
+    virtual std::unique_ptr<File> Create(const std::string& name, Creation mode, std::error_code& error) = 0;
+    virtual std::unique_ptr<File> OpenForReading(const std::string& name, std::error_code& error) = 0;
+
+    /// Whether a regular file of that name exists.
+    virtual bool Exists(const std::string& name) = 0;
+    /// The length of a regular file in bytes.
+    virtual std::uint64_t Length(const std::string& name, std::error_code& error) = 0;
+    virtual void Delete(const std::string& name, std::error_code& error) = 0;
+
+    /// What stands between a folder and a file name.
+    virtual char Separator() const = 0;
+};
+
+}  // namespace draftwick::platform

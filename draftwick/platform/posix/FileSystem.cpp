@@ -1,0 +1,126 @@
+#include <draftwick/platform/posix/Posix.h>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace draftwick::platform::posix {
+
+namespace {
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+class PosixFile final : public File {
+public:
+    explicit PosixFile(int descriptor) : descriptor_(descriptor) {}
+    ~PosixFile() override {
+        if (descriptor_ >= 0) ::close(descriptor_);
+    }
+    PosixFile(const PosixFile&) = delete;
+    PosixFile& operator=(const PosixFile&) = delete;
+
+    std::size_t Write(const char* bytes, std::size_t size, std::error_code& error) override {
+        error.clear();
+        std::size_t done = 0;
+        while (done < size) {
+            const ssize_t n = ::write(descriptor_, bytes + done, size - done);
+            if (n > 0) {
+                done += static_cast<std::size_t>(n);
+            } else if (n == 0) {
+                error = std::make_error_code(std::errc::io_error);
+                break;
+            } else if (errno != EINTR) {
+                error = LastError();
+                break;
+            }
+        }
+        return done;
+    }
+
+    std::size_t Read(char* bytes, std::size_t size, std::error_code& error) override {
+        error.clear();
+        for (;;) {
+            const ssize_t n = ::read(descriptor_, bytes, size);
+            if (n >= 0) return static_cast<std::size_t>(n);
+            if (errno == EINTR) continue;
+            error = LastError();
+            return 0;
+        }
+    }
+
+    void Close(std::error_code& error) override {
+        error.clear();
+        if (descriptor_ < 0) return;
+        // After EINTR the descriptor is released all the same on the systems we run on: never close twice.
+        if (::close(descriptor_) != 0 && errno != EINTR) error = LastError();
+        descriptor_ = -1;
+    }
+
+private:
+    int descriptor_;
+};
+
+class PosixFileSystem final : public FileSystem {
+public:
+    std::unique_ptr<File> Create(const std::string& name, Creation mode, std::error_code& error) override {
+        const int how = mode == Creation::Overwrite ? O_TRUNC : O_EXCL;
+        return Open(name, O_WRONLY | O_CREAT | how, mode == Creation::ExclusivePrivate ? 0600 : 0666, error);
+    }
+
+    std::unique_ptr<File> OpenForReading(const std::string& name, std::error_code& error) override {
+        return Open(name, O_RDONLY, 0, error);
+    }
+
+    bool Exists(const std::string& name) override {
+        struct stat status {};
+        return ::stat(name.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    }
+
+    std::uint64_t Length(const std::string& name, std::error_code& error) override {
+        error.clear();
+        struct stat status {};
+        if (::stat(name.c_str(), &status) != 0) {
+            error = LastError();
+            return 0;
+        }
+        if (!S_ISREG(status.st_mode)) {
+            error = std::make_error_code(std::errc::is_a_directory);
+            return 0;
+        }
+        return static_cast<std::uint64_t>(status.st_size);
+    }
+
+    void Delete(const std::string& name, std::error_code& error) override {
+        error.clear();
+        if (::unlink(name.c_str()) != 0) error = LastError();
+    }
+
+    char Separator() const override { return '/'; }
+
+private:
+    static std::unique_ptr<File> Open(const std::string& name, int flags, mode_t mode,
+                                      std::error_code& error) {
+        error.clear();
+        // A name with a zero byte would silently mean another file.
+        if (name.find('\0') != std::string::npos) {
+            error = std::make_error_code(std::errc::invalid_argument);
+            return nullptr;
+        }
+        int descriptor = -1;
+        do {
+            descriptor = ::open(name.c_str(), flags | O_CLOEXEC, mode);
+        } while (descriptor < 0 && errno == EINTR);
+        if (descriptor < 0) {
+            error = LastError();
+            return nullptr;
+        }
+        return std::make_unique<PosixFile>(descriptor);
+    }
+};
+
+}  // namespace
+
+std::shared_ptr<FileSystem> MakeFileSystem() { return std::make_shared<PosixFileSystem>(); }
+
+}  // namespace draftwick::platform::posix

@@ -1,0 +1,41 @@
+#include <draftwick/platform/Platform.h>
+#include <draftwick/platform/posix/Posix.h>
+
+#include <cstdlib>
+#include <syslog.h>
+
+namespace draftwick::platform {
+
+namespace {
+
+class PosixEnvironment final : public Environment {
+public:
+    std::string TempFolder() override {
+        for (const char* variable : {"TEMP", "TMPDIR"}) {
+            const char* value = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe)
+            if (value != nullptr && *value != '\0') return value;
+        }
+        return "/tmp";
+    }
+};
+
+class Syslog final : public EventLog {
+public:
+    void Report(std::string_view text) noexcept override {
+        ::syslog(LOG_USER | LOG_ERR, "%.*s", static_cast<int>(text.size()), text.data());
+    }
+};
+
+}  // namespace
+
+Platform SystemPlatform() {
+    static const Platform system{posix::MakeFileSystem(), std::make_shared<PosixEnvironment>()};
+    return system;
+}
+
+EventLog& SystemEventLog() {
+    static Syslog log;
+    return log;
+}
+
+}  // namespace draftwick::platform
