@@ -4,7 +4,9 @@
 #include <draftwick/platform/EventLog.h>
 #include <draftwick/platform/FileSystem.h>
 
+#include <ctime>
 #include <memory>
+#include <string>
 
 namespace draftwick::platform {
 
@@ -18,7 +20,12 @@ struct Platform {
 /// The system's own services. They hold no state and can be used from any thread.
 Platform SystemPlatform();
 
-/// The system's event log, used by LogError.
-EventLog& SystemEventLog();
+/// The event log that errors are recorded in: the system's, unless another one was set.
+EventLog& CurrentEventLog();
+/// Puts another event log in the place of the system's; nullptr puts the system's back. Not owned.
+void SetEventLog(EventLog* log) noexcept;
+
+/// Date and time of day where the process runs, as yyyy-mm-dd hh:mm:ss.
+std::string LocalTimeText(std::time_t time);
 
 }  // namespace draftwick::platform

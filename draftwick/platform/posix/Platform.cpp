@@ -1,6 +1,7 @@
 #include <draftwick/platform/Platform.h>
 #include <draftwick/platform/posix/Posix.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <syslog.h>
 
@@ -26,6 +27,8 @@ public:
     }
 };
 
+std::atomic<EventLog*> replacement{nullptr};
+
 }  // namespace
 
 Platform SystemPlatform() {
@@ -33,9 +36,20 @@ Platform SystemPlatform() {
     return system;
 }
 
-EventLog& SystemEventLog() {
-    static Syslog log;
-    return log;
+EventLog& CurrentEventLog() {
+    static Syslog system;
+    EventLog* other = replacement.load();
+    return other != nullptr ? *other : system;
+}
+
+void SetEventLog(EventLog* log) noexcept { replacement = log; }
+
+std::string LocalTimeText(std::time_t time) {
+    std::tm local{};
+    ::localtime_r(&time, &local);
+    char text[32] = "";
+    std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
+    return text;
 }
 
 }  // namespace draftwick::platform

@@ -1,0 +1,76 @@
+#include <draftwick/base/BlockWriter.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace draftwick {
+
+namespace {
+constexpr std::size_t BlockSize = 64 * 1024;
+}
+
+void RaiseFileError(std::error_code error, std::string_view action, const std::string& name) {
+    std::string what = "cannot ";
+    what += action;
+    what += " '" + name + "'";
+    throw std::system_error(error, what);
+}
+
+BlockWriter::BlockWriter(std::unique_ptr<platform::File> file, std::string name)
+    : file_(std::move(file)), name_(std::move(name)), block_(new char[BlockSize]), capacity_(BlockSize) {}
+
+void BlockWriter::AppendLarge(const char* bytes, std::size_t size) {
+    const std::size_t fits = capacity_ - used_;
+    std::memcpy(block_.get() + used_, bytes, fits);
+    used_ += fits;
+    bytes += fits;
+    size -= fits;
+    Flush();
+    if (used_ == 0 && size >= capacity_) {
+        // A text longer than a block goes straight to the file.
+        const std::size_t done = file_->Write(bytes, size, failure_);
+        bytes += done;
+        size -= done;
+    }
+    if (size > capacity_ - used_) {
+        // The file takes nothing at the moment: keep all of it.
+        const std::size_t larger = std::max(capacity_ * 2, used_ + size);
+        std::unique_ptr<char[]> grown(new char[larger]);
+        std::memcpy(grown.get(), block_.get(), used_);
+        block_ = std::move(grown);
+        capacity_ = larger;
+    }
+    std::memcpy(block_.get() + used_, bytes, size);
+    used_ += size;
+}
+
+void BlockWriter::Flush() noexcept {
+    std::error_code error;
+    const std::size_t done = file_->Write(block_.get(), used_, error);
+    std::memmove(block_.get(), block_.get() + done, used_ - done);
+    used_ -= done;
+    if (error) failure_ = error;
+}
+
+void BlockWriter::Report() {
+    const std::error_code failure = std::exchange(failure_, {});
+    if (failure) RaiseFileError(failure, "write", name_);
+}
+
+void BlockWriter::Checkpoint() {
+    // More than a block is kept only after a failure; try again before anything new is promised.
+    if (!failure_ && used_ > BlockSize) Flush();
+    Report();
+}
+
+void BlockWriter::Close() {
+    if (file_ == nullptr) return;
+    Flush();
+    Report();
+    std::error_code error;
+    file_->Close(error);
+    file_.reset();
+    if (error) RaiseFileError(error, "close", name_);
+}
+
+}  // namespace draftwick

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <draftwick/platform/FileSystem.h>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+/// Raises std::system_error: "cannot write 'name': no space left on device".
+[[noreturn]] void RaiseFileError(std::error_code error, std::string_view action, const std::string& name);
+
+/// Collects bytes and hands them to a file in large blocks.
+///
+/// Append never reports a failure of the file, so that an object is never half written: what could not be
+/// written stays in memory, and Checkpoint, called between two objects, reports it. Nothing is lost: once the
+/// cause is gone, later calls write what was kept.
+class BlockWriter {
+public:
+    BlockWriter(std::unique_ptr<platform::File> file, std::string name);
+
+    const std::string& Name() const noexcept { return name_; }
+
+    void Append(const char* bytes, std::size_t size) {
+        if (size > capacity_ - used_) {
+            AppendLarge(bytes, size);
+            return;
+        }
+        std::char_traits<char>::copy(block_.get() + used_, bytes, size);
+        used_ += size;
+    }
+
+    /// Reports the failure of a write since the last Checkpoint, or one that still goes on.
+    void Checkpoint();
+    /// Writes what is left and closes the file. After a failure the file is still open and nothing is lost.
+    void Close();
+
+private:
+    void AppendLarge(const char* bytes, std::size_t size);
+    void Flush() noexcept;
+    void Report();
+
+    std::unique_ptr<platform::File> file_;
+    std::string name_;
+    std::unique_ptr<char[]> block_;
+    std::size_t capacity_;
+    std::size_t used_ = 0;
+    std::error_code failure_;
+};
+
+}  // namespace draftwick

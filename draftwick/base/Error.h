@@ -1,0 +1,79 @@
+#pragma once
+
+#include <draftwick/base/Variant.h>
+
+#include <cstdint>
+#include <initializer_list>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+/// The numbers of the library's own refusals.
+enum dwErrCode : std::int32_t {
+    dwErrPropertyOutOfRange = -2147220890,         ///< a value outside a property's range
+    dwErrZeroLengthName = -2147220889,             ///< an empty name for an item of a collection
+    dwErrCantDeleteBuiltInProperty = -2147220888,  ///< built-in document properties stay
+    dwErrShapesCantContainShapes = -2147220887,    ///< a shape in the text box of a shape
+    dwErrUnsupportedFileType = -2147220886,        ///< a picture file with an unknown extension
+    dwErrNoViewer = -2147220885,                   ///< no program to show the document with
+    dwErrPictureFileNotFound = -2147220884,        ///< no such picture file
+    dwErrDuplicateName = -2147220883,              ///< a document property of that name exists
+    dwErrTargetEmitted = -2147220882,              ///< the object is written and can no longer change
+    dwErrInvalidHeaderKind = -2147220881,          ///< a header kind that the page settings rule out
+    dwErrHeaderExists = -2147220880,               ///< the section has a header of that kind
+    dwErrItemNotFound = -2147220879,               ///< a collection has no such item
+};
+
+/// The numbers of run-time refusals, as automation hosts know them.
+enum dwRuntimeError : std::int32_t {
+    dwRunInvalidCall = 5,           ///< an argument that makes no sense
+    dwRunOverflow = 6,              ///< a number that does not fit the type it is stored in
+    dwRunSubscriptOutOfRange = 9,   ///< a position that does not exist
+    dwRunDivisionByZero = 11,
+    dwRunTypeMismatch = 13,         ///< a value of the wrong kind
+    dwRunOutOfStackSpace = 28,
+    dwRunObjectGone = 91,           ///< the document that the object belonged to was let go
+    dwRunCannotCreateObject = 429,
+    dwRunDuplicateKey = 457,        ///< a collection has an item of that name
+    dwRunInvalidPicture = 481,
+};
+
+/// Every refusal of the library. What was refused changed nothing. Failures of the file system are not among
+/// them: these are std::system_error with the file's name in the text.
+class Error : public std::runtime_error {
+public:
+    Error(std::int32_t number, const std::string& description, std::string source, std::string helpFile)
+        : std::runtime_error(description), number_(number), source_(std::move(source)),
+          helpFile_(std::move(helpFile)) {}
+
+    /// A dwErrCode or a dwRuntimeError.
+    std::int32_t Number() const noexcept { return number_; }
+    /// "Draftwick" for a dwErrCode, empty for a dwRuntimeError.
+    const std::string& Source() const noexcept { return source_; }
+    /// "Draftwick.chm" for a dwErrCode, empty for a dwRuntimeError.
+    const std::string& HelpFile() const noexcept { return helpFile_; }
+
+private:
+    std::int32_t number_;
+    std::string source_;
+    std::string helpFile_;
+};
+
+/// Raises Error with the message of `number`, in which %1, %2, ... stand for the parameters that are texts.
+[[noreturn]] void RaiseError(std::int32_t number, std::initializer_list<Variant> parameters = {});
+
+/// Raises Error for a run-time refusal: the number's own text, then what was wrong.
+[[noreturn]] void RaiseRuntimeError(dwRuntimeError number, const std::string& detail = {});
+
+/// "X" and the message number for the library's own range of numbers (X109), any other number in decimal.
+std::string ErrorNumberText(std::int32_t number);
+
+/// Whether every refusal is also recorded in the system's event log. Off at first; one setting per process.
+void SetErrorLogging(bool on) noexcept;
+
+/// Writes a description of the error to the event log when error logging is on.
+void LogError(const Error& error);
+
+}  // namespace draftwick

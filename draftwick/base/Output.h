@@ -1,0 +1,58 @@
+#pragma once
+
+#include <draftwick/base/BlockWriter.h>
+#include <draftwick/base/Words.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace draftwick {
+
+/// The primitive writers: the only way from the library to an RTF file. They insert the one space between a
+/// control word and the text after it and decide where lines end.
+///
+/// A line ends after the append that brings it to 128 characters or more, never inside an append; CR LF pairs
+/// that the host sent in raw text are taken out of such a line. FlushLine ends a line where it stands and leaves
+/// its content alone. Every line ends in CR LF. Characters are counted as the file has them, one byte each.
+class Output {
+public:
+    /// Where lines go from now on; nullptr drops them. Not owned. The line that was begun stays.
+    BlockWriter* SetStream(BlockWriter* stream) noexcept;
+
+    /// "\word". A line break after it delimits it as well as a space would.
+    void WriteControlWord(std::string_view word);
+    /// "\word" directly followed by the number, "\li-360".
+    void WriteControlWord(std::string_view word, std::int32_t number);
+    /// "\word" with 1 or 0.
+    void WriteFlag(std::string_view word, bool flag) { WriteControlWord(word, flag ? 1 : 0); }
+    /// The word of an enumeration value; nothing when it has none.
+    void WriteWord(const WordList& words, std::int32_t value);
+    /// UTF-8 text that is already escaped, after one space if a control word comes before it.
+    void WriteText(std::string_view text);
+    void WriteGroupStart();
+    /// "{\*". Whether a control word came last stays as it was.
+    void WriteDestinationStart();
+    void WriteGroupEnd();
+    /// Ends the line that was begun, if there is one.
+    void FlushLine();
+
+private:
+    void AppendToLine(std::string_view ascii);
+    void AppendEncoded(std::string_view text);
+    void MakeRoom();
+    void FlushLongLine();
+    void DropLineBreaks();
+
+    static constexpr std::size_t LongLine = 128;
+    static constexpr std::size_t Room = 1024;
+
+    BlockWriter* stream_ = nullptr;
+    std::size_t length_ = 0;
+    bool afterControlWord_ = false;
+    bool spilled_ = false;   // the line is longer than the buffer: its beginning is on its way already
+    bool hasReturn_ = false; // the buffer holds a CR
+    char line_[Room];
+};
+
+}  // namespace draftwick

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <draftwick/base/Error.h>
+#include <draftwick/base/Units.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
+/// The kinds of setting. A settings class keeps its values in a plain struct whose fields have these types: the
+/// type of a field is its rule (range, the name that a range error gives, how it is stored), its initialiser is
+/// its default. Booleans, 32-bit numbers, colours and texts without a rule are plain bool, std::int32_t and
+/// std::string. A value that breaks its rule is refused and the old one stays.
+namespace draftwick {
+
+/// A text that can be a template argument.
+template <std::size_t Size>
+struct Name {
+    char text[Size]{};
+    constexpr Name(const char (&from)[Size]) { std::copy_n(from, Size, text); }
+    constexpr std::string_view View() const { return {text, Size - 1}; }
+};
+
+/// An enumerated setting: the values of an enumeration from First to Last. Outside: dwErrPropertyOutOfRange.
+template <Name RangeName, auto First, auto Last>
+class Choice {
+public:
+    using Value = decltype(First);
+    constexpr Choice(Value value) noexcept : value_(value) {}
+    constexpr operator Value() const noexcept { return value_; }
+    static void Check(std::int32_t value) {
+        CheckRange(value, static_cast<std::int32_t>(First), static_cast<std::int32_t>(Last),
+                   RangeName.View());
+    }
+    void Set(Value value) {
+        Check(value);
+        value_ = value;
+    }
+
+private:
+    Value value_;
+};
+
+/// A small number stored in a byte. Outside of a byte: error 6; outside of its range: dwErrPropertyOutOfRange.
+template <Name RangeName, std::uint8_t First, std::uint8_t Last>
+class Byte {
+public:
+    constexpr Byte(std::uint8_t value) noexcept : value_(value) {}
+    constexpr operator std::int32_t() const noexcept { return value_; }
+    void Set(std::int32_t value) {
+        if (!InRange(value, 0, 255)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
+        CheckRange(value, First, Last, RangeName.View());
+        value_ = static_cast<std::uint8_t>(value);
+    }
+
+private:
+    std::uint8_t value_;
+};
+
+/// A whole number stored in 16 bits. Outside: error 6.
+class Short {
+public:
+    constexpr Short(std::int16_t value) noexcept : value_(value) {}
+    constexpr operator std::int32_t() const noexcept { return value_; }
+    void Set(std::int32_t value) { value_ = ToShort(value); }
+
+private:
+    std::int16_t value_;
+};
+
+/// A real number that is rounded to a whole one, ties to even, and stored in 16 bits. Outside: error 6.
+class Rounded {
+public:
+    constexpr Rounded(std::int16_t value) noexcept : value_(value) {}
+    constexpr operator double() const noexcept { return value_; }
+    void Set(double value) { value_ = RoundToShort(value); }
+
+private:
+    std::int16_t value_;
+};
+
+/// A length, stored as a signed 16-bit number of twips. Outside: error 6.
+class Length {
+public:
+    constexpr Length(std::int16_t twips) noexcept : twips_(twips) {}
+    constexpr std::int32_t Twips() const noexcept { return twips_; }
+    void Set(double value, dwScaleMode scale) { twips_ = ToShort(ToTwips(value, scale)); }
+
+private:
+    std::int16_t twips_;
+};
+
+/// A real number that is stored as given and written as a whole number, or in shape properties as text, after
+/// multiplication with Factor / Divisor. Error 6 when it is not finite or the product does not fit 32 bits.
+template <std::int32_t Factor, std::int32_t Divisor = 1>
+class Real {
+public:
+    constexpr Real(double value) noexcept : value_(value) {}
+    constexpr operator double() const noexcept { return value_; }
+    void Set(double value) {
+        RoundHalfEven(value * Factor / Divisor);
+        RoundDown(value * Factor / Divisor);
+        value_ = value;
+    }
+
+private:
+    double value_;
+};
+
+/// Points that are written in twips.
+using Points = Real<20>;
+
+}  // namespace draftwick

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+/// Appends the host's text in its RTF form to `to`: "\", "{" and "}" get a backslash, a tab becomes "\tab ", CR LF
+/// becomes "\line" and takes a space that follows it along ("\line "); malformed UTF-8 becomes U+FFFD. Nothing
+/// else changes: a lone CR or LF, control characters and characters above 127 pass through.
+void AppendEscaped(std::string& to, std::string_view text);
+std::string EscapeText(std::string_view text);
+
+/// The RTF escape of one byte: \' and upper-case hexadecimal without a leading zero. Error 6 outside of a byte.
+std::string ASCIIChar(std::int32_t byte);
+
+/// A number in the shortest decimal form that reads back the same: never an exponent, never "-0", integral values
+/// without a point.
+std::string NumberText(double value);
+
+}  // namespace draftwick
