@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace draftwick {
 
@@ -42,6 +43,20 @@ void BlockWriter::AppendLarge(const char* bytes, std::size_t size) {
     }
     std::memcpy(block_.get() + used_, bytes, size);
     used_ += size;
+}
+
+void BlockWriter::AppendFile(platform::File& source, const std::string& sourceName) {
+    for (;;) {
+        if (used_ == capacity_) {
+            Flush();
+            Report();
+        }
+        std::error_code error;
+        const std::size_t size = source.Read(block_.get() + used_, capacity_ - used_, error);
+        if (error) RaiseFileError(error, "read", sourceName);
+        if (size == 0) return;
+        used_ += size;
+    }
 }
 
 void BlockWriter::Flush() noexcept {

@@ -32,6 +32,9 @@ public:
         used_ += size;
     }
 
+    /// Appends all that can be read from another file, through this one's block. Failures are reported at once.
+    void AppendFile(platform::File& source, const std::string& sourceName);
+
     /// Reports the failure of a write since the last Checkpoint, or one that still goes on.
     void Checkpoint();
     /// Writes what is left and closes the file. After a failure the file is still open and nothing is lost.

@@ -36,6 +36,10 @@ public:
     void WriteGroupEnd();
     /// Ends the line that was begun, if there is one.
     void FlushLine();
+    /// Reports a failure of the file that lines go to. Called between two objects, never within one.
+    void Checkpoint() {
+        if (stream_ != nullptr) stream_->Checkpoint();
+    }
 
 private:
     void AppendToLine(std::string_view ascii);

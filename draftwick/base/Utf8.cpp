@@ -5,21 +5,20 @@
 
 namespace draftwick {
 
-namespace {
-
-std::uint8_t ByteAt(std::string_view text, std::size_t position) {
-    return static_cast<std::uint8_t>(text[position]);
-}
-
-/// The position of the first byte at or after `position` that is not ASCII.
 std::size_t SkipAscii(std::string_view text, std::size_t position) {
     constexpr std::uint64_t highBits = 0x8080808080808080;
     for (std::uint64_t word = 0; text.size() - position >= sizeof word; position += sizeof word) {
         std::memcpy(&word, text.data() + position, sizeof word);
         if ((word & highBits) != 0) break;
     }
-    while (position < text.size() && ByteAt(text, position) < 0x80) ++position;
+    while (position < text.size() && static_cast<std::uint8_t>(text[position]) < 0x80) ++position;
     return position;
+}
+
+namespace {
+
+std::uint8_t ByteAt(std::string_view text, std::size_t position) {
+    return static_cast<std::uint8_t>(text[position]);
 }
 
 /// What the first byte of a sequence says about it. The bounds of the second byte rule out overlong forms,

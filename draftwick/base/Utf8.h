@@ -18,6 +18,9 @@ char32_t DecodeUtf8(std::string_view text, std::size_t& position);
 /// Appends the character in UTF-8; U+FFFD for a surrogate or a value above U+10FFFF.
 void AppendUtf8(std::string& text, char32_t character);
 
+/// The position of the first byte at or after `position` that is not ASCII.
+std::size_t SkipAscii(std::string_view text, std::size_t position);
+
 bool IsValidUtf8(std::string_view text);
 
 /// The text with U+FFFD in place of everything malformed.

@@ -1,0 +1,236 @@
+#pragma once
+
+#include <draftwick/base/Object.h>
+
+#include <functional>
+#include <initializer_list>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+/// The run-time descriptions of the classes: for each class one table of its members, built from pointers to its
+/// accessors and to the fields that hold its values. A host that knows only names reaches everything with Get, Set
+/// and Call.
+namespace draftwick {
+
+/// What a property or an argument holds.
+enum class Kind { Boolean, Number, Real, Length, Text, Date, Object, Any };
+
+/// What a property accepts, as far as a constant can say it.
+struct Rule {
+    Kind kind = Kind::Any;
+    int bits = 32;                  ///< of the stored number: outside of it error 6
+    bool limited = false;           ///< the bounds below hold: outside of them dwErrPropertyOutOfRange
+    std::int32_t low = 0;
+    std::int32_t high = 0;
+    std::string_view rangeName{};   ///< the name that the range error gives
+    Variant initial{};              ///< the default; a length in twips; nothing where it depends on the document
+};
+
+struct Property {
+    std::string_view name;
+    Rule rule;
+    Variant (*get)(Object&) = nullptr;              ///< empty: write only
+    void (*set)(Object&, const Variant&) = nullptr; ///< empty: read only
+};
+
+struct Argument {
+    std::string_view name;
+    std::optional<Variant> initial{};  ///< empty: must be given
+};
+
+struct Method {
+    std::string_view name;
+    std::vector<Argument> arguments;
+    Variant (*call)(Object&, std::span<const Variant>) = nullptr;
+};
+
+/// One class of the object model.
+struct Class {
+    std::string_view name;
+    std::string_view classId;      ///< fixed for ever, as is the next
+    std::string_view interfaceId;
+    std::vector<Property> properties;
+    std::vector<Method> methods;
+
+    /// nullptr when there is none. All classes have Parent and Document.
+    const Property* FindProperty(std::string_view property) const;
+    const Method* FindMethod(std::string_view method) const;
+};
+
+/// The value of a property. dwErrItemNotFound ("Section.MarginTop") when the class has no such property, error 5
+/// when it cannot be read.
+Variant Get(Object& object, std::string_view property);
+/// Sets a property. As Get; error 13 when the value is of the wrong kind; and what the property itself refuses.
+void Set(Object& object, std::string_view property, const Variant& value);
+/// Calls a method. Arguments with a default can be left out at the end; error 5 for too few or too many.
+Variant Call(Object& object, std::string_view method, std::span<const Variant> arguments);
+Variant Call(Object& object, std::string_view method, std::initializer_list<Variant> arguments = {});
+
+// What the class tables are written with.
+
+/// The plain value of a variant as the type that an accessor takes. Error 13 when it is of another kind.
+template <class Type>
+Type FromVariant(const Variant& value);
+template <> bool FromVariant(const Variant& value);
+template <> std::int32_t FromVariant(const Variant& value);
+template <> double FromVariant(const Variant& value);
+template <> std::string_view FromVariant(const Variant& value);
+
+template <class Type>
+Variant ToVariant(const Type& value) {
+    if constexpr (std::is_same_v<Type, bool> || std::is_same_v<Type, double> || std::is_same_v<Type, Variant>) {
+        return value;
+    } else if constexpr (std::is_integral_v<Type> || std::is_enum_v<Type>) {
+        return static_cast<std::int32_t>(value);
+    } else if constexpr (std::is_convertible_v<Type, std::string_view>) {
+        return std::string{value};
+    } else {
+        std::shared_ptr<Object> object = value;
+        return object == nullptr ? Variant{} : Variant{std::move(object)};
+    }
+}
+
+namespace detail {
+
+template <class Type>
+std::decay_t<Type> TakeArgument(const Variant& value) {
+    using Plain = std::decay_t<Type>;
+    if constexpr (std::is_enum_v<Plain>) {
+        return static_cast<Plain>(FromVariant<std::int32_t>(value));
+    } else if constexpr (std::is_same_v<Plain, Variant>) {
+        return value;
+    } else {
+        return FromVariant<Plain>(value);
+    }
+}
+
+template <class Result, class Callable>
+Variant AsVariant(Callable&& callable) {
+    if constexpr (std::is_void_v<Result>) {
+        callable();
+        return {};
+    } else {
+        return ToVariant<std::decay_t<Result>>(callable());
+    }
+}
+
+/// Takes a pointer to a member function, or to a function whose first parameter is the object, apart.
+template <class Pointer>
+struct Callable;
+
+template <class Owner, class Result, class... Arguments>
+struct Callable<Result (Owner::*)(Arguments...)> {
+    using Value = std::decay_t<Result>;
+    template <auto Pointer, std::size_t... I>
+    static Variant Call(Object& object, std::span<const Variant> values, std::index_sequence<I...>) {
+        auto& self = static_cast<Owner&>(object);
+        return AsVariant<Result>([&]() -> Result { return (self.*Pointer)(TakeArgument<Arguments>(values[I])...); });
+    }
+    static constexpr auto Indices = std::index_sequence_for<Arguments...>{};
+};
+template <class Owner, class Result, class... Arguments>
+struct Callable<Result (Owner::*)(Arguments...) const> : Callable<Result (Owner::*)(Arguments...)> {};
+template <class Owner, class Result, class... Arguments>
+struct Callable<Result (Owner::*)(Arguments...) noexcept> : Callable<Result (Owner::*)(Arguments...)> {};
+template <class Owner, class Result, class... Arguments>
+struct Callable<Result (Owner::*)(Arguments...) const noexcept> : Callable<Result (Owner::*)(Arguments...)> {};
+
+template <class Result, class... Arguments>
+struct Callable<Result (*)(Arguments...)> {
+    using Value = std::decay_t<Result>;
+    template <auto Pointer, std::size_t... I>
+    static Variant Call(Object&, std::span<const Variant> values, std::index_sequence<I...>) {
+        return AsVariant<Result>([&]() -> Result { return Pointer(TakeArgument<Arguments>(values[I])...); });
+    }
+    static constexpr auto Indices = std::index_sequence_for<Arguments...>{};
+};
+
+template <auto Pointer>
+Variant Invoke(Object& object, std::span<const Variant> values) {
+    using Target = Callable<decltype(Pointer)>;
+    return Target::template Call<Pointer>(object, values, Target::Indices);
+}
+
+template <auto Getter>
+Variant Read(Object& object) {
+    return Invoke<Getter>(object, {});
+}
+
+template <auto Setter>
+void Write(Object& object, const Variant& value) {
+    Invoke<Setter>(object, {&value, 1});
+}
+
+template <class Type>
+Rule RuleOfValue() {
+    if constexpr (std::is_same_v<Type, bool>) return {.kind = Kind::Boolean};
+    else if constexpr (std::is_same_v<Type, double>) return {.kind = Kind::Real};
+    else if constexpr (std::is_integral_v<Type> || std::is_enum_v<Type>) return {.kind = Kind::Number};
+    else if constexpr (std::is_same_v<Type, Variant>) return {.kind = Kind::Any};
+    else if constexpr (std::is_convertible_v<Type, std::string_view>) return {.kind = Kind::Text};
+    else return {.kind = Kind::Object};
+}
+
+template <Name RangeName, auto First, auto Last>
+Rule RuleOfField(const Choice<RangeName, First, Last>& field) {
+    return {.kind = Kind::Number, .limited = true, .low = First, .high = Last, .rangeName = RangeName.View(),
+            .initial = static_cast<std::int32_t>(static_cast<decltype(First)>(field))};
+}
+template <Name RangeName, std::uint8_t First, std::uint8_t Last>
+Rule RuleOfField(const Byte<RangeName, First, Last>& field) {
+    return {.kind = Kind::Number, .bits = 8, .limited = true, .low = First, .high = Last,
+            .rangeName = RangeName.View(), .initial = static_cast<std::int32_t>(field)};
+}
+inline Rule RuleOfField(const Short& field) {
+    return {.kind = Kind::Number, .bits = 16, .initial = static_cast<std::int32_t>(field)};
+}
+inline Rule RuleOfField(const Rounded& field) {
+    return {.kind = Kind::Real, .bits = 16, .initial = static_cast<double>(field)};
+}
+inline Rule RuleOfField(const Length& field) {
+    return {.kind = Kind::Length, .bits = 16, .initial = static_cast<double>(field.Twips())};
+}
+template <std::int32_t Factor, std::int32_t Divisor>
+Rule RuleOfField(const Real<Factor, Divisor>& field) {
+    return {.kind = Kind::Real, .initial = static_cast<double>(field)};
+}
+template <class Plain>
+Rule RuleOfField(const Plain& field) {
+    Rule rule = RuleOfValue<Plain>();
+    rule.initial = ToVariant(field);
+    return rule;
+}
+
+template <class Values, class Field>
+Rule RuleOf(Field Values::*member) {
+    static const Values initial{};
+    return RuleOfField(initial.*member);
+}
+
+}  // namespace detail
+
+/// A row of a class's table: a property with its getter, its setter (nullptr: read only) and the field that holds
+/// its rule and default (nullptr: the property has a mind of its own).
+template <auto Getter, auto Setter = nullptr, auto Field = nullptr>
+Property PropertyOf(std::string_view name) {
+    Property property{.name = name, .rule = {}, .get = detail::Read<Getter>, .set = nullptr};
+    if constexpr (!std::is_null_pointer_v<decltype(Field)>) {
+        property.rule = detail::RuleOf(Field);
+    } else {
+        property.rule = detail::RuleOfValue<typename detail::Callable<decltype(Getter)>::Value>();
+    }
+    if constexpr (!std::is_null_pointer_v<decltype(Setter)>) property.set = detail::Write<Setter>;
+    return property;
+}
+
+/// A row of a class's table: a method with the names and defaults of its arguments.
+template <auto Pointer>
+Method MethodOf(std::string_view name, std::vector<Argument> arguments = {}) {
+    return {name, std::move(arguments), detail::Invoke<Pointer>};
+}
+
+}  // namespace draftwick

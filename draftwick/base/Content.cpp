@@ -1,0 +1,43 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/Content.h>
+#include <draftwick/base/WritingContext.h>
+
+namespace draftwick {
+
+void Content::CheckNotEmitted() const {
+    if (emitted_) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
+}
+
+void Content::CheckNotFinished() const {
+    if (finished_) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
+}
+
+void Content::Emit() {
+    if (emitted_) return;
+    WriteStart();
+    emitted_ = true;
+}
+
+void Content::Close() {
+    if (finished_) return;
+    Emit();
+    CloseCurrentChild();
+    WriteEnd();
+    finished_ = true;
+}
+
+void Content::CloseCurrentChild() {
+    if (open_ == nullptr) return;
+    open_->Close();
+    open_ = nullptr;
+}
+
+void Content::PrepareAdd() {
+    WritingContext& context = Writing();
+    CheckNotFinished();
+    Emit();
+    CloseCurrentChild();
+    context.output.Checkpoint();
+}
+
+}  // namespace draftwick

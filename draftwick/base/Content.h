@@ -1,0 +1,60 @@
+#pragma once
+
+#include <draftwick/base/Object.h>
+
+#include <memory>
+#include <utility>
+
+namespace draftwick {
+
+/// The life of everything that is written where it was added: open, emitted, finished.
+///
+/// Adding a child to a container first writes the container's own start, then finishes the child before, so the
+/// file has everything in the order in which it was added. What is written can no longer change; what is finished
+/// takes no more children.
+class Content : public Node {
+public:
+    using Node::Node;
+
+    /// Whether the object's own settings are written. They can no longer change.
+    bool Emitted() const noexcept { return emitted_; }
+    /// Whether the object is closed. It takes no more children.
+    bool Finished() const noexcept { return finished_; }
+
+    /// dwErrTargetEmitted with the class's name once the object is emitted.
+    void CheckNotEmitted() const override;
+
+protected:
+    /// Writes the object's own start. Judges everything that can fail before the first byte.
+    virtual void WriteStart() = 0;
+    /// Writes what ends the object, after its last child.
+    virtual void WriteEnd() {}
+
+    /// Writes the start, once.
+    void Emit();
+    /// Finishes the object, once: writes what is still open of it, then its end.
+    void Close();
+    void CloseCurrentChild();
+    /// dwErrTargetEmitted with the class's name once the object is finished.
+    void CheckNotFinished() const;
+
+    /// Every Add method: refuses once finished, writes the start, finishes the child before, creates the child and
+    /// keeps it in the slot of its kind. A failure of the file is reported here, before there is a new child.
+    template <class Child, class... Arguments>
+    std::shared_ptr<Child> Add(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
+        PrepareAdd();
+        auto child = std::make_shared<Child>(OriginOfChild(), std::forward<Arguments>(arguments)...);
+        open_ = child;
+        slot = child;
+        return child;
+    }
+
+private:
+    void PrepareAdd();
+
+    std::shared_ptr<Content> open_;  // the child that is not finished yet
+    bool emitted_ = false;
+    bool finished_ = false;
+};
+
+}  // namespace draftwick

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <draftwick/base/Rules.h>
+
+#include <string>
+
+namespace draftwick {
+
+/// Which side of the paper is up.
+enum dwOrientation : std::int32_t { dwPortrait = 1, dwLandscape = 2 };
+
+/// The view in which a reader is asked to open the document (RTF \viewkind).
+enum dwViewKind : std::int32_t {
+    dwViewNone = 1,  ///< the reader decides
+    dwViewPageLayout = 2,
+    dwViewOutline = 3,
+    dwViewMaster = 4,
+    dwViewNormal = 5,
+    dwViewOnlineLayout = 6,
+};
+
+/// How large a reader is asked to show the document (RTF \viewzk).
+enum dwZoomKind : std::int32_t {
+    dwZoomPercent = 1,  ///< by the number in ZoomScale
+    dwZoomFullPage = 2,
+    dwZoomBestFit = 3,
+};
+
+/// How notes are numbered.
+enum dwFootnoteFormat : std::int32_t {
+    dwFFDecimal = 1,
+    dwFFLetterLower = 2,
+    dwFFLetterUpper = 3,
+    dwFFRomanLower = 4,
+    dwFFRomanUpper = 5,
+};
+enum dwFootnoteLocation : std::int32_t { dwFLBeneathText = 1, dwFLBottomOfPage = 2 };
+/// Where endnotes are collected: at the end of their section or of the document.
+enum dwEndnoteLocation : std::int32_t { dwELSection = 1, dwELDocument = 2 };
+/// Where the numbers of notes start again.
+enum dwFootnoteRestart : std::int32_t { dwFRPage = 1, dwFRSection = 2, dwFRContinuous = 3 };
+
+/// The page of a document or section.
+struct PageSetup {
+    Length marginTop{720};
+    Length marginLeft{720};
+    Length marginRight{720};
+    Length marginBottom{720};
+    Length pageWidth{12240};
+    Length pageHeight{15840};
+    Length gutter{0};
+};
+
+/// The settings of a document, as they are stored.
+struct DocumentSettings {
+    Choice<"ScaleMode", dwInches, dwPoints> scaleMode{dwInches};
+    PageSetup page;
+    Choice<"Document.Format.Orientation", dwPortrait, dwLandscape> orientation{dwPortrait};
+    std::string caption;
+    bool pageBorderAroundHeader = true;
+    bool pageBorderAroundFooter = true;
+    bool facingPage = false;
+    bool hyphenAuto = false;
+    bool hyphenCaps = true;
+    std::int32_t hyphenConsecutiveLines = 0;
+    Length hyphenHotZone{360};
+    bool marginMirror = false;
+    Short pageNumberStart{1};
+    Length tabWidth{720};
+    // Hosts know these two names with their odd letter: error texts are part of the interface.
+    Choice<"DocumenmViewKind", dwViewNone, dwViewOnlineLayout> viewKind{dwViewNone};
+    Choice<"DocumenmZoomKind", dwZoomPercent, dwZoomBestFit> zoomKind{dwZoomPercent};
+    Short zoomScale{100};
+    bool widowOrphanControl = true;
+    std::string filename;
+    std::string tempPath;
+    Choice<"FootnoteFormat", dwFFDecimal, dwFFRomanUpper> footnoteFormat{dwFFDecimal};
+    Choice<"EndnoteFormat", dwFFDecimal, dwFFRomanUpper> endnoteFormat{dwFFDecimal};
+    Choice<"FootnoteLocation", dwFLBeneathText, dwFLBottomOfPage> footnoteLocation{dwFLBottomOfPage};
+    Choice<"EndnoteLocation", dwELSection, dwELDocument> endnoteLocation{dwELSection};
+    Choice<"FootnoteRestart", dwFRPage, dwFRContinuous> footnoteRestart{dwFRContinuous};
+    Choice<"EndnoteRestart", dwFRPage, dwFRContinuous> endnoteRestart{dwFRContinuous};
+    Short footnoteStartAt{1};
+    Short endnoteStartAt{1};
+};
+
+}  // namespace draftwick

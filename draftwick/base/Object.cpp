@@ -1,0 +1,58 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/Object.h>
+#include <draftwick/base/Utf8.h>
+#include <draftwick/base/WritingContext.h>
+
+namespace draftwick {
+
+NoRef::NoRef(const std::shared_ptr<Object>& object)
+    : object_(object), class_(object == nullptr ? nullptr : &object->Description()) {}
+
+std::shared_ptr<Object> Object::DocumentObject() const {
+    const WritingContext* context = SharedContext().get();
+    return context == nullptr ? nullptr : context->documentLink.lock();
+}
+
+std::shared_ptr<draftwick::Document> Object::Document() const {
+    const std::shared_ptr<Object> link = DocumentObject();
+    return link == nullptr ? nullptr : std::shared_ptr<draftwick::Document>(link, SharedContext()->document);
+}
+
+WritingContext& Object::Writing() const {
+    WritingContext* context = SharedContext().get();
+    if (context == nullptr || context->document == nullptr) RaiseRuntimeError(dwRunObjectGone);
+    return *context;
+}
+
+dwScaleMode Object::OpenForChange() const {
+    const WritingContext& context = Writing();
+    CheckNotEmitted();
+    return context.settings.scaleMode;
+}
+
+void Object::Change(std::string& field, std::string_view value) {
+    OpenForChange();
+    field = ToValidUtf8(value);
+}
+
+double Object::Read(Length length) const { return FromTwips(length.Twips(), Writing().settings.scaleMode); }
+
+void Node::CheckNotEmitted() const {
+    const std::shared_ptr<Object> parent = Parent();
+    if (parent == nullptr) {
+        Writing();
+        RaiseError(dwErrTargetEmitted, {std::string{parent_.ClassOf()->name}});
+    }
+    parent->CheckNotEmitted();
+}
+
+std::shared_ptr<Object> Node::Self() const {
+    return std::const_pointer_cast<Node>(weak_from_this().lock());
+}
+
+// A part is changed through references to it, whoever asks for one.
+std::shared_ptr<Object> Part::Self() const { return {parent_->Self(), const_cast<Part*>(this)}; }
+
+const std::shared_ptr<WritingContext>& Part::SharedContext() const noexcept { return parent_->SharedContext(); }
+
+}  // namespace draftwick

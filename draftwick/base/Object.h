@@ -1,0 +1,158 @@
+#pragma once
+
+#include <draftwick/base/Rules.h>
+#include <draftwick/base/Variant.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+struct Class;
+class Document;
+class WritingContext;
+
+/// A link to an object that it does not own: it stores the identity and gives a new owning reference on request,
+/// or nothing once the object is gone.
+class NoRef {
+public:
+    NoRef() = default;
+    explicit NoRef(const std::shared_ptr<Object>& object);
+
+    std::shared_ptr<Object> Resolve() const { return object_.lock(); }
+    /// The class of the object, also when the object is gone.
+    const Class* ClassOf() const noexcept { return class_; }
+
+private:
+    std::weak_ptr<Object> object_;
+    const Class* class_ = nullptr;
+};
+
+/// What a new object is told at its creation. Only the library makes one.
+struct Origin {
+    std::shared_ptr<WritingContext> context;
+    std::shared_ptr<Object> parent;
+};
+
+/// Everything in the object model. A host holds objects by std::shared_ptr; nothing it holds dangles, and nothing
+/// it holds keeps the document alive. An object whose document is gone can still be read where no unit of length
+/// is involved; everything else is refused with error 91.
+class Object {
+public:
+    Object() = default;
+    Object(const Object&) = delete;
+    Object& operator=(const Object&) = delete;
+    virtual ~Object() = default;
+
+    /// The object that this one belongs to; empty when that is gone, and for a document.
+    virtual std::shared_ptr<Object> Parent() const = 0;
+    /// The document; empty once the host has let it go.
+    std::shared_ptr<draftwick::Document> Document() const;
+    /// The document as a generic object.
+    std::shared_ptr<Object> DocumentObject() const;
+
+    /// The class's run-time description: its members by name.
+    virtual const Class& Description() const = 0;
+
+    // The rest is for the library.
+
+    /// Raises dwErrTargetEmitted once the object is written and can no longer change.
+    virtual void CheckNotEmitted() const = 0;
+    /// An owning reference to this object.
+    virtual std::shared_ptr<Object> Self() const = 0;
+    /// What the objects of one document share. Error 91 when the document is gone.
+    WritingContext& Writing() const;
+
+protected:
+    virtual const std::shared_ptr<WritingContext>& SharedContext() const noexcept = 0;
+    /// What a new object that belongs to this one is told.
+    virtual Origin OriginOfChild() const = 0;
+
+    /// Every setter: refuses once written, checks the rule of the field, converts and stores.
+    template <class Field, class Value>
+    void Change(Field& field, const Value& value) {
+        const dwScaleMode scale = OpenForChange();
+        if constexpr (requires { field.Set(value, scale); }) {
+            field.Set(value, scale);
+        } else if constexpr (requires { field.Set(value); }) {
+            field.Set(value);
+        } else {
+            field = value;
+        }
+    }
+    /// As above for texts: what is not UTF-8 becomes U+FFFD.
+    void Change(std::string& field, std::string_view value);
+    /// What every setter does first: refuses when the document is gone or the object is written. Returns the
+    /// document's unit of length.
+    dwScaleMode OpenForChange() const;
+    /// A length in the document's unit.
+    double Read(Length length) const;
+
+    /// An owning reference to a part of this object.
+    template <class Member>
+    std::shared_ptr<Member> Share(Member& part) const {
+        return {Self(), &part};
+    }
+
+private:
+    friend class Part;
+};
+
+/// An object of its own: it lives as long as somebody holds it.
+class Node : public Object, public std::enable_shared_from_this<Node> {
+public:
+    explicit Node(const Origin& origin) : parent_(origin.parent), context_(origin.context) {}
+
+    std::shared_ptr<Object> Parent() const override { return parent_.Resolve(); }
+    /// Refused when the parent refuses, and when the parent is gone.
+    void CheckNotEmitted() const override;
+    std::shared_ptr<Object> Self() const override;
+
+protected:
+    const std::shared_ptr<WritingContext>& SharedContext() const noexcept override { return context_; }
+    Origin OriginOfChild() const override { return {context_, Self()}; }
+    void SetContext(std::shared_ptr<WritingContext> context) { context_ = std::move(context); }
+
+private:
+    NoRef parent_;
+    std::shared_ptr<WritingContext> context_;
+};
+
+/// A part of another object: whoever holds it keeps the whole alive. It refuses when the whole refuses.
+class Part : public Object {
+public:
+    explicit Part(Object& parent) : parent_(&parent) {}
+
+    std::shared_ptr<Object> Parent() const override { return parent_->Self(); }
+    void CheckNotEmitted() const override { parent_->CheckNotEmitted(); }
+    std::shared_ptr<Object> Self() const override;
+
+protected:
+    const std::shared_ptr<WritingContext>& SharedContext() const noexcept override;
+    /// An object in a collection belongs to the collection's owner.
+    Origin OriginOfChild() const override { return {SharedContext(), Parent()}; }
+    Object& Whole() const noexcept { return *parent_; }
+
+private:
+    Object* parent_;
+};
+
+/// A part that is created when it is first read. Whether it exists can matter: a writer uses an object's own part
+/// only if it was ever created.
+template <class Type>
+class Lazy {
+public:
+    const Type* Find() const noexcept { return part_.get(); }
+    template <class... Arguments>
+    Type& Get(Arguments&&... arguments) {
+        if (part_ == nullptr) part_ = std::make_unique<Type>(std::forward<Arguments>(arguments)...);
+        return *part_;
+    }
+
+private:
+    std::unique_ptr<Type> part_;
+};
+
+}  // namespace draftwick

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <draftwick/base/ColorTable.h>
+#include <draftwick/base/DocumentSettings.h>
+#include <draftwick/base/Output.h>
+#include <draftwick/platform/Platform.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace draftwick {
+
+class Document;
+class Fonts;
+class Lists;
+class Object;
+class ParagraphStyles;
+class TextStyles;
+
+/// Where the paragraph and table writers stand in the document.
+struct LayoutState {
+    bool SuppressNextParagraphMark = false;  ///< the next paragraph is not preceded by \par
+    bool TableEndsSection = false;           ///< a row came last: the end of the section needs a \par
+};
+
+/// What all objects of one document share. It lives as long as any of them; `document` ends with the document, and
+/// with it the pointers to what the document owns.
+class WritingContext {
+public:
+    explicit WritingContext(platform::Platform services) : platform(std::move(services)) {}
+
+    platform::Platform platform;
+    DocumentSettings settings;
+    Output output;
+    LayoutState layout;
+    bool firstSection = true;
+
+    ColorTable colors;
+    std::int32_t lastOverrideNumber = 10000;  // counted up before use
+    std::int32_t lastShapeIndex = 0;          // counted up before use
+
+    // Null once the document is gone.
+    draftwick::Document* document = nullptr;
+    draftwick::Fonts* fonts = nullptr;
+    draftwick::Lists* lists = nullptr;
+    draftwick::ParagraphStyles* paragraphStyles = nullptr;
+    draftwick::TextStyles* textStyles = nullptr;
+    /// The position of the default font in `fonts`, or NoFont.
+    std::int32_t defaultFont = NoFont;
+    static constexpr std::int32_t NoFont = -1;
+    std::weak_ptr<Object> documentLink;
+};
+
+}  // namespace draftwick

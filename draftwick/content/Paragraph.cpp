@@ -1,0 +1,76 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/content/Paragraph.h>
+#include <draftwick/content/TextItem.h>
+#include <draftwick/format/BackgroundWriter.h>
+#include <draftwick/format/BorderWriter.h>
+#include <draftwick/format/FontFormatWriter.h>
+#include <draftwick/format/Styles.h>
+
+namespace draftwick {
+
+std::string Paragraph::StyleName() const {
+    return style_ == Style::NoStyle ? std::string{} : Writing().paragraphStyles->At(style_).Name();
+}
+
+void Paragraph::SetStyleName(std::string_view name) {
+    OpenForChange();
+    if (name.empty()) {
+        style_ = Style::NoStyle;
+        return;
+    }
+    const ParagraphStyles& styles = *Writing().paragraphStyles;
+    const std::int32_t index = styles.IndexOf(name);
+    const ParagraphStyle& style = styles.At(index);
+    tabStops_.Get(*this).CopyFrom(style.StoredTabStops());
+    borders_.Get(*this).CopyFrom(style.StoredBorders());
+    fontFormat_.Get(*this).CopyFrom(style.StoredFontFormat());
+    background_.Get(*this).CopyFrom(style.StoredBackground());
+    format_.CopyFrom(style.StoredFormat());
+    style_ = index;
+}
+
+std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw) {
+    return Add(currentTextItem_, text, raw);
+}
+
+/// \par\pard\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
+void Paragraph::WriteStart() {
+    WritingContext& context = Writing();
+    const std::shared_ptr<Object> parent = Parent();
+    if (parent == nullptr) CheckParent();
+    static_cast<Container&>(*parent).WriteParagraphMark();
+    context.output.WriteControlWord("pard");
+    if (style_ != Style::NoStyle) context.output.WriteControlWord("s", style_);
+    if (const ParagraphBorders* borders = borders_.Find()) EmitParagraphBorders(context, *borders);
+    if (const draftwick::Background* background = background_.Find()) EmitBackground(context, background->Stored());
+    const draftwick::FontFormat* font = fontFormat_.Find();
+    EmitFontFormat(context, font != nullptr ? font->Stored() : DefaultFontFormat(context), true);
+    EmitParagraphFormat(context, format_.Stored());
+    if (const draftwick::TabStops* tabStops = tabStops_.Find()) EmitTabStops(context, *tabStops);
+}
+
+const Class& Paragraph::Description() const {
+    using P = Paragraph;
+    static const Class description{
+        "Paragraph",
+        "{@C}",
+        "{@I}",
+        {
+            PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
+            PropertyOf<&P::Emitted>("Emitted"),
+            PropertyOf<&P::Finished>("Finished"),
+            PropertyOf<&P::Background>("Background"),
+            PropertyOf<&P::Borders>("Borders"),
+            PropertyOf<&P::FontFormat>("FontFormat"),
+            PropertyOf<&P::Format>("Format"),
+            PropertyOf<&P::TabStops>("TabStops"),
+            PropertyOf<&P::StyleName, &P::SetStyleName>("StyleName"),
+        },
+        {
+            MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
+        }};
+    return description;
+}
+
+}  // namespace draftwick

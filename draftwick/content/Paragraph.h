@@ -1,0 +1,62 @@
+#pragma once
+
+#include <draftwick/content/Container.h>
+#include <draftwick/format/Background.h>
+#include <draftwick/format/Border.h>
+#include <draftwick/format/FontFormat.h>
+#include <draftwick/format/ParagraphFormat.h>
+#include <draftwick/format/TabStops.h>
+
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+class TextItem;
+
+/// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
+/// on they and those of its parts refuse ("Paragraph"). It is closed when its container gets another child or is
+/// closed itself; then it takes no more children.
+class Paragraph final : public Content {
+public:
+    explicit Paragraph(const Origin& origin) : Content(origin), format_(*this) {}
+
+    /// The name of a paragraph style; empty (default) for none. Setting it looks the style up (dwErrItemNotFound),
+    /// takes its spelling and copies everything that the style has into the paragraph, over what was set before;
+    /// what is set afterwards counts. An empty name copies nothing.
+    std::string StyleName() const;
+    void SetStyleName(std::string_view name);
+
+    std::shared_ptr<ParagraphFormat> Format() { return Share(format_); }
+    /// The look of the paragraph's runs unless they say otherwise. Reading it once makes it the paragraph's own.
+    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_.Get(*this)); }
+    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
+    std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_.Get(*this)); }
+    std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_.Get(*this)); }
+
+    /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
+    std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
+
+    /// The run that was added last; empty before the first.
+    std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
+
+    const Class& Description() const override;
+
+    // The rest is for the library.
+
+    const draftwick::FontFormat* OwnFontFormat() const noexcept { return fontFormat_.Find(); }
+
+protected:
+    void WriteStart() override;
+
+private:
+    std::int32_t style_ = -1;  // the position in the document's paragraph styles, or Style::NoStyle
+    ParagraphFormat format_;
+    Lazy<draftwick::FontFormat> fontFormat_;
+    Lazy<draftwick::Background> background_;
+    Lazy<ParagraphBorders> borders_;
+    Lazy<draftwick::TabStops> tabStops_;
+    std::shared_ptr<TextItem> currentTextItem_;
+};
+
+}  // namespace draftwick

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <draftwick/base/Content.h>
+#include <draftwick/format/Background.h>
+#include <draftwick/format/Border.h>
+#include <draftwick/format/FontFormat.h>
+
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+/// What a run of text and a field have in common: a text style and a look of their own. Everything can be changed
+/// until the run is written, which is when its paragraph gets the next child or is closed.
+class Run : public Content {
+public:
+    using Content::Content;
+
+    /// The name of a text style; empty (default) for none. It is looked up when the run is written: a name that does
+    /// not exist then makes the call that would write it fail (dwErrItemNotFound), and the name can still be mended.
+    const std::string& StyleName() const { return styleName_; }
+    void SetStyleName(std::string_view name) { Change(styleName_, name); }
+
+    /// The look of the text. It starts from the paragraph's FontFormat as that is when this one is first read.
+    std::shared_ptr<draftwick::FontFormat> FontFormat();
+    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
+    std::shared_ptr<TextBorder> Border() { return Share(border_.Get(*this)); }
+
+protected:
+    /// "{\cs2\b1\chbgcross...\chbrdr...": opens the run's group. Fails before the first byte or not at all.
+    void WriteRunStart();
+
+private:
+    const class Paragraph* ParentParagraph() const;
+
+    std::string styleName_;
+    Lazy<draftwick::FontFormat> fontFormat_;
+    Lazy<draftwick::Background> background_;
+    Lazy<TextBorder> border_;
+};
+
+}  // namespace draftwick

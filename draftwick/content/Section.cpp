@@ -1,0 +1,75 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/content/Section.h>
+#include <draftwick/content/SectionWriter.h>
+
+#include <utility>
+
+namespace draftwick {
+
+Section::Section(const Origin& origin) : Container(origin) {
+    const DocumentSettings& document = Writing().settings;
+    values_.page = document.page;
+    values_.orientation = document.orientation;
+}
+
+void Section::SetOrientation(dwOrientation orientation) {
+    const dwOrientation before = values_.orientation;
+    Change(values_.orientation, orientation);
+    if (orientation != before) std::swap(values_.page.pageWidth, values_.page.pageHeight);
+}
+
+void Section::WriteStart() { EmitSection(Writing(), values_); }
+
+void Section::WriteEnd() { WriteSectionEnd(Writing()); }
+
+const Class& Section::Description() const {
+    using S = Section;
+    using V = Values;
+    using P = PageSetup;
+    static const Class description{
+        "Section",
+        "{@C}",
+        "{@I}",
+        {
+            PropertyOf<&S::CurrentParagraph>("CurrentParagraph"),
+            PropertyOf<&S::Emitted>("Emitted"),
+            PropertyOf<&S::Finished>("Finished"),
+            PropertyOf<&S::MarginTop, &S::SetMarginTop, &P::marginTop>("MarginTop"),
+            PropertyOf<&S::MarginLeft, &S::SetMarginLeft, &P::marginLeft>("MarginLeft"),
+            PropertyOf<&S::MarginRight, &S::SetMarginRight, &P::marginRight>("MarginRight"),
+            PropertyOf<&S::MarginBottom, &S::SetMarginBottom, &P::marginBottom>("MarginBottom"),
+            PropertyOf<&S::PageWidth, &S::SetPageWidth, &P::pageWidth>("PageWidth"),
+            PropertyOf<&S::PageHeight, &S::SetPageHeight, &P::pageHeight>("PageHeight"),
+            PropertyOf<&S::Gutter, &S::SetGutter, &P::gutter>("Gutter"),
+            PropertyOf<&S::Orientation, &S::SetOrientation, &V::orientation>("Orientation"),
+            PropertyOf<&S::Break, &S::SetBreak, &V::sectionBreak>("Break"),
+            PropertyOf<&S::HeaderY, &S::SetHeaderY, &V::headerY>("HeaderY"),
+            PropertyOf<&S::FooterY, &S::SetFooterY, &V::footerY>("FooterY"),
+            PropertyOf<&S::LineNumberingInterval, &S::SetLineNumberingInterval, &V::lineNumberingInterval>(
+                "LineNumberingInterval"),
+            PropertyOf<&S::LineNumberingRestart, &S::SetLineNumberingRestart, &V::lineNumberingRestart>(
+                "LineNumberingRestart"),
+            PropertyOf<&S::LineNumberingStart, &S::SetLineNumberingStart, &V::lineNumberingStart>(
+                "LineNumberingStart"),
+            PropertyOf<&S::LineNumberingVisible, &S::SetLineNumberingVisible, &V::lineNumberingVisible>(
+                "LineNumberingVisible"),
+            PropertyOf<&S::LineNumberingX, &S::SetLineNumberingX, &V::lineNumberingX>("LineNumberingX"),
+            PropertyOf<&S::PageNumberingFormat, &S::SetPageNumberingFormat, &V::pageNumberingFormat>(
+                "PageNumberingFormat"),
+            PropertyOf<&S::PageNumberingRestart, &S::SetPageNumberingRestart, &V::pageNumberingRestart>(
+                "PageNumberingRestart"),
+            PropertyOf<&S::PageNumberingStart, &S::SetPageNumberingStart, &V::pageNumberingStart>(
+                "PageNumberingStart"),
+            PropertyOf<&S::PaperBin, &S::SetPaperBin, &V::paperBin>("PaperBin"),
+            PropertyOf<&S::PaperBinFirst, &S::SetPaperBinFirst, &V::paperBinFirst>("PaperBinFirst"),
+            PropertyOf<&S::TitlePage, &S::SetTitlePage, &V::titlePage>("TitlePage"),
+            PropertyOf<&S::VerticalAlign, &S::SetVerticalAlign, &V::verticalAlign>("VerticalAlign"),
+        },
+        {
+            MethodOf<&S::AddParagraph>("AddParagraph"),
+        }};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,66 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/Text.h>
+#include <draftwick/base/Utf8.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/content/TextItem.h>
+
+namespace draftwick {
+
+TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(origin) {
+    if (raw) {
+        AddRawText(text);
+    } else {
+        AddText(text);
+    }
+}
+
+void TextItem::AddText(std::string_view text) {
+    OpenForChange();
+    AppendEscaped(text_, text);
+}
+
+void TextItem::AddRawText(std::string_view text) {
+    OpenForChange();
+    text_ += ToValidUtf8(text);
+}
+
+void TextItem::AddSpecial(std::string_view special) {
+    OpenForChange();
+    std::string code = ToValidUtf8(special);
+    for (char& c : code) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    if (code.empty() || code.front() != '\\') code.insert(code.begin(), '\\');
+    text_ += code + " ";
+}
+
+/// "{\b1 text}"
+void TextItem::WriteStart() {
+    WriteRunStart();
+    Output& output = Writing().output;
+    output.WriteText(text_);
+    output.WriteGroupEnd();
+}
+
+const Class& TextItem::Description() const {
+    using T = TextItem;
+    static const Class description{"TextItem",
+                                   "{@C}",
+                                   "{@I}",
+                                   {
+                                       PropertyOf<&T::Emitted>("Emitted"),
+                                       PropertyOf<&T::Text>("Text"),
+                                       PropertyOf<&T::StyleName, &T::SetStyleName>("StyleName"),
+                                       PropertyOf<&T::FontFormat>("FontFormat"),
+                                       PropertyOf<&T::Background>("Background"),
+                                       PropertyOf<&T::Border>("Border"),
+                                   },
+                                   {
+                                       MethodOf<&T::AddText>("AddText", {{"Value"}}),
+                                       MethodOf<&T::AddRawText>("AddRawText", {{"Value"}}),
+                                       MethodOf<&T::AddSpecial>("AddSpecial", {{"Special"}}),
+                                   }};
+    return description;
+}
+
+}  // namespace draftwick

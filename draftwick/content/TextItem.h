@@ -1,0 +1,32 @@
+#pragma once
+
+#include <draftwick/content/Run.h>
+
+namespace draftwick {
+
+/// A run of text with one look. Text can be added until the run is written.
+class TextItem final : public Run {
+public:
+    TextItem(const Origin& origin, std::string_view text, bool raw);
+
+    /// Adds text; characters that mean something in RTF are escaped, tabs and CR LF become \tab and \line.
+    void AddText(std::string_view text);
+    /// Adds RTF as it is: it must be valid.
+    void AddRawText(std::string_view text);
+    /// Adds the code of a special character, one of those in Special or any other: ASCII letters are made lower
+    /// case, a backslash is put in front if there is none, and a space behind.
+    void AddSpecial(std::string_view special);
+
+    /// All that was added, in RTF form and UTF-8.
+    const std::string& Text() const { return text_; }
+
+    const Class& Description() const override;
+
+protected:
+    void WriteStart() override;
+
+private:
+    std::string text_;
+};
+
+}  // namespace draftwick

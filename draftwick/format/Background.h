@@ -1,0 +1,65 @@
+#pragma once
+
+#include <draftwick/base/Object.h>
+
+namespace draftwick {
+
+/// The shading or pattern behind something (RTF \shading, \bg* and their \ch and \cl forms).
+enum dwTexture : std::int32_t {
+    dwTextureNone = 1,
+    dwTextureCross = 2,
+    dwTextureDarkCross = 3,
+    dwTextureDarkDiagonalCross = 4,
+    dwTextureDarkDiagonalDown = 5,
+    dwTextureDarkDiagonalUp = 6,
+    dwTextureDarkHorizontal = 7,
+    dwTextureDarkVertical = 8,
+    dwTextureDiagonalCross = 9,
+    dwTextureDiagonalDown = 10,
+    dwTextureDiagonalUp = 11,
+    dwTextureHorizontal = 12,
+    dwTextureSolid = 13,
+    dwTextureVertical = 14,
+    dwTextureShaded = 15,  ///< by the percentage in Shading
+};
+
+/// What stands behind a paragraph, a run of text, a table cell or the text of a style. Colours have red in the
+/// lowest byte, then green, then blue.
+class Background final : public Part {
+public:
+    struct Values {
+        Choice<"Background.Texture", dwTextureNone, dwTextureShaded> texture{dwTextureNone};
+        Rounded shading{0};
+        std::int32_t color = 0;
+        std::int32_t backColor = 0xFFFFFF;
+    };
+
+    using Part::Part;
+
+    /// The kind of shading or pattern. Default dwTextureNone: nothing.
+    dwTexture Texture() const { return values_.texture; }
+    void SetTexture(dwTexture texture) { Change(values_.texture, texture); }
+
+    /// Percent of shading for dwTextureShaded; rounded to a whole number, ties to even. Default 0. Error 6 outside
+    /// of 16 bits.
+    double Shading() const { return values_.shading; }
+    void SetShading(double percent) { Change(values_.shading, percent); }
+
+    /// The colour of the shading, or of the lines of a pattern. Default black.
+    std::int32_t Color() const { return values_.color; }
+    void SetColor(std::int32_t color) { Change(values_.color, color); }
+
+    /// The colour behind a pattern; of text and cells also that of dwTextureSolid. Default white.
+    std::int32_t BackColor() const { return values_.backColor; }
+    void SetBackColor(std::int32_t color) { Change(values_.backColor, color); }
+
+    const Class& Description() const override;
+
+    const Values& Stored() const noexcept { return values_; }
+    void CopyFrom(const Background& other) { values_ = other.values_; }
+
+private:
+    Values values_;
+};
+
+}  // namespace draftwick

@@ -1,0 +1,171 @@
+#pragma once
+
+#include <draftwick/base/Collection.h>
+#include <draftwick/base/Object.h>
+
+#include <array>
+
+namespace draftwick {
+
+/// The lines that borders of every kind are drawn with (RTF \brdrs and its siblings).
+enum dwBorderStyle : std::int32_t {
+    dwBSNone = 1,
+    dwBSSingle = 2,
+    dwBSShadow = 3,
+    dwBSDouble = 4,
+    dwBSDot = 5,
+    dwBSDash = 6,
+    dwBSDashSmall = 7,
+    dwBSDashDot = 8,
+    dwBSDashDotDot = 9,
+    dwBSTriple = 10,
+    dwBSThinThickSmallGap = 11,
+    dwBSThickThinSmallGap = 12,
+    dwBSThinThickThinSmallGap = 13,
+    dwBSThinThickMediumGap = 14,
+    dwBSThickThinMediumGap = 15,
+    dwBSThinThickThinMediumGap = 16,
+    dwBSThinThickLargeGap = 17,
+    dwBSThickThinLargeGap = 18,
+    dwBSThinThickThinLargeGap = 19,
+    dwBSWavy = 20,
+    dwBSWavyDouble = 21,
+    dwBSDashDotStripe = 22,
+    dwBSEmboss = 23,
+    dwBSEngrave = 24,
+};
+
+/// The style of one side of a border.
+using BorderStyle = Choice<"Border.Style", dwBSNone, dwBSEngrave>;
+
+/// The borders of an object, one for each side. A side is created when it is first read; sides that were never
+/// read are never written.
+template <class Border, class Side, std::int32_t SideCount>
+class BorderCollection : public Part {
+public:
+    using Part::Part;
+
+    /// How many sides there are, whether they were read or not.
+    std::int32_t Count() const noexcept { return SideCount; }
+
+    /// The border of a side. Error 9 for a side that there is not.
+    std::shared_ptr<Border> Items(Side side) {
+        if (!InRange(side, 1, SideCount)) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(side));
+        return this->Share(Create(side));
+    }
+
+    CollectionIterator<BorderCollection> begin() { return {this, 1}; }
+    CollectionIterator<BorderCollection> end() { return {this, SideCount + 1}; }
+
+    // The rest is for the library.
+
+    std::shared_ptr<Border> ItemAt(std::int32_t index) { return Items(static_cast<Side>(index)); }
+
+    /// Calls `use` with each side that was created, in the order of the enumeration.
+    template <class Use>
+    void ForEach(Use&& use) const {
+        for (std::int32_t i = 0; i < SideCount; ++i) {
+            if (const Border* border = sides_[static_cast<std::size_t>(i)].Find()) {
+                use(static_cast<Side>(i + 1), *border);
+            }
+        }
+    }
+
+    /// Takes over the sides that the other one has and leaves the others.
+    void CopyFrom(const BorderCollection& other) {
+        other.ForEach([&](Side side, const Border& border) { Create(side).CopyFrom(border); });
+    }
+
+private:
+    Border& Create(Side side) { return sides_[static_cast<std::size_t>(side - 1)].Get(Whole(), side); }
+
+    std::array<Lazy<Border>, static_cast<std::size_t>(SideCount)> sides_;
+};
+
+/// The line around a run of text (RTF \chbrdr). Refuses when the run refuses.
+class TextBorder final : public Part {
+public:
+    struct Values {
+        dwBorderStyle style = dwBSNone;
+        Points width{1};
+        std::int32_t color = 0;
+    };
+
+    using Part::Part;
+
+    /// Default dwBSNone: no border. Not checked: a value outside of the enumeration writes a border without a line.
+    dwBorderStyle Style() const { return values_.style; }
+    void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
+
+    /// Points. Default 1.
+    double Width() const { return values_.width; }
+    void SetWidth(double points) { Change(values_.width, points); }
+
+    /// Default black.
+    std::int32_t Color() const { return values_.color; }
+    void SetColor(std::int32_t color) { Change(values_.color, color); }
+
+    const Class& Description() const override;
+
+    const Values& Stored() const noexcept { return values_; }
+    void CopyFrom(const TextBorder& other) { values_ = other.values_; }
+
+private:
+    Values values_;
+};
+
+/// Which side of a paragraph a border stands on.
+enum dwParagraphBorder : std::int32_t {
+    dwPBorderTop = 1,
+    dwPBorderLeft = 2,
+    dwPBorderRight = 3,
+    dwPBorderBottom = 4,
+    dwPBorderBetween = 5,  ///< between this paragraph and one with the same borders
+    dwPBorderOutside = 6,  ///< the bar beside the paragraph, on the outer side of the page
+};
+
+/// One side of the borders of a paragraph or paragraph style. Refuses when the owner refuses.
+class ParagraphBorder final : public Part {
+public:
+    struct Values {
+        BorderStyle style{dwBSNone};
+        Points width{1};
+        Points spacing{1};
+        std::int32_t color = 0;
+    };
+
+    ParagraphBorder(Object& parent, dwParagraphBorder side);
+
+    /// Default dwBSNone: no border.
+    dwBorderStyle Style() const { return values_.style; }
+    void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
+
+    /// Points. Default 1.
+    double Width() const { return values_.width; }
+    void SetWidth(double points) { Change(values_.width, points); }
+
+    /// From the text to the border: points. Default 1; 4 on the left, on the right and for the bar.
+    double Spacing() const { return values_.spacing; }
+    void SetSpacing(double points) { Change(values_.spacing, points); }
+
+    /// Default black.
+    std::int32_t Color() const { return values_.color; }
+    void SetColor(std::int32_t color) { Change(values_.color, color); }
+
+    const Class& Description() const override;
+
+    const Values& Stored() const noexcept { return values_; }
+    void CopyFrom(const ParagraphBorder& other) { values_ = other.values_; }
+
+private:
+    Values values_;
+};
+
+/// The borders of a paragraph or paragraph style.
+class ParagraphBorders final : public BorderCollection<ParagraphBorder, dwParagraphBorder, 6> {
+public:
+    using BorderCollection::BorderCollection;
+    const Class& Description() const override;
+};
+
+}  // namespace draftwick

@@ -1,0 +1,71 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/format/FontFormat.h>
+#include <draftwick/format/Fonts.h>
+
+namespace draftwick {
+
+FontFormat::FontFormat(Object& parent) : Part(parent) { values_.font = Writing().defaultFont; }
+
+void FontFormat::SetSubscript(bool on) {
+    Change(values_.subscript, on);
+    if (on) values_.superscript = false;
+}
+
+std::string FontFormat::FontName() const {
+    if (values_.font == WritingContext::NoFont) return {};
+    return Writing().fonts->At(values_.font).Name();
+}
+
+void FontFormat::SetFontName(std::string_view name) {
+    OpenForChange();
+    values_.font = name.empty() ? WritingContext::NoFont : Writing().fonts->GetFontIndex(name);
+}
+
+void FontFormat::SetEmboss(bool on) {
+    Change(values_.emboss, on);
+    if (on) values_.engrave = false;
+}
+
+void FontFormat::SetEngrave(bool on) {
+    Change(values_.engrave, on);
+    if (on) values_.emboss = false;
+}
+
+const Class& FontFormat::Description() const {
+    using F = FontFormat;
+    using V = Values;
+    static const Class description{
+        "FontFormat",
+        "{@C}",
+        "{@I}",
+        {
+            PropertyOf<&F::Bold, &F::SetBold, &V::bold>("Bold"),
+            PropertyOf<&F::AllCaps, &F::SetAllCaps, &V::allCaps>("AllCaps"),
+            PropertyOf<&F::Subscript, &F::SetSubscript, &V::subscript>("Subscript"),
+            PropertyOf<&F::Superscript, &F::SetSuperscript, &V::superscript>("Superscript"),
+            PropertyOf<&F::SubscriptPosition, &F::SetSubscriptPosition, &V::subscriptPosition>(
+                "SubscriptPosition"),
+            PropertyOf<&F::SuperscriptPosition, &F::SetSuperscriptPosition, &V::superscriptPosition>(
+                "SuperscriptPosition"),
+            PropertyOf<&F::Size, &F::SetSize, &V::size>("Size"),
+            PropertyOf<&F::FontName, &F::SetFontName>("FontName"),
+            PropertyOf<&F::Italic, &F::SetItalic, &V::italic>("Italic"),
+            PropertyOf<&F::Outline, &F::SetOutline, &V::outline>("Outline"),
+            PropertyOf<&F::SmallCaps, &F::SetSmallCaps, &V::smallCaps>("SmallCaps"),
+            PropertyOf<&F::Shadow, &F::SetShadow, &V::shadow>("Shadow"),
+            PropertyOf<&F::Strikethrough, &F::SetStrikethrough, &V::strikethrough>("Strikethrough"),
+            PropertyOf<&F::StrikethroughDouble, &F::SetStrikethroughDouble, &V::strikethroughDouble>(
+                "StrikethroughDouble"),
+            PropertyOf<&F::Underline, &F::SetUnderline, &V::underline>("Underline"),
+            PropertyOf<&F::Hidden, &F::SetHidden, &V::hidden>("Hidden"),
+            PropertyOf<&F::Color, &F::SetColor, &V::color>("Color"),
+            PropertyOf<&F::Animation, &F::SetAnimation, &V::animation>("Animation"),
+            PropertyOf<&F::Emboss, &F::SetEmboss, &V::emboss>("Emboss"),
+            PropertyOf<&F::Engrave, &F::SetEngrave, &V::engrave>("Engrave"),
+        },
+        {}};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <draftwick/format/FontFormat.h>
+
+namespace draftwick {
+
+/// \plain\b\f0\fs24\cf0: the whole of a character format.
+void EmitFontFormat(WritingContext& context, const FontFormat::Values& format, bool withPlain);
+
+/// \b1\fs28: what differs from the reference.
+void EmitFontFormatChanges(WritingContext& context, const FontFormat::Values& format,
+                           const FontFormat::Values& reference);
+
+/// A format in which nothing is set, not even what has a default: everything that is set differs from it.
+FontFormat::Values BlankReference(const WritingContext& context);
+
+}  // namespace draftwick

@@ -1,0 +1,51 @@
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/format/Fonts.h>
+
+namespace draftwick {
+
+const Class& Font::Description() const {
+    static const Class description{"Font",
+                                   "{@C}",
+                                   "{@I}",
+                                   {
+                                       PropertyOf<&Font::Name>("Name"),
+                                       PropertyOf<&Font::AltName, &Font::SetAltName, &Values::altName>("AltName"),
+                                       PropertyOf<&Font::Family, &Font::SetFamily, &Values::family>("Family"),
+                                   },
+                                   {}};
+    return description;
+}
+
+const Class& Fonts::Description() const {
+    static const Class description{"Fonts",
+                                   "{@C}",
+                                   "{@I}",
+                                   {PropertyOf<&Fonts::Count>("Count")},
+                                   {ItemsMethod<Fonts>(), MethodOf<&Fonts::Add>("Add", {{"Name"}})}};
+    return description;
+}
+
+void EmitFontTable(WritingContext& context, const Fonts& fonts) {
+    static constexpr std::string_view FamilyWords[] = {"fnil",    "froman", "fswiss", "fmodern",
+                                                       "fscript", "fdecor", "ftech"};
+    if (fonts.Count() == 0) return;
+    Output& output = context.output;
+    output.WriteGroupStart();
+    output.WriteControlWord("fonttbl");
+    for (const auto& font : fonts) {
+        output.WriteGroupStart();
+        output.WriteControlWord("f", font->FontIndex());
+        output.WriteWord(FamilyWords, font->Family());
+        if (!font->AltName().empty()) {
+            output.WriteDestinationStart();
+            output.WriteControlWord("falt");
+            output.WriteText(font->AltName());
+            output.WriteGroupEnd();
+        }
+        output.WriteText(font->Name() + ";");
+        output.WriteGroupEnd();
+    }
+    output.WriteGroupEnd();
+}
+
+}  // namespace draftwick

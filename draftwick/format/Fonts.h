@@ -1,0 +1,72 @@
+#pragma once
+
+#include <draftwick/base/Collection.h>
+
+namespace draftwick {
+
+/// The family that a reader looks in for a substitute of a font it does not have (RTF \fnil and its siblings).
+enum dwFontFamily : std::int32_t {
+    dwNil = 1,     ///< unknown
+    dwRoman = 2,   ///< proportional with serifs
+    dwSwiss = 3,   ///< proportional without serifs
+    dwModern = 4,  ///< fixed pitch
+    dwScript = 5,
+    dwDecor = 6,
+    dwTech = 7,  ///< symbols
+};
+
+/// A font of the document. Setters refuse once the document is emitted ("Document").
+class Font final : public Node {
+public:
+    struct Values {
+        std::string altName;
+        Choice<"Font.Family", dwNil, dwTech> family{dwNil};
+    };
+
+    Font(const Origin& origin, std::string name, std::int32_t index)
+        : Node(origin), name_(std::move(name)), index_(index) {}
+
+    /// The name it was added with. Written as it is: a name with braces or backslashes breaks the file.
+    const std::string& Name() const noexcept { return name_; }
+
+    /// The name of a font to take in its place (RTF \falt). Default empty. Written as it is.
+    const std::string& AltName() const { return values_.altName; }
+    void SetAltName(std::string_view name) { Change(values_.altName, name); }
+
+    /// Default dwNil.
+    dwFontFamily Family() const { return values_.family; }
+    void SetFamily(dwFontFamily family) { Change(values_.family, family); }
+
+    const Class& Description() const override;
+
+    /// The number of the font in the file, from 0.
+    std::int32_t FontIndex() const noexcept { return index_; }
+
+private:
+    std::string name_;
+    std::int32_t index_;
+    Values values_;
+};
+
+/// The fonts of a document. A font must be added before its name can be used.
+class Fonts final : public NamedCollection<Font> {
+public:
+    using NamedCollection::NamedCollection;
+
+    /// Adds a font. Refuses once the document is emitted ("Document"); an empty name is dwErrZeroLengthName
+    /// ("Fonts"), a name that is there, in any case of letters, error 457.
+    std::shared_ptr<Font> Add(std::string_view name) {
+        OpenForChange();
+        return AddItem(name, "Fonts");
+    }
+
+    const Class& Description() const override;
+
+    /// The number of the font of that name in the file. dwErrItemNotFound when there is none.
+    std::int32_t GetFontIndex(std::string_view name) const { return IndexOf(name); }
+};
+
+/// "{\fonttbl{\f0\froman Times New Roman;}}"; nothing without fonts.
+void EmitFontTable(WritingContext& context, const Fonts& fonts);
+
+}  // namespace draftwick

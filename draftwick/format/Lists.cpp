@@ -1,0 +1,79 @@
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/format/Lists.h>
+
+#include <algorithm>
+
+namespace draftwick {
+
+ListLevel::ListLevel(Object& list, std::int32_t number) : Part(list), fontFormat_(*this) {
+    values_.format = "\\L" + std::to_string(number) + ".";
+}
+
+List::List(const Origin& origin, std::string name, std::int32_t index)
+    : Node(origin), name_(std::move(name)), index_(index),
+      levels_{ListLevel{*this, 1}, ListLevel{*this, 2}, ListLevel{*this, 3},
+              ListLevel{*this, 4}, ListLevel{*this, 5}, ListLevel{*this, 6},
+              ListLevel{*this, 7}, ListLevel{*this, 8}, ListLevel{*this, 9}} {}
+
+std::shared_ptr<ListLevel> List::Levels(std::int32_t level) {
+    if (!InRange(level, 1, 9)) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(level));
+    return Share(levels_[static_cast<std::size_t>(level - 1)]);
+}
+
+std::int32_t List::PairOverrideNumber(std::int32_t otherList) {
+    const auto [entry, isNew] = numberOfPairing_.try_emplace(otherList, Writing().lastOverrideNumber + 1);
+    if (isNew) {
+        pairings_.emplace_back(*entry);
+        ++Writing().lastOverrideNumber;
+    }
+    return entry->second;
+}
+
+void List::MarkLevelUsed(std::int32_t level) noexcept { highestLevelUsed_ = std::max(highestLevelUsed_, level); }
+
+std::shared_ptr<List> Lists::Add(std::string_view name) {
+    Writing();
+    return AddItem(name, "Lists");
+}
+
+const Class& ListLevel::Description() const {
+    using L = ListLevel;
+    using V = Values;
+    static const Class description{
+        "ListLevel",
+        "{@C}",
+        "{@I}",
+        {
+            PropertyOf<&L::Style, &L::SetStyle, &V::style>("Style"),
+            PropertyOf<&L::Align, &L::SetAlign, &V::align>("Align"),
+            PropertyOf<&L::Follow, &L::SetFollow, &V::follow>("Follow"),
+            PropertyOf<&L::Format, &L::SetFormat, &V::format>("Format"),
+            PropertyOf<&L::Legal, &L::SetLegal, &V::legal>("Legal"),
+            PropertyOf<&L::NoLevelRestart, &L::SetNoLevelRestart, &V::noLevelRestart>("NoLevelRestart"),
+            PropertyOf<&L::StartAt, &L::SetStartAt, &V::startAt>("StartAt"),
+            PropertyOf<&L::TabPosition, &L::SetTabPosition, &V::tabPosition>("TabPosition"),
+            PropertyOf<&L::FontFormat>("FontFormat"),
+        },
+        {}};
+    return description;
+}
+
+const Class& List::Description() const {
+    static const Class description{"List",
+                                   "{@C}",
+                                   "{@I}",
+                                   {PropertyOf<&List::Name>("Name")},
+                                   {MethodOf<&List::Levels>("Levels", {{"Index"}})}};
+    return description;
+}
+
+const Class& Lists::Description() const {
+    static const Class description{"Lists",
+                                   "{@C}",
+                                   "{@I}",
+                                   {PropertyOf<&Lists::Count>("Count")},
+                                   {ItemsMethod<Lists>(), MethodOf<&Lists::Add>("Add", {{"Name"}})}};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,144 @@
+#pragma once
+
+#include <draftwick/base/Collection.h>
+#include <draftwick/format/FontFormat.h>
+
+#include <array>
+#include <utility>
+
+namespace draftwick {
+
+/// How the number of a list level is written (RTF \levelnfc).
+enum dwListNumberStyle : std::int32_t {
+    dwLNSCardinal = 1,  ///< one, two, three
+    dwLNSDecimal = 2,
+    dwLNSLetterUpper = 3,
+    dwLNSLetterLower = 4,
+    dwLNSRomanUpper = 5,
+    dwLNSRomanLower = 6,
+    dwLNSOrdinal = 7,      ///< 1st, 2nd, 3rd
+    dwLNSOrdinalText = 8,  ///< first, second, third
+    dwLNSDecimalLeadingZero = 9,
+    dwLNSBullet = 10,  ///< no number: the level's Format is the bullet
+};
+enum dwListNumberAlign : std::int32_t { dwLNALeft = 1, dwLNARight = 2, dwLNACenter = 3 };
+/// What stands between the number and the text.
+enum dwListNumberFollow : std::int32_t { dwLNFNothing = 1, dwLNFSpace = 2, dwLNFTab = 3 };
+
+/// How the numbers of one level of a list look. Levels can be changed at any time: what holds at
+/// Document::Finish is written.
+class ListLevel final : public Part {
+public:
+    struct Values {
+        Choice<"ListLevel.Style", dwLNSCardinal, dwLNSBullet> style{dwLNSDecimal};
+        Choice<"ListLevel.Align", dwLNALeft, dwLNACenter> align{dwLNALeft};
+        Choice<"ListLevel.Follow", dwLNFNothing, dwLNFTab> follow{dwLNFTab};
+        std::string format = "\\L1.";
+        bool legal = false;
+        bool noLevelRestart = false;
+        Short startAt{1};
+        Length tabPosition{360};
+    };
+
+    ListLevel(Object& list, std::int32_t number);
+
+    /// Default dwLNSDecimal.
+    dwListNumberStyle Style() const { return values_.style; }
+    void SetStyle(dwListNumberStyle style) { Change(values_.style, style); }
+
+    /// Default dwLNALeft.
+    dwListNumberAlign Align() const { return values_.align; }
+    void SetAlign(dwListNumberAlign align) { Change(values_.align, align); }
+
+    /// Default dwLNFTab.
+    dwListNumberFollow Follow() const { return values_.follow; }
+    void SetFollow(dwListNumberFollow follow) { Change(values_.follow, follow); }
+
+    /// The text of the number, in which \L1 to \L9 stand for the current numbers of the levels 1 to 9. Default: the
+    /// level's own number and a full stop. Written as it is: braces and other backslashes break the file.
+    const std::string& Format() const { return values_.format; }
+    void SetFormat(std::string_view format) { Change(values_.format, format); }
+
+    /// Numbers of other styles are written in decimal here (RTF \levellegal).
+    bool Legal() const { return values_.legal; }
+    void SetLegal(bool on) { Change(values_.legal, on); }
+
+    /// The numbers go on after a paragraph of a higher level (RTF \levelnorestart).
+    bool NoLevelRestart() const { return values_.noLevelRestart; }
+    void SetNoLevelRestart(bool on) { Change(values_.noLevelRestart, on); }
+
+    /// The first number, 16 bits. Default 1.
+    std::int32_t StartAt() const { return values_.startAt; }
+    void SetStartAt(std::int32_t number) { Change(values_.startAt, number); }
+
+    /// Where the text begins after dwLNFTab. Length of 16 bits in twips, default 360 twips.
+    double TabPosition() const { return Read(values_.tabPosition); }
+    void SetTabPosition(double length) { Change(values_.tabPosition, length); }
+
+    /// The look of the number.
+    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
+
+    const Class& Description() const override;
+
+    const Values& Stored() const noexcept { return values_; }
+    const draftwick::FontFormat& StoredFontFormat() const noexcept { return fontFormat_; }
+
+private:
+    Values values_;
+    draftwick::FontFormat fontFormat_;
+};
+
+/// A numbered or bulleted list of nine levels. Paragraphs join it by its name.
+class List final : public Node {
+public:
+    List(const Origin& origin, std::string name, std::int32_t index);
+
+    /// The name it was added with. Written as it is.
+    const std::string& Name() const noexcept { return name_; }
+
+    /// Level 1 to 9. Error 9 for any other.
+    std::shared_ptr<ListLevel> Levels(std::int32_t level);
+
+    /// A list can be changed at any time.
+    void CheckNotEmitted() const override {}
+    const Class& Description() const override;
+
+    // The rest is for the library.
+
+    using Pairing = std::pair<std::int32_t, std::int32_t>;  // the other list's index, the override number
+
+    std::int32_t Identifier() const noexcept { return index_ + 1; }
+    std::int32_t OwnOverrideNumber() const noexcept { return Identifier(); }
+    /// The number of this list in the look of another one: the same for every paragraph that asks.
+    std::int32_t PairOverrideNumber(std::int32_t otherList);
+    void MarkLevelUsed(std::int32_t level) noexcept;
+    /// More than the first level is in use.
+    bool UsesLevels() const noexcept { return highestLevelUsed_ > 1; }
+    const ListLevel& LevelAt(std::int32_t level) const { return levels_[static_cast<std::size_t>(level - 1)]; }
+    const std::vector<Pairing>& Pairings() const noexcept { return pairings_; }
+
+private:
+    std::string name_;
+    std::int32_t index_;
+    std::int32_t highestLevelUsed_ = 0;
+    std::array<ListLevel, 9> levels_;
+    std::vector<Pairing> pairings_;  // in the order in which they were made
+    std::unordered_map<std::int32_t, std::int32_t> numberOfPairing_;
+};
+
+/// The lists of a document.
+class Lists final : public NamedCollection<List> {
+public:
+    using NamedCollection::NamedCollection;
+
+    /// Adds a list, at any time before Document::Finish. An empty name is dwErrZeroLengthName ("Lists"), a name that
+    /// is there, in any case of letters, error 457.
+    std::shared_ptr<List> Add(std::string_view name);
+
+    const Class& Description() const override;
+};
+
+/// "{\*\listtable...}" and "{\*\listoverridetable...}"; nothing without lists.
+void EmitListTable(WritingContext& context, const Lists& lists);
+
+}  // namespace draftwick

@@ -1,0 +1,57 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/format/Lists.h>
+#include <draftwick/format/ParagraphFormat.h>
+
+namespace draftwick {
+
+ParagraphFormat::ParagraphFormat(Object& parent) : Part(parent) {
+    values_.widowOrphanControl = Writing().settings.widowOrphanControl;
+}
+
+std::string ParagraphFormat::NameOfList(std::int32_t list) const {
+    if (list == NoList) return {};
+    return Writing().lists->At(list).Name();
+}
+
+void ParagraphFormat::SetList(std::int32_t& list, std::string_view name) {
+    OpenForChange();
+    list = name.empty() ? NoList : Writing().lists->IndexOf(name);
+}
+
+const Class& ParagraphFormat::Description() const {
+    using P = ParagraphFormat;
+    using V = Values;
+    static const Class description{
+        "ParagraphFormat",
+        "{@C}",
+        "{@I}",
+        {
+            PropertyOf<&P::Align, &P::SetAlign, &V::align>("Align"),
+            PropertyOf<&P::IndentFirst, &P::SetIndentFirst, &V::indentFirst>("IndentFirst"),
+            PropertyOf<&P::IndentLeft, &P::SetIndentLeft, &V::indentLeft>("IndentLeft"),
+            PropertyOf<&P::IndentRight, &P::SetIndentRight, &V::indentRight>("IndentRight"),
+            PropertyOf<&P::SpaceBefore, &P::SetSpaceBefore, &V::spaceBefore>("SpaceBefore"),
+            PropertyOf<&P::SpaceAfter, &P::SetSpaceAfter, &V::spaceAfter>("SpaceAfter"),
+            PropertyOf<&P::LineSpacingStyle, &P::SetLineSpacingStyle, &V::lineSpacingStyle>("LineSpacingStyle"),
+            PropertyOf<&P::LineSpacingMultiple, &P::SetLineSpacingMultiple, &V::lineSpacingMultiple>(
+                "LineSpacingMultiple"),
+            PropertyOf<&P::LineSpacingDistance, &P::SetLineSpacingDistance, &V::lineSpacingDistance>(
+                "LineSpacingDistance"),
+            PropertyOf<&P::KeepIntact, &P::SetKeepIntact, &V::keepIntact>("KeepIntact"),
+            PropertyOf<&P::KeepWithNext, &P::SetKeepWithNext, &V::keepWithNext>("KeepWithNext"),
+            PropertyOf<&P::PageBreakBefore, &P::SetPageBreakBefore, &V::pageBreakBefore>("PageBreakBefore"),
+            PropertyOf<&P::NoLineNumbering, &P::SetNoLineNumbering, &V::noLineNumbering>("NoLineNumbering"),
+            PropertyOf<&P::SuppressHyphen, &P::SetSuppressHyphen, &V::suppressHyphen>("SuppressHyphen"),
+            PropertyOf<&P::WidowOrphanControl, &P::SetWidowOrphanControl, &V::widowOrphanControl>(
+                "WidowOrphanControl"),
+            PropertyOf<&P::OutlineLevel, &P::SetOutlineLevel, &V::outlineLevel>("OutlineLevel"),
+            PropertyOf<&P::ListName, &P::SetListName>("ListName"),
+            PropertyOf<&P::ListFormatName, &P::SetListFormatName>("ListFormatName"),
+            PropertyOf<&P::ListLevel, &P::SetListLevel, &V::listLevel>("ListLevel"),
+        },
+        {}};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,145 @@
+#pragma once
+
+#include <draftwick/base/Object.h>
+
+namespace draftwick {
+
+enum dwParagraphAlign : std::int32_t {
+    dwAlignLeft = 1,
+    dwAlignRight = 2,
+    dwAlignCenter = 3,
+    dwAlignJustify = 4,
+};
+
+/// How the distance between lines is given (RTF \sl and \slmult).
+enum dwLineSpacingStyle : std::int32_t {
+    dwSpacingMultiple = 1,  ///< in lines, by LineSpacingMultiple
+    dwSpacingAtLeast = 2,   ///< at least LineSpacingDistance
+    dwSpacingExactly = 3,   ///< exactly LineSpacingDistance
+};
+
+/// The layout of a paragraph or paragraph style. Refuses when what it belongs to refuses.
+class ParagraphFormat final : public Part {
+public:
+    struct Values {
+        Choice<"ParagraphFormat.Align", dwAlignLeft, dwAlignJustify> align{dwAlignLeft};
+        Length indentFirst{0};
+        Length indentLeft{0};
+        Length indentRight{0};
+        Points spaceBefore{0};
+        Points spaceAfter{0};
+        Choice<"ParagraphFormat.LineSpacingStyle", dwSpacingMultiple, dwSpacingExactly> lineSpacingStyle{
+            dwSpacingMultiple};
+        Real<240> lineSpacingMultiple{1};
+        Points lineSpacingDistance{0};
+        bool keepIntact = false;
+        bool keepWithNext = false;
+        bool pageBreakBefore = false;
+        bool noLineNumbering = false;
+        bool suppressHyphen = false;
+        bool widowOrphanControl = true;
+        Byte<"ParagraphFormat.OutlineLevel", 0, 9> outlineLevel{0};
+        Byte<"ParagraphList.Level", 1, 9> listLevel{1};
+        std::int32_t list = -1;        // the position in the document's lists, or NoList
+        std::int32_t listFormat = -1;  // likewise
+    };
+    static constexpr std::int32_t NoList = -1;
+
+    /// Starts from the defaults and the document's WidowOrphanControl.
+    explicit ParagraphFormat(Object& parent);
+
+    /// Default dwAlignLeft.
+    dwParagraphAlign Align() const { return values_.align; }
+    void SetAlign(dwParagraphAlign align) { Change(values_.align, align); }
+
+    /// Further indent of the first line, negative to the left. Length of 16 bits in twips, default 0.
+    double IndentFirst() const { return Read(values_.indentFirst); }
+    void SetIndentFirst(double length) { Change(values_.indentFirst, length); }
+
+    /// From the left margin. Length of 16 bits in twips, default 0.
+    double IndentLeft() const { return Read(values_.indentLeft); }
+    void SetIndentLeft(double length) { Change(values_.indentLeft, length); }
+
+    /// From the right margin. Length of 16 bits in twips, default 0.
+    double IndentRight() const { return Read(values_.indentRight); }
+    void SetIndentRight(double length) { Change(values_.indentRight, length); }
+
+    /// Points whatever the ScaleMode. Default 0.
+    double SpaceBefore() const { return values_.spaceBefore; }
+    void SetSpaceBefore(double points) { Change(values_.spaceBefore, points); }
+
+    /// Points whatever the ScaleMode. Default 0.
+    double SpaceAfter() const { return values_.spaceAfter; }
+    void SetSpaceAfter(double points) { Change(values_.spaceAfter, points); }
+
+    /// Default dwSpacingMultiple.
+    dwLineSpacingStyle LineSpacingStyle() const { return values_.lineSpacingStyle; }
+    void SetLineSpacingStyle(dwLineSpacingStyle style) { Change(values_.lineSpacingStyle, style); }
+
+    /// Lines, for dwSpacingMultiple. Default 1.
+    double LineSpacingMultiple() const { return values_.lineSpacingMultiple; }
+    void SetLineSpacingMultiple(double lines) { Change(values_.lineSpacingMultiple, lines); }
+
+    /// Points, for the other two styles. Default 0.
+    double LineSpacingDistance() const { return values_.lineSpacingDistance; }
+    void SetLineSpacingDistance(double points) { Change(values_.lineSpacingDistance, points); }
+
+    /// No page break within the paragraph (RTF \keep).
+    bool KeepIntact() const { return values_.keepIntact; }
+    void SetKeepIntact(bool on) { Change(values_.keepIntact, on); }
+
+    /// No page break before the next paragraph (RTF \keepn).
+    bool KeepWithNext() const { return values_.keepWithNext; }
+    void SetKeepWithNext(bool on) { Change(values_.keepWithNext, on); }
+
+    /// RTF \pagebb.
+    bool PageBreakBefore() const { return values_.pageBreakBefore; }
+    void SetPageBreakBefore(bool on) { Change(values_.pageBreakBefore, on); }
+
+    /// The paragraph's lines do not count where lines are numbered (RTF \noline).
+    bool NoLineNumbering() const { return values_.noLineNumbering; }
+    void SetNoLineNumbering(bool on) { Change(values_.noLineNumbering, on); }
+
+    /// RTF \hyphpar0.
+    bool SuppressHyphen() const { return values_.suppressHyphen; }
+    void SetSuppressHyphen(bool on) { Change(values_.suppressHyphen, on); }
+
+    /// No single first or last line on a page. Default: the document's WidowOrphanControl when the object was
+    /// created; written where it differs from the document's.
+    bool WidowOrphanControl() const { return values_.widowOrphanControl; }
+    void SetWidowOrphanControl(bool on) { Change(values_.widowOrphanControl, on); }
+
+    /// 1..9 in the document's outline, 0 (default) for body text.
+    std::int32_t OutlineLevel() const { return values_.outlineLevel; }
+    void SetOutlineLevel(std::int32_t level) { Change(values_.outlineLevel, level); }
+
+    /// The list that the paragraph belongs to; empty (default) for none. It takes the list's spelling;
+    /// dwErrItemNotFound when the document has no such list.
+    std::string ListName() const { return NameOfList(values_.list); }
+    void SetListName(std::string_view name) { SetList(values_.list, name); }
+
+    /// The list whose look the paragraph's number takes instead; empty (default) for its own. As ListName.
+    std::string ListFormatName() const { return NameOfList(values_.listFormat); }
+    void SetListFormatName(std::string_view name) { SetList(values_.listFormat, name); }
+
+    /// 1..9, default 1.
+    std::int32_t ListLevel() const { return values_.listLevel; }
+    void SetListLevel(std::int32_t level) { Change(values_.listLevel, level); }
+
+    const Class& Description() const override;
+
+    const Values& Stored() const noexcept { return values_; }
+    void CopyFrom(const ParagraphFormat& other) { values_ = other.values_; }
+
+private:
+    std::string NameOfList(std::int32_t list) const;
+    void SetList(std::int32_t& list, std::string_view name);
+
+    Values values_;
+};
+
+/// \qc\fi360\sb0\sa0\sl240\slmult1\ls1\ilvl0: the words of a paragraph's layout. A list that is written is told
+/// which of its levels is in use.
+void EmitParagraphFormat(WritingContext& context, const ParagraphFormat::Values& format);
+
+}  // namespace draftwick

@@ -1,0 +1,114 @@
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/format/Styles.h>
+
+namespace draftwick {
+
+ParagraphStyle::ParagraphStyle(const Origin& origin, std::string name, std::int32_t index)
+    : Style(origin, std::move(name), index), format_(*this), fontFormat_(*this), borders_(*this),
+      background_(*this), tabStops_(*this) {}
+
+std::string ParagraphStyle::NameOf(std::int32_t style) const {
+    return style == NoStyle ? std::string{} : Writing().paragraphStyles->At(style).Name();
+}
+
+void ParagraphStyle::SetBasedOn(std::string_view name) {
+    OpenForChange();
+    if (name.empty()) {
+        basedOn_ = NoStyle;
+        return;
+    }
+    const ParagraphStyles& styles = *Writing().paragraphStyles;
+    const std::int32_t index = styles.IndexOf(name);
+    const ParagraphStyle& base = styles.At(index);
+    tabStops_.CopyFrom(base.tabStops_);
+    borders_.CopyFrom(base.borders_);
+    background_.CopyFrom(base.background_);
+    fontFormat_.CopyFrom(base.fontFormat_);
+    format_.CopyFrom(base.format_);
+    basedOn_ = index;
+}
+
+void ParagraphStyle::SetNextStyle(std::string_view name) {
+    OpenForChange();
+    nextStyle_ = name.empty() ? NoStyle : Writing().paragraphStyles->IndexOf(name);
+}
+
+TextStyle::TextStyle(const Origin& origin, std::string name, std::int32_t index)
+    : Style(origin, std::move(name), index), fontFormat_(*this), border_(*this), background_(*this) {}
+
+std::string TextStyle::BasedOn() const {
+    return basedOn_ == NoStyle ? std::string{} : Writing().textStyles->At(basedOn_).Name();
+}
+
+void TextStyle::SetBasedOn(std::string_view name) {
+    OpenForChange();
+    if (name.empty()) {
+        basedOn_ = NoStyle;
+        return;
+    }
+    const TextStyles& styles = *Writing().textStyles;
+    const std::int32_t index = styles.IndexOf(name);
+    const TextStyle& base = styles.At(index);
+    background_.CopyFrom(base.background_);
+    border_.CopyFrom(base.border_);
+    fontFormat_.CopyFrom(base.fontFormat_);
+    basedOn_ = index;
+}
+
+const Class& ParagraphStyle::Description() const {
+    using S = ParagraphStyle;
+    static const Class description{
+        "ParagraphStyle",
+        "{@C}",
+        "{@I}",
+        {
+            PropertyOf<&S::Name>("Name"),
+            PropertyOf<&S::BasedOn, &S::SetBasedOn>("BasedOn"),
+            PropertyOf<&S::NextStyle, &S::SetNextStyle>("NextStyle"),
+            PropertyOf<&S::Format>("Format"),
+            PropertyOf<&S::FontFormat>("FontFormat"),
+            PropertyOf<&S::Borders>("Borders"),
+            PropertyOf<&S::Background>("Background"),
+            PropertyOf<&S::TabStops>("TabStops"),
+        },
+        {}};
+    return description;
+}
+
+const Class& TextStyle::Description() const {
+    using S = TextStyle;
+    static const Class description{"TextStyle",
+                                   "{@C}",
+                                   "{@I}",
+                                   {
+                                       PropertyOf<&S::Name>("Name"),
+                                       PropertyOf<&S::BasedOn, &S::SetBasedOn>("BasedOn"),
+                                       PropertyOf<&S::FontFormat>("FontFormat"),
+                                       PropertyOf<&S::Border>("Border"),
+                                       PropertyOf<&S::Background>("Background"),
+                                   },
+                                   {}};
+    return description;
+}
+
+const Class& ParagraphStyles::Description() const {
+    using S = ParagraphStyles;
+    static const Class description{"ParagraphStyles",
+                                   "{@C}",
+                                   "{@I}",
+                                   {PropertyOf<&S::Count>("Count")},
+                                   {ItemsMethod<S>(), MethodOf<&S::Add>("Add", {{"Name"}})}};
+    return description;
+}
+
+const Class& TextStyles::Description() const {
+    using S = TextStyles;
+    static const Class description{"TextStyles",
+                                   "{@C}",
+                                   "{@I}",
+                                   {PropertyOf<&S::Count>("Count")},
+                                   {ItemsMethod<S>(), MethodOf<&S::Add>("Add", {{"Name"}})}};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,142 @@
+#pragma once
+
+#include <draftwick/base/Collection.h>
+#include <draftwick/format/Background.h>
+#include <draftwick/format/Border.h>
+#include <draftwick/format/FontFormat.h>
+#include <draftwick/format/ParagraphFormat.h>
+#include <draftwick/format/TabStops.h>
+
+namespace draftwick {
+
+/// What both kinds of style have: a name, a number and the style it was copied from. Setters refuse once the
+/// document is emitted ("Document"), and so do the setters of the style's parts.
+class Style : public Node {
+public:
+    Style(const Origin& origin, std::string name, std::int32_t index)
+        : Node(origin), name_(std::move(name)), index_(index) {}
+
+    /// The name it was added with. Written as it is.
+    const std::string& Name() const noexcept { return name_; }
+
+    std::int32_t StyleIndex() const noexcept { return index_; }
+
+    static constexpr std::int32_t NoStyle = -1;
+
+private:
+    std::string name_;
+    std::int32_t index_;
+};
+
+/// A named look of paragraphs (RTF \s).
+class ParagraphStyle final : public Style {
+public:
+    ParagraphStyle(const Origin& origin, std::string name, std::int32_t index);
+
+    /// The paragraph style that this one starts from; empty (default) for none. Setting it copies everything that
+    /// the other style has now; later changes to the other are not followed. dwErrItemNotFound when there is no such
+    /// style.
+    std::string BasedOn() const { return NameOf(basedOn_); }
+    void SetBasedOn(std::string_view name);
+
+    /// The paragraph style that an editor gives to the paragraph after one of this style; empty (default) for the
+    /// same. dwErrItemNotFound when there is no such style.
+    std::string NextStyle() const { return NameOf(nextStyle_); }
+    void SetNextStyle(std::string_view name);
+
+    std::shared_ptr<ParagraphFormat> Format() { return Share(format_); }
+    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
+    std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_); }
+    std::shared_ptr<draftwick::Background> Background() { return Share(background_); }
+    /// Copied to paragraphs with the style, but not written in the stylesheet.
+    std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_); }
+
+    const Class& Description() const override;
+
+    // The rest is for the library.
+
+    std::int32_t BasedOnIndex() const noexcept { return basedOn_; }
+    std::int32_t NextStyleIndex() const noexcept { return nextStyle_; }
+    const ParagraphFormat& StoredFormat() const noexcept { return format_; }
+    const draftwick::FontFormat& StoredFontFormat() const noexcept { return fontFormat_; }
+    const ParagraphBorders& StoredBorders() const noexcept { return borders_; }
+    const draftwick::Background& StoredBackground() const noexcept { return background_; }
+    const draftwick::TabStops& StoredTabStops() const noexcept { return tabStops_; }
+
+private:
+    std::string NameOf(std::int32_t style) const;
+
+    std::int32_t basedOn_ = NoStyle;
+    std::int32_t nextStyle_ = NoStyle;
+    ParagraphFormat format_;
+    draftwick::FontFormat fontFormat_;
+    ParagraphBorders borders_;
+    draftwick::Background background_;
+    draftwick::TabStops tabStops_;
+};
+
+/// A named look of runs of text (RTF \cs).
+class TextStyle final : public Style {
+public:
+    TextStyle(const Origin& origin, std::string name, std::int32_t index);
+
+    /// As ParagraphStyle::BasedOn, among the text styles.
+    std::string BasedOn() const;
+    void SetBasedOn(std::string_view name);
+
+    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
+    std::shared_ptr<TextBorder> Border() { return Share(border_); }
+    std::shared_ptr<draftwick::Background> Background() { return Share(background_); }
+
+    const Class& Description() const override;
+
+    // The rest is for the library.
+
+    std::int32_t BasedOnIndex() const noexcept { return basedOn_; }
+    const draftwick::FontFormat& StoredFontFormat() const noexcept { return fontFormat_; }
+    const TextBorder& StoredBorder() const noexcept { return border_; }
+    const draftwick::Background& StoredBackground() const noexcept { return background_; }
+
+private:
+    std::int32_t basedOn_ = NoStyle;
+    draftwick::FontFormat fontFormat_;
+    TextBorder border_;
+    draftwick::Background background_;
+};
+
+/// The paragraph styles of a document.
+class ParagraphStyles final : public NamedCollection<ParagraphStyle> {
+public:
+    using NamedCollection::NamedCollection;
+
+    /// Adds a style. Refuses once the document is emitted ("Document"); an empty name is dwErrZeroLengthName
+    /// ("Paragraph Styles"), a name that is there, in any case of letters, error 457.
+    std::shared_ptr<ParagraphStyle> Add(std::string_view name) {
+        OpenForChange();
+        return AddItem(name, "Paragraph Styles");
+    }
+
+    const Class& Description() const override;
+};
+
+/// The text styles of a document.
+class TextStyles final : public NamedCollection<TextStyle> {
+public:
+    using NamedCollection::NamedCollection;
+
+    /// As ParagraphStyles::Add, with "Text Styles".
+    std::shared_ptr<TextStyle> Add(std::string_view name) {
+        OpenForChange();
+        return AddItem(name, "Text Styles");
+    }
+
+    const Class& Description() const override;
+};
+
+/// The number of a text style in the file: text styles are numbered after the paragraph styles.
+std::int32_t TextStyleNumber(const WritingContext& context, std::int32_t index);
+
+/// "{\stylesheet{\s0\sbasedon222...Heading;}}"; nothing without styles.
+void EmitStylesheet(WritingContext& context, const ParagraphStyles& paragraphStyles, const TextStyles& textStyles);
+
+}  // namespace draftwick

@@ -1,0 +1,84 @@
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/format/TabStops.h>
+
+namespace draftwick {
+
+std::shared_ptr<TabStop> TabStops::Add(double position, dwTabAlign align, dwTabLeader leader) {
+    const dwScaleMode scale = OpenForChange();
+    CheckRange(align, dwTabLeft, dwTabBar, "TabStops.Add.Align");
+    CheckRange(leader, dwTabLeaderNone, dwTabLeaderUnderline, "TabStops.Add.Leader");
+    TabStop::Values values{.align = align, .leader = leader};
+    // Through a double that is a float: converting one that is too large to float has no defined value.
+    values.position.Set(position, scale);
+    values.position.Set(static_cast<float>(position), scale);
+    stops_.push_back(MakeStop(values));
+    return stops_.back();
+}
+
+void TabStops::Clear() {
+    OpenForChange();
+    stops_.clear();
+}
+
+std::shared_ptr<TabStop> TabStops::Items(std::int32_t index) const {
+    if (!InRange(index, 0, 255)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
+    if (!InRange(index, 1, Count())) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
+    return ItemAt(index);
+}
+
+void TabStops::CopyFrom(const TabStops& other) {
+    std::vector<std::shared_ptr<TabStop>> copies;
+    copies.reserve(other.stops_.size());
+    for (const auto& stop : other.stops_) copies.push_back(MakeStop(stop->Stored()));
+    stops_ = std::move(copies);
+}
+
+std::shared_ptr<TabStop> TabStops::MakeStop(const TabStop::Values& values) {
+    return std::make_shared<TabStop>(OriginOfChild(), values);
+}
+
+void EmitTabStops(WritingContext& context, const TabStops& tabStops) {
+    static constexpr std::string_view AlignWords[] = {"", "tqr", "tqc", "tqdec"};
+    static constexpr std::string_view LeaderWords[] = {"", "tldot", "tlhyph", "tlul"};
+    Output& output = context.output;
+    for (const auto& stop : tabStops) {
+        const TabStop::Values& values = stop->Stored();
+        if (values.align == dwTabBar) {
+            output.WriteControlWord("tb", values.position.Twips());
+        } else {
+            output.WriteWord(AlignWords, values.align);
+            output.WriteWord(LeaderWords, values.leader);
+            output.WriteControlWord("tx", values.position.Twips());
+        }
+    }
+}
+
+const Class& TabStop::Description() const {
+    static const Class description{"TabStop",
+                                   "{@C}",
+                                   "{@I}",
+                                   {
+                                       PropertyOf<&TabStop::Position>("Position"),
+                                       PropertyOf<&TabStop::Align>("Align"),
+                                       PropertyOf<&TabStop::Leader>("Leader"),
+                                   },
+                                   {}};
+    return description;
+}
+
+const Class& TabStops::Description() const {
+    using T = TabStops;
+    static const Class description{
+        "TabStops",
+        "{@C}",
+        "{@I}",
+        {PropertyOf<&T::Count>("Count")},
+        {
+            MethodOf<&T::Items>("Items", {{"Index"}}),
+            MethodOf<&T::Add>("Add", {{"Position"}, {"Align", Variant{dwTabLeft}}, {"Leader", Variant{0}}}),
+            MethodOf<&T::Clear>("Clear"),
+        }};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <draftwick/base/Collection.h>
+
+namespace draftwick {
+
+/// How text stands at a tab stop (RTF \tqr and its siblings).
+enum dwTabAlign : std::int32_t {
+    dwTabLeft = 1,
+    dwTabRight = 2,
+    dwTabCenter = 3,
+    dwTabDecimal = 4,
+    dwTabBar = 5,  ///< no stop: a vertical line
+};
+
+/// What fills the space before a tab stop (RTF \tldot and its siblings).
+enum dwTabLeader : std::int32_t {
+    dwTabLeaderNone = 1,
+    dwTabLeaderDots = 2,
+    dwTabLeaderHyphens = 3,
+    dwTabLeaderUnderline = 4,
+};
+
+/// One tab stop. It cannot be changed.
+class TabStop final : public Node {
+public:
+    struct Values {
+        Length position{0};
+        dwTabAlign align = dwTabLeft;
+        dwTabLeader leader = dwTabLeaderNone;
+    };
+
+    TabStop(const Origin& origin, const Values& values) : Node(origin), values_(values) {}
+
+    /// From the left margin, in the document's unit and in single precision.
+    double Position() const { return static_cast<float>(Read(values_.position)); }
+    dwTabAlign Align() const { return values_.align; }
+    dwTabLeader Leader() const { return values_.leader; }
+
+    const Class& Description() const override;
+
+    const Values& Stored() const noexcept { return values_; }
+
+private:
+    Values values_;
+};
+
+/// The tab stops of a paragraph or paragraph style, in the order in which they were added.
+class TabStops final : public Part {
+public:
+    using Part::Part;
+
+    /// Adds a tab stop. The position is a length of 16 bits in twips, taken in single precision. Refuses when the
+    /// owner refuses; dwErrPropertyOutOfRange with "TabStops.Add.Align" or "TabStops.Add.Leader". The leader has
+    /// no default: it must be given, as dwTabLeaderNone for none.
+    std::shared_ptr<TabStop> Add(double position, dwTabAlign align = dwTabLeft,
+                                 dwTabLeader leader = static_cast<dwTabLeader>(0));
+    /// Removes all tab stops. Refuses as Add does.
+    void Clear();
+
+    std::int32_t Count() const noexcept { return static_cast<std::int32_t>(stops_.size()); }
+    /// The tab stop at a position from 1. Error 6 outside of a byte, error 9 when there is none.
+    std::shared_ptr<TabStop> Items(std::int32_t index) const;
+
+    CollectionIterator<const TabStops> begin() const { return {this, 1}; }
+    CollectionIterator<const TabStops> end() const { return {this, Count() + 1}; }
+
+    const Class& Description() const override;
+
+    // The rest is for the library.
+
+    std::shared_ptr<TabStop> ItemAt(std::int32_t index) const { return stops_[static_cast<std::size_t>(index - 1)]; }
+    /// Replaces all tab stops.
+    void CopyFrom(const TabStops& other);
+
+private:
+    std::shared_ptr<TabStop> MakeStop(const TabStop::Values& values);
+
+    std::vector<std::shared_ptr<TabStop>> stops_;
+};
+
+/// \tqr\tldot\tx4320 for each tab stop.
+void EmitTabStops(WritingContext& context, const TabStops& tabStops);
+
+}  // namespace draftwick
