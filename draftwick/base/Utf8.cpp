@@ -1,0 +1,123 @@
+#include <draftwick/base/Utf8.h>
+
+#include <cstdint>
+#include <cstring>
+
+namespace draftwick {
+
+namespace {
+
+std::uint8_t ByteAt(std::string_view text, std::size_t position) {
+    return static_cast<std::uint8_t>(text[position]);
+}
+
+/// The position of the first byte at or after `position` that is not ASCII.
+std::size_t SkipAscii(std::string_view text, std::size_t position) {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    for (std::uint64_t word = 0; text.size() - position >= sizeof word; position += sizeof word) {
+        std::memcpy(&word, text.data() + position, sizeof word);
+        if ((word & highBits) != 0) break;
+    }
+    while (position < text.size() && ByteAt(text, position) < 0x80) ++position;
+    return position;
+}
+
+/// What the first byte of a sequence says about it. The bounds of the second byte rule out overlong forms,
+/// surrogates and values above U+10FFFF; all later bytes are 80 to BF.
+struct Lead {
+    int length = 0;  // 0: no sequence begins so
+    std::uint8_t secondFrom = 0x80;
+    std::uint8_t secondTo = 0xBF;
+};
+
+constexpr Lead LeadOf(std::uint8_t byte) {
+    if (byte >= 0xC2 && byte <= 0xDF) return {.length = 2};
+    if (byte == 0xE0) return {.length = 3, .secondFrom = 0xA0};
+    if (byte == 0xED) return {.length = 3, .secondTo = 0x9F};
+    if (byte >= 0xE1 && byte <= 0xEF) return {.length = 3};
+    if (byte == 0xF0) return {.length = 4, .secondFrom = 0x90};
+    if (byte >= 0xF1 && byte <= 0xF3) return {.length = 4};
+    if (byte == 0xF4) return {.length = 4, .secondTo = 0x8F};
+    return {};
+}
+
+struct Decoded {
+    char32_t character;
+    bool valid;
+};
+
+Decoded Decode(std::string_view text, std::size_t& position) {
+    const std::uint8_t first = ByteAt(text, position++);
+    if (first < 0x80) return {first, true};
+    const Lead lead = LeadOf(first);
+    if (lead.length == 0) return {ReplacementCharacter, false};
+    char32_t character = first & (0x7Fu >> lead.length);
+    std::uint8_t from = lead.secondFrom;
+    std::uint8_t to = lead.secondTo;
+    for (int i = 1; i < lead.length; ++i) {
+        if (position == text.size()) return {ReplacementCharacter, false};
+        const std::uint8_t byte = ByteAt(text, position);
+        if (byte < from || byte > to) return {ReplacementCharacter, false};
+        character = (character << 6) | (byte & 0x3Fu);
+        ++position;
+        from = 0x80;
+        to = 0xBF;
+    }
+    return {character, true};
+}
+
+/// The length of the longest well-formed beginning of the text.
+std::size_t ValidLength(std::string_view text) {
+    std::size_t position = 0;
+    for (;;) {
+        position = SkipAscii(text, position);
+        if (position == text.size()) return position;
+        const std::size_t start = position;
+        if (!Decode(text, position).valid) return start;
+    }
+}
+
+}  // namespace
+
+char32_t DecodeUtf8(std::string_view text, std::size_t& position) { return Decode(text, position).character; }
+
+void AppendUtf8(std::string& text, char32_t character) {
+    if (character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) {
+        character = ReplacementCharacter;
+    }
+    const auto append = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+    const auto continuation = [&](int shift) { append(0x80 | ((character >> shift) & 0x3F)); };
+    if (character < 0x80) {
+        append(character);
+    } else if (character < 0x800) {
+        append(0xC0 | (character >> 6));
+        continuation(0);
+    } else if (character < 0x10000) {
+        append(0xE0 | (character >> 12));
+        continuation(6);
+        continuation(0);
+    } else {
+        append(0xF0 | (character >> 18));
+        continuation(12);
+        continuation(6);
+        continuation(0);
+    }
+}
+
+bool IsValidUtf8(std::string_view text) { return ValidLength(text) == text.size(); }
+
+std::string ToValidUtf8(std::string_view text) {
+    std::string valid;
+    valid.reserve(text.size());
+    for (;;) {
+        const std::size_t length = ValidLength(text);
+        valid.append(text.substr(0, length));
+        text.remove_prefix(length);
+        if (text.empty()) return valid;
+        std::size_t malformed = 0;
+        AppendUtf8(valid, DecodeUtf8(text, malformed));
+        text.remove_prefix(malformed);
+    }
+}
+
+}  // namespace draftwick

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+/// Stands for whatever is not UTF-8.
+inline constexpr char32_t ReplacementCharacter = U'\uFFFD';
+
+/// Reads the character at `position`, which must be less than the length of the text, and moves `position`
+/// behind it. UTF-8 is read strictly: overlong forms, surrogates, values above U+10FFFF, stray continuation
+/// bytes and sequences that are cut short are malformed. Each longest piece of the text that begins like a
+/// character and is none counts as one U+FFFD, as The Unicode Standard recommends in section 3.9.
+char32_t DecodeUtf8(std::string_view text, std::size_t& position);
+
+/// Appends the character in UTF-8; U+FFFD for a surrogate or a value above U+10FFFF.
+void AppendUtf8(std::string& text, char32_t character);
+
+bool IsValidUtf8(std::string_view text);
+
+/// The text with U+FFFD in place of everything malformed.
+std::string ToValidUtf8(std::string_view text);
+
+}  // namespace draftwick
