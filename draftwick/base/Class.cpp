@@ -9,7 +9,9 @@ namespace {
 
 /// What all classes have; a document is its own.
 const std::array<Property, 2> Common{{
-    {.name = "Parent", .rule = {.kind = Kind::Object}, .get = [](Object& object) { return ToVariant(object.Parent()); }},
+    {.name = "Parent",
+     .rule = {.kind = Kind::Object},
+     .get = [](Object& object) { return ToVariant(object.Parent()); }},
     {.name = "Document",
      .rule = {.kind = Kind::Object},
      .get = [](Object& object) { return ToVariant(object.DocumentObject()); }},
@@ -17,7 +19,8 @@ const std::array<Property, 2> Common{{
 
 template <class Rows>
 auto* FindRow(const Rows& rows, std::string_view name) {
-    const auto found = std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.name == name; });
+    const auto found =
+        std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.name == name; });
     return found == rows.end() ? nullptr : &*found;
 }
 

@@ -22,19 +22,19 @@ enum class Kind { Boolean, Number, Real, Length, Text, Date, Object, Any };
 /// What a property accepts, as far as a constant can say it.
 struct Rule {
     Kind kind = Kind::Any;
-    int bits = 32;                  ///< of the stored number: outside of it error 6
-    bool limited = false;           ///< the bounds below hold: outside of them dwErrPropertyOutOfRange
+    int bits = 32;         ///< of the stored number: outside of it error 6
+    bool limited = false;  ///< the bounds below hold: outside of them dwErrPropertyOutOfRange
     std::int32_t low = 0;
     std::int32_t high = 0;
-    std::string_view rangeName{};   ///< the name that the range error gives
-    Variant initial{};              ///< the default; a length in twips; nothing where it depends on the document
+    std::string_view rangeName{};  ///< the name that the range error gives
+    Variant initial{};  ///< the default; a length in twips; nothing where it depends on the document
 };
 
 struct Property {
     std::string_view name;
     Rule rule;
-    Variant (*get)(Object&) = nullptr;              ///< empty: write only
-    void (*set)(Object&, const Variant&) = nullptr; ///< empty: read only
+    Variant (*get)(Object&) = nullptr;               ///< empty: write only
+    void (*set)(Object&, const Variant&) = nullptr;  ///< empty: read only
 };
 
 struct Argument {
@@ -51,7 +51,7 @@ struct Method {
 /// One class of the object model.
 struct Class {
     std::string_view name;
-    std::string_view classId;      ///< fixed for ever, as is the next
+    std::string_view classId;  ///< fixed for ever, as is the next
     std::string_view interfaceId;
     std::vector<Property> properties;
     std::vector<Method> methods;
@@ -75,14 +75,19 @@ Variant Call(Object& object, std::string_view method, std::initializer_list<Vari
 /// The plain value of a variant as the type that an accessor takes. Error 13 when it is of another kind.
 template <class Type>
 Type FromVariant(const Variant& value);
-template <> bool FromVariant(const Variant& value);
-template <> std::int32_t FromVariant(const Variant& value);
-template <> double FromVariant(const Variant& value);
-template <> std::string_view FromVariant(const Variant& value);
+template <>
+bool FromVariant(const Variant& value);
+template <>
+std::int32_t FromVariant(const Variant& value);
+template <>
+double FromVariant(const Variant& value);
+template <>
+std::string_view FromVariant(const Variant& value);
 
 template <class Type>
 Variant ToVariant(const Type& value) {
-    if constexpr (std::is_same_v<Type, bool> || std::is_same_v<Type, double> || std::is_same_v<Type, Variant>) {
+    if constexpr (std::is_same_v<Type,
+                                 bool> || std::is_same_v<Type, double> || std::is_same_v<Type, Variant>) {
         return value;
     } else if constexpr (std::is_integral_v<Type> || std::is_enum_v<Type>) {
         return static_cast<std::int32_t>(value);
@@ -128,7 +133,8 @@ struct Callable<Result (Owner::*)(Arguments...)> {
     template <auto Pointer, std::size_t... I>
     static Variant Call(Object& object, std::span<const Variant> values, std::index_sequence<I...>) {
         auto& self = static_cast<Owner&>(object);
-        return AsVariant<Result>([&]() -> Result { return (self.*Pointer)(TakeArgument<Arguments>(values[I])...); });
+        return AsVariant<Result>(
+            [&]() -> Result { return (self.*Pointer)(TakeArgument<Arguments>(values[I])...); });
     }
     static constexpr auto Indices = std::index_sequence_for<Arguments...>{};
 };
@@ -137,7 +143,8 @@ struct Callable<Result (Owner::*)(Arguments...) const> : Callable<Result (Owner:
 template <class Owner, class Result, class... Arguments>
 struct Callable<Result (Owner::*)(Arguments...) noexcept> : Callable<Result (Owner::*)(Arguments...)> {};
 template <class Owner, class Result, class... Arguments>
-struct Callable<Result (Owner::*)(Arguments...) const noexcept> : Callable<Result (Owner::*)(Arguments...)> {};
+struct Callable<Result (Owner::*)(Arguments...) const noexcept> : Callable<Result (Owner::*)(Arguments...)> {
+};
 
 template <class Result, class... Arguments>
 struct Callable<Result (*)(Arguments...)> {
@@ -167,23 +174,38 @@ void Write(Object& object, const Variant& value) {
 
 template <class Type>
 Rule RuleOfValue() {
-    if constexpr (std::is_same_v<Type, bool>) return {.kind = Kind::Boolean};
-    else if constexpr (std::is_same_v<Type, double>) return {.kind = Kind::Real};
-    else if constexpr (std::is_integral_v<Type> || std::is_enum_v<Type>) return {.kind = Kind::Number};
-    else if constexpr (std::is_same_v<Type, Variant>) return {.kind = Kind::Any};
-    else if constexpr (std::is_convertible_v<Type, std::string_view>) return {.kind = Kind::Text};
-    else return {.kind = Kind::Object};
+    if constexpr (std::is_same_v<Type, bool>)
+        return {.kind = Kind::Boolean};
+    else if constexpr (std::is_same_v<Type, double>)
+        return {.kind = Kind::Real};
+    else if constexpr (std::is_integral_v<Type> || std::is_enum_v<Type>)
+        return {.kind = Kind::Number};
+    else if constexpr (std::is_same_v<Type, Variant>)
+        return {.kind = Kind::Any};
+    else if constexpr (std::is_convertible_v<Type, std::string_view>)
+        return {.kind = Kind::Text};
+    else
+        return {.kind = Kind::Object};
 }
 
 template <Name RangeName, auto First, auto Last>
 Rule RuleOfField(const Choice<RangeName, First, Last>& field) {
-    return {.kind = Kind::Number, .limited = true, .low = First, .high = Last, .rangeName = RangeName.View(),
+    return {.kind = Kind::Number,
+            .limited = true,
+            .low = First,
+            .high = Last,
+            .rangeName = RangeName.View(),
             .initial = static_cast<std::int32_t>(static_cast<decltype(First)>(field))};
 }
 template <Name RangeName, std::uint8_t First, std::uint8_t Last>
 Rule RuleOfField(const Byte<RangeName, First, Last>& field) {
-    return {.kind = Kind::Number, .bits = 8, .limited = true, .low = First, .high = Last,
-            .rangeName = RangeName.View(), .initial = static_cast<std::int32_t>(field)};
+    return {.kind = Kind::Number,
+            .bits = 8,
+            .limited = true,
+            .low = First,
+            .high = Last,
+            .rangeName = RangeName.View(),
+            .initial = static_cast<std::int32_t>(field)};
 }
 inline Rule RuleOfField(const Short& field) {
     return {.kind = Kind::Number, .bits = 16, .initial = static_cast<std::int32_t>(field)};

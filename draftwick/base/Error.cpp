@@ -12,7 +12,7 @@ namespace draftwick {
 
 namespace {
 
-constexpr std::int32_t FirstMessage = -2147220991;     // a library number is this plus its message number
+constexpr std::int32_t FirstMessage = -2147220991;  // a library number is this plus its message number
 constexpr std::int32_t OwnRangeFirst = -2147220990;
 constexpr std::int32_t OwnRangeEnd = -2147155456;
 constexpr std::int32_t TextInParameters = -2147210989;  // the first parameter is the message itself
@@ -92,8 +92,8 @@ void LogError(const Error& error) {
     const std::string text = platform::LocalTimeText(now) + "\r\nProduct: " + std::string{Product}
                              + "\r\nVersion: " + std::to_string(VersionMajor) + "."
                              + std::to_string(VersionMinor) + "." + std::to_string(VersionRevision)
-                             + "\r\nNumber: " + ErrorNumberText(error.Number()) + "\r\nSource: "
-                             + error.Source() + "\r\n" + error.what();
+                             + "\r\nNumber: " + ErrorNumberText(error.Number())
+                             + "\r\nSource: " + error.Source() + "\r\n" + error.what();
     platform::CurrentEventLog().Report(text);
 }
 

@@ -28,15 +28,15 @@ enum dwErrCode : std::int32_t {
 
 /// The numbers of run-time refusals, as automation hosts know them.
 enum dwRuntimeError : std::int32_t {
-    dwRunInvalidCall = 5,           ///< an argument that makes no sense
-    dwRunOverflow = 6,              ///< a number that does not fit the type it is stored in
-    dwRunSubscriptOutOfRange = 9,   ///< a position that does not exist
+    dwRunInvalidCall = 5,          ///< an argument that makes no sense
+    dwRunOverflow = 6,             ///< a number that does not fit the type it is stored in
+    dwRunSubscriptOutOfRange = 9,  ///< a position that does not exist
     dwRunDivisionByZero = 11,
-    dwRunTypeMismatch = 13,         ///< a value of the wrong kind
+    dwRunTypeMismatch = 13,  ///< a value of the wrong kind
     dwRunOutOfStackSpace = 28,
-    dwRunObjectGone = 91,           ///< the document that the object belonged to was let go
+    dwRunObjectGone = 91,  ///< the document that the object belonged to was let go
     dwRunCannotCreateObject = 429,
-    dwRunDuplicateKey = 457,        ///< a collection has an item of that name
+    dwRunDuplicateKey = 457,  ///< a collection has an item of that name
     dwRunInvalidPicture = 481,
 };
 

@@ -37,22 +37,24 @@ void Object::Change(std::string& field, std::string_view value) {
 
 double Object::Read(Length length) const { return FromTwips(length.Twips(), Writing().settings.scaleMode); }
 
-void Node::CheckNotEmitted() const {
-    const std::shared_ptr<Object> parent = Parent();
+std::shared_ptr<Object> Node::RequireParent() const {
+    std::shared_ptr<Object> parent = Parent();
     if (parent == nullptr) {
         Writing();
         RaiseError(dwErrTargetEmitted, {std::string{parent_.ClassOf()->name}});
     }
-    parent->CheckNotEmitted();
+    return parent;
 }
 
-std::shared_ptr<Object> Node::Self() const {
-    return std::const_pointer_cast<Node>(weak_from_this().lock());
-}
+void Node::CheckNotEmitted() const { RequireParent()->CheckNotEmitted(); }
+
+std::shared_ptr<Object> Node::Self() const { return std::const_pointer_cast<Node>(weak_from_this().lock()); }
 
 // A part is changed through references to it, whoever asks for one.
 std::shared_ptr<Object> Part::Self() const { return {parent_->Self(), const_cast<Part*>(this)}; }
 
-const std::shared_ptr<WritingContext>& Part::SharedContext() const noexcept { return parent_->SharedContext(); }
+const std::shared_ptr<WritingContext>& Part::SharedContext() const noexcept {
+    return parent_->SharedContext();
+}
 
 }  // namespace draftwick

@@ -111,6 +111,9 @@ public:
     std::shared_ptr<Object> Self() const override;
 
 protected:
+    /// The parent. When it is gone: error 91 if the document is gone too, else dwErrTargetEmitted with the name of
+    /// the parent's class.
+    std::shared_ptr<Object> RequireParent() const;
     const std::shared_ptr<WritingContext>& SharedContext() const noexcept override { return context_; }
     Origin OriginOfChild() const override { return {context_, Self()}; }
     void SetContext(std::shared_ptr<WritingContext> context) { context_ = std::move(context); }

@@ -72,7 +72,8 @@ void Output::AppendEncoded(std::string_view text) {
     std::size_t at = 0;
     while (at < text.size()) {
         if (length_ == Room) MakeRoom();
-        const std::size_t run = SkipAscii(text.substr(0, std::min(text.size(), at + Room - length_)), at) - at;
+        const std::size_t run =
+            SkipAscii(text.substr(0, std::min(text.size(), at + Room - length_)), at) - at;
         if (run > 0) {
             std::memcpy(line_ + length_, text.data() + at, run);
             if (!hasReturn_) hasReturn_ = std::memchr(line_ + length_, '\r', run) != nullptr;

@@ -54,8 +54,8 @@ private:
     BlockWriter* stream_ = nullptr;
     std::size_t length_ = 0;
     bool afterControlWord_ = false;
-    bool spilled_ = false;   // the line is longer than the buffer: its beginning is on its way already
-    bool hasReturn_ = false; // the buffer holds a CR
+    bool spilled_ = false;    // the line is longer than the buffer: its beginning is on its way already
+    bool hasReturn_ = false;  // the buffer holds a CR
     char line_[Room];
 };
 

@@ -80,7 +80,8 @@ std::string ASCIIChar(std::int32_t byte) {
 std::string NumberText(double value) {
     if (value == 0) return "0";
     std::array<char, 400> digits;  // the longest fixed form of a double has some 330 characters
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
     return {digits.data(), end.ptr};
 }
 

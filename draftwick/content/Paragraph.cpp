@@ -37,13 +37,12 @@ std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw
 /// \par\pard\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
-    const std::shared_ptr<Object> parent = Parent();
-    if (parent == nullptr) CheckParent();
-    static_cast<Container&>(*parent).WriteParagraphMark();
+    static_cast<Container&>(*RequireParent()).WriteParagraphMark();
     context.output.WriteControlWord("pard");
     if (style_ != Style::NoStyle) context.output.WriteControlWord("s", style_);
     if (const ParagraphBorders* borders = borders_.Find()) EmitParagraphBorders(context, *borders);
-    if (const draftwick::Background* background = background_.Find()) EmitBackground(context, background->Stored());
+    if (const draftwick::Background* background = background_.Find())
+        EmitBackground(context, background->Stored());
     const draftwick::FontFormat* font = fontFormat_.Find();
     EmitFontFormat(context, font != nullptr ? font->Stored() : DefaultFontFormat(context), true);
     EmitParagraphFormat(context, format_.Stored());
@@ -54,8 +53,8 @@ const Class& Paragraph::Description() const {
     using P = Paragraph;
     static const Class description{
         "Paragraph",
-        "{@C}",
-        "{@I}",
+        "{3F3895CF-38AE-4BB8-A68D-6E8A0CAC9FD3}",
+        "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
             PropertyOf<&P::Emitted>("Emitted"),

@@ -27,8 +27,6 @@ void EmitRunFormat(WritingContext& context, const FontFormat* own, const FontFor
 
 }  // namespace
 
-const Paragraph* Run::ParentParagraph() const { return static_cast<const Paragraph*>(Parent().get()); }
-
 std::shared_ptr<draftwick::FontFormat> Run::FontFormat() {
     if (fontFormat_.Find() == nullptr) {
         const std::shared_ptr<Object> parent = Parent();
@@ -41,13 +39,14 @@ std::shared_ptr<draftwick::FontFormat> Run::FontFormat() {
 
 void Run::WriteRunStart() {
     WritingContext& context = Writing();
+    const std::shared_ptr<Object> parent = RequireParent();
     const TextStyle* style =
         styleName_.empty() ? nullptr : &context.textStyles->At(context.textStyles->IndexOf(styleName_));
     context.output.WriteGroupStart();
     if (style != nullptr) {
         context.output.WriteControlWord("cs", TextStyleNumber(context, style->StyleIndex()));
     }
-    EmitRunFormat(context, fontFormat_.Find(), ParentParagraph()->OwnFontFormat(), style);
+    EmitRunFormat(context, fontFormat_.Find(), static_cast<const Paragraph&>(*parent).OwnFontFormat(), style);
     if (const draftwick::Background* background = background_.Find()) {
         EmitCharacterBackground(context, background->Stored());
     }

@@ -31,8 +31,6 @@ protected:
     void WriteRunStart();
 
 private:
-    const class Paragraph* ParentParagraph() const;
-
     std::string styleName_;
     Lazy<draftwick::FontFormat> fontFormat_;
     Lazy<draftwick::Background> background_;

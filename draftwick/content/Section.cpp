@@ -29,8 +29,8 @@ const Class& Section::Description() const {
     using P = PageSetup;
     static const Class description{
         "Section",
-        "{@C}",
-        "{@I}",
+        "{3CAFB903-D208-49F3-B0C5-36D94F5DA017}",
+        "{BF26F119-5E51-4C4B-B429-8E789A325047}",
         {
             PropertyOf<&S::CurrentParagraph>("CurrentParagraph"),
             PropertyOf<&S::Emitted>("Emitted"),

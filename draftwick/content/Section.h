@@ -38,7 +38,8 @@ public:
         Length headerY{720};
         Length footerY{720};
         Short lineNumberingInterval{1};
-        Choice<"Section.LineNumberingRestart", dwLNRSection, dwLNRContinuous> lineNumberingRestart{dwLNRSection};
+        Choice<"Section.LineNumberingRestart", dwLNRSection, dwLNRContinuous> lineNumberingRestart{
+            dwLNRSection};
         Short lineNumberingStart{1};
         bool lineNumberingVisible = false;
         Length lineNumberingX{720};
@@ -92,7 +93,9 @@ public:
     void SetLineNumberingInterval(std::int32_t lines) { Change(values_.lineNumberingInterval, lines); }
     /// Default dwLNRSection.
     dwLineNumberingRestart LineNumberingRestart() const { return values_.lineNumberingRestart; }
-    void SetLineNumberingRestart(dwLineNumberingRestart restart) { Change(values_.lineNumberingRestart, restart); }
+    void SetLineNumberingRestart(dwLineNumberingRestart restart) {
+        Change(values_.lineNumberingRestart, restart);
+    }
     /// 16 bits. Default 1.
     std::int32_t LineNumberingStart() const { return values_.lineNumberingStart; }
     void SetLineNumberingStart(std::int32_t number) { Change(values_.lineNumberingStart, number); }
@@ -108,7 +111,9 @@ public:
     void SetPageNumberingFormat(dwPageNumberingFormat format) { Change(values_.pageNumberingFormat, format); }
     /// Default dwPNRContinuous.
     dwPageNumberingRestart PageNumberingRestart() const { return values_.pageNumberingRestart; }
-    void SetPageNumberingRestart(dwPageNumberingRestart restart) { Change(values_.pageNumberingRestart, restart); }
+    void SetPageNumberingRestart(dwPageNumberingRestart restart) {
+        Change(values_.pageNumberingRestart, restart);
+    }
     /// Default 1.
     std::int32_t PageNumberingStart() const { return values_.pageNumberingStart; }
     void SetPageNumberingStart(std::int32_t number) { Change(values_.pageNumberingStart, number); }

@@ -45,8 +45,8 @@ void TextItem::WriteStart() {
 const Class& TextItem::Description() const {
     using T = TextItem;
     static const Class description{"TextItem",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{D7F0AD93-80D4-43EE-A899-0FC26A7D0E30}",
+                                   "{FD030CEF-2FDF-4A4C-A840-25816C9208C4}",
                                    {
                                        PropertyOf<&T::Emitted>("Emitted"),
                                        PropertyOf<&T::Text>("Text"),

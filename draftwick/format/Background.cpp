@@ -8,8 +8,8 @@ const Class& Background::Description() const {
     using V = Values;
     static const Class description{
         "Background",
-        "{@C}",
-        "{@I}",
+        "{C954996D-94CB-4062-9DBD-C85CD0390873}",
+        "{1AD4B938-94A6-48EA-90DD-E1CC4D04B2B0}",
         {
             PropertyOf<&B::Texture, &B::SetTexture, &V::texture>("Texture"),
             PropertyOf<&B::Shading, &B::SetShading, &V::shading>("Shading"),

@@ -7,9 +7,9 @@ namespace draftwick {
 
 namespace {
 
-constexpr std::string_view Patterns[] = {"",          "bgcross",  "bgdkcross", "bgdkdcross", "bgdkfdiag",
-                                         "bgdkbdiag", "bgdkhoriz", "bgdkvert", "bgdcross",   "bgfdiag",
-                                         "bgbdiag",   "bghoriz",  "",          "bgvert"};
+constexpr std::string_view Patterns[] = {"",          "bgcross",   "bgdkcross", "bgdkdcross", "bgdkfdiag",
+                                         "bgdkbdiag", "bgdkhoriz", "bgdkvert",  "bgdcross",   "bgfdiag",
+                                         "bgbdiag",   "bghoriz",   "",          "bgvert"};
 
 /// Runs ("ch") and cells ("cl"): solid is written in the back colour, shaded without a colour, unlike in
 /// paragraphs, and the foreground word is fpat.
@@ -35,9 +35,7 @@ void EmitBackground(WritingContext& context, const Background::Values& backgroun
     Output& output = context.output;
     switch (background.texture) {
     case dwTextureNone: return;
-    case dwTextureShaded:
-        output.WriteControlWord("shading", RoundHalfEven(background.shading * 100));
-        break;
+    case dwTextureShaded: output.WriteControlWord("shading", RoundHalfEven(background.shading * 100)); break;
     case dwTextureSolid: output.WriteControlWord("shading", 10000); break;
     default:
         output.WriteWord(Patterns, background.texture);

@@ -12,8 +12,8 @@ const Class& TextBorder::Description() const {
     using B = TextBorder;
     using V = Values;
     static const Class description{"TextBorder",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{0C109FE5-908D-4CD0-9E41-5F35D9B7E8DF}",
+                                   "{345DF448-B240-4C11-8CE9-12EC7F64081B}",
                                    {
                                        PropertyOf<&B::Style, &B::SetStyle, &V::style>("Style"),
                                        PropertyOf<&B::Width, &B::SetWidth, &V::width>("Width"),
@@ -27,8 +27,8 @@ const Class& ParagraphBorder::Description() const {
     using B = ParagraphBorder;
     using V = Values;
     static const Class description{"ParagraphBorder",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{573EA448-A0C7-4A00-9481-3923E08DFB08}",
+                                   "{FE9B674C-FAA1-45C4-9023-7A59189169DD}",
                                    {
                                        PropertyOf<&B::Style, &B::SetStyle, &V::style>("Style"),
                                        PropertyOf<&B::Width, &B::SetWidth, &V::width>("Width"),
@@ -42,8 +42,8 @@ const Class& ParagraphBorder::Description() const {
 const Class& ParagraphBorders::Description() const {
     using B = ParagraphBorders;
     static const Class description{"ParagraphBorders",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{A2EA0D44-19D2-4983-98CF-7738E358A7BB}",
+                                   "{11810427-7D44-49C9-B2B6-19FE780E1510}",
                                    {PropertyOf<&B::Count>("Count")},
                                    {MethodOf<&B::Items>("Items", {{"Index"}})}};
     return description;

@@ -5,11 +5,30 @@ namespace draftwick {
 
 namespace {
 
-constexpr std::string_view StyleWords[] = {
-    "",           "brdrs",        "brdrsh",       "brdrdb",      "brdrdot",        "brdrdash",
-    "brdrdashsm", "brdrdashd",    "brdrdashdd",   "brdrtriple",  "brdrtnthsg",     "brdrthtnsg",
-    "brdrtnthtnsg", "brdrtnthmg", "brdrthtnmg",   "brdrtnthtnmg", "brdrtnthlg",    "brdrthtnlg",
-    "brdrtnthtnlg", "brdrwavy",   "brdrwavydb",   "brdrdashdotstr", "brdremboss", "brdrengrave"};
+constexpr std::string_view StyleWords[] = {"",
+                                           "brdrs",
+                                           "brdrsh",
+                                           "brdrdb",
+                                           "brdrdot",
+                                           "brdrdash",
+                                           "brdrdashsm",
+                                           "brdrdashd",
+                                           "brdrdashdd",
+                                           "brdrtriple",
+                                           "brdrtnthsg",
+                                           "brdrthtnsg",
+                                           "brdrtnthtnsg",
+                                           "brdrtnthmg",
+                                           "brdrthtnmg",
+                                           "brdrtnthtnmg",
+                                           "brdrtnthlg",
+                                           "brdrthtnlg",
+                                           "brdrtnthtnlg",
+                                           "brdrwavy",
+                                           "brdrwavydb",
+                                           "brdrdashdotstr",
+                                           "brdremboss",
+                                           "brdrengrave"};
 
 constexpr std::string_view SideWords[] = {"brdrt", "brdrl", "brdrr", "brdrb", "brdrbtw", "brdrbar"};
 
@@ -31,7 +50,8 @@ void EmitTextBorder(WritingContext& context, const TextBorder::Values& border) {
     EmitBorderLine(context, border.style, border.width, "brdrref", border.color);
 }
 
-void EmitParagraphBorder(WritingContext& context, dwParagraphBorder side, const ParagraphBorder::Values& border) {
+void EmitParagraphBorder(WritingContext& context, dwParagraphBorder side,
+                         const ParagraphBorder::Values& border) {
     if (border.style == dwBSNone) return;
     Output& output = context.output;
     output.WriteWord(SideWords, side);

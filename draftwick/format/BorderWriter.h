@@ -14,7 +14,8 @@ std::string_view BorderStyleWord(std::int32_t style) noexcept;
 void EmitTextBorder(WritingContext& context, const TextBorder::Values& border);
 
 /// \brdrt\brdrs\brsp20\brdrw20\brdrcf0
-void EmitParagraphBorder(WritingContext& context, dwParagraphBorder side, const ParagraphBorder::Values& border);
+void EmitParagraphBorder(WritingContext& context, dwParagraphBorder side,
+                         const ParagraphBorder::Values& border);
 
 /// All sides that were created, in the order of the enumeration.
 void EmitParagraphBorders(WritingContext& context, const ParagraphBorders& borders);

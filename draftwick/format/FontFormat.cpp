@@ -37,8 +37,8 @@ const Class& FontFormat::Description() const {
     using V = Values;
     static const Class description{
         "FontFormat",
-        "{@C}",
-        "{@I}",
+        "{90FFA48C-37B0-4C95-859E-8FFA02BDF758}",
+        "{BE7A5FE2-13CC-477F-86B6-A739E13D7BDD}",
         {
             PropertyOf<&F::Bold, &F::SetBold, &V::bold>("Bold"),
             PropertyOf<&F::AllCaps, &F::SetAllCaps, &V::allCaps>("AllCaps"),

@@ -78,6 +78,12 @@ void EmitFontFormatChanges(WritingContext& context, const FontFormat::Values& fo
     flag("striked1", &V::strikethroughDouble);  // "\striked11" and "\striked10" are the spellings we promise
 }
 
+FontFormat::Values DefaultFontFormat(const WritingContext& context) {
+    FontFormat::Values values;
+    values.font = context.defaultFont;
+    return values;
+}
+
 FontFormat::Values BlankReference(const WritingContext& context) {
     FontFormat::Values blank;
     blank.subscriptPosition = 0;

@@ -119,7 +119,8 @@ void EmitListOverrideTable(WritingContext& context, const Lists& lists) {
         output.WriteGroupEnd();
     }
     for (const auto& list : lists) {
-        for (const auto& [other, number] : list->Pairings()) EmitPairing(context, *list, lists.At(other), number);
+        for (const auto& [other, number] : list->Pairings())
+            EmitPairing(context, *list, lists.At(other), number);
     }
     output.WriteGroupEnd();
 }

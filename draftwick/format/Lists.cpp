@@ -10,10 +10,10 @@ ListLevel::ListLevel(Object& list, std::int32_t number) : Part(list), fontFormat
 }
 
 List::List(const Origin& origin, std::string name, std::int32_t index)
-    : Node(origin), name_(std::move(name)), index_(index),
-      levels_{ListLevel{*this, 1}, ListLevel{*this, 2}, ListLevel{*this, 3},
-              ListLevel{*this, 4}, ListLevel{*this, 5}, ListLevel{*this, 6},
-              ListLevel{*this, 7}, ListLevel{*this, 8}, ListLevel{*this, 9}} {}
+    : Node(origin), name_(std::move(name)),
+      index_(index), levels_{ListLevel{*this, 1}, ListLevel{*this, 2}, ListLevel{*this, 3},
+                             ListLevel{*this, 4}, ListLevel{*this, 5}, ListLevel{*this, 6},
+                             ListLevel{*this, 7}, ListLevel{*this, 8}, ListLevel{*this, 9}} {}
 
 std::shared_ptr<ListLevel> List::Levels(std::int32_t level) {
     if (!InRange(level, 1, 9)) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(level));
@@ -29,7 +29,9 @@ std::int32_t List::PairOverrideNumber(std::int32_t otherList) {
     return entry->second;
 }
 
-void List::MarkLevelUsed(std::int32_t level) noexcept { highestLevelUsed_ = std::max(highestLevelUsed_, level); }
+void List::MarkLevelUsed(std::int32_t level) noexcept {
+    highestLevelUsed_ = std::max(highestLevelUsed_, level);
+}
 
 std::shared_ptr<List> Lists::Add(std::string_view name) {
     Writing();
@@ -41,8 +43,8 @@ const Class& ListLevel::Description() const {
     using V = Values;
     static const Class description{
         "ListLevel",
-        "{@C}",
-        "{@I}",
+        "{00A90E71-5852-4E1E-A8BC-EFBDDDF8C492}",
+        "{46D4E0CD-81D9-42BB-AC2E-FB6C26295294}",
         {
             PropertyOf<&L::Style, &L::SetStyle, &V::style>("Style"),
             PropertyOf<&L::Align, &L::SetAlign, &V::align>("Align"),
@@ -60,8 +62,8 @@ const Class& ListLevel::Description() const {
 
 const Class& List::Description() const {
     static const Class description{"List",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{3E8FBE4C-8B32-4726-9FB6-BD95CE30AF29}",
+                                   "{6CB4E9B2-BEB5-4118-A531-0B57FAD58084}",
                                    {PropertyOf<&List::Name>("Name")},
                                    {MethodOf<&List::Levels>("Levels", {{"Index"}})}};
     return description;
@@ -69,8 +71,8 @@ const Class& List::Description() const {
 
 const Class& Lists::Description() const {
     static const Class description{"Lists",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{E85F0AFE-C48C-4501-A889-B45FCEBDD2D3}",
+                                   "{16DD6CF7-234E-4321-8070-7836F7A3845F}",
                                    {PropertyOf<&Lists::Count>("Count")},
                                    {ItemsMethod<Lists>(), MethodOf<&Lists::Add>("Add", {{"Name"}})}};
     return description;

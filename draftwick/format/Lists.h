@@ -114,7 +114,9 @@ public:
     void MarkLevelUsed(std::int32_t level) noexcept;
     /// More than the first level is in use.
     bool UsesLevels() const noexcept { return highestLevelUsed_ > 1; }
-    const ListLevel& LevelAt(std::int32_t level) const { return levels_[static_cast<std::size_t>(level - 1)]; }
+    const ListLevel& LevelAt(std::int32_t level) const {
+        return levels_[static_cast<std::size_t>(level - 1)];
+    }
     const std::vector<Pairing>& Pairings() const noexcept { return pairings_; }
 
 private:

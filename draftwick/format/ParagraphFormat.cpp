@@ -24,8 +24,8 @@ const Class& ParagraphFormat::Description() const {
     using V = Values;
     static const Class description{
         "ParagraphFormat",
-        "{@C}",
-        "{@I}",
+        "{73346E5F-D36D-4259-A1D2-E665F5DE6791}",
+        "{961EF7DF-9D36-45CE-B01F-E68DB500B9BD}",
         {
             PropertyOf<&P::Align, &P::SetAlign, &V::align>("Align"),
             PropertyOf<&P::IndentFirst, &P::SetIndentFirst, &V::indentFirst>("IndentFirst"),
@@ -33,7 +33,8 @@ const Class& ParagraphFormat::Description() const {
             PropertyOf<&P::IndentRight, &P::SetIndentRight, &V::indentRight>("IndentRight"),
             PropertyOf<&P::SpaceBefore, &P::SetSpaceBefore, &V::spaceBefore>("SpaceBefore"),
             PropertyOf<&P::SpaceAfter, &P::SetSpaceAfter, &V::spaceAfter>("SpaceAfter"),
-            PropertyOf<&P::LineSpacingStyle, &P::SetLineSpacingStyle, &V::lineSpacingStyle>("LineSpacingStyle"),
+            PropertyOf<&P::LineSpacingStyle, &P::SetLineSpacingStyle, &V::lineSpacingStyle>(
+                "LineSpacingStyle"),
             PropertyOf<&P::LineSpacingMultiple, &P::SetLineSpacingMultiple, &V::lineSpacingMultiple>(
                 "LineSpacingMultiple"),
             PropertyOf<&P::LineSpacingDistance, &P::SetLineSpacingDistance, &V::lineSpacingDistance>(

@@ -57,29 +57,28 @@ void TextStyle::SetBasedOn(std::string_view name) {
 
 const Class& ParagraphStyle::Description() const {
     using S = ParagraphStyle;
-    static const Class description{
-        "ParagraphStyle",
-        "{@C}",
-        "{@I}",
-        {
-            PropertyOf<&S::Name>("Name"),
-            PropertyOf<&S::BasedOn, &S::SetBasedOn>("BasedOn"),
-            PropertyOf<&S::NextStyle, &S::SetNextStyle>("NextStyle"),
-            PropertyOf<&S::Format>("Format"),
-            PropertyOf<&S::FontFormat>("FontFormat"),
-            PropertyOf<&S::Borders>("Borders"),
-            PropertyOf<&S::Background>("Background"),
-            PropertyOf<&S::TabStops>("TabStops"),
-        },
-        {}};
+    static const Class description{"ParagraphStyle",
+                                   "{08CA9723-6086-4D43-A48C-E1ECD692FB82}",
+                                   "{859E0F37-EC7D-4926-A612-BE04DA67A57C}",
+                                   {
+                                       PropertyOf<&S::Name>("Name"),
+                                       PropertyOf<&S::BasedOn, &S::SetBasedOn>("BasedOn"),
+                                       PropertyOf<&S::NextStyle, &S::SetNextStyle>("NextStyle"),
+                                       PropertyOf<&S::Format>("Format"),
+                                       PropertyOf<&S::FontFormat>("FontFormat"),
+                                       PropertyOf<&S::Borders>("Borders"),
+                                       PropertyOf<&S::Background>("Background"),
+                                       PropertyOf<&S::TabStops>("TabStops"),
+                                   },
+                                   {}};
     return description;
 }
 
 const Class& TextStyle::Description() const {
     using S = TextStyle;
     static const Class description{"TextStyle",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{155C0D9C-25A1-4E00-83D1-E27AD0037CF4}",
+                                   "{6A4E7142-A2A6-4F69-AF4E-DF7477AAFD27}",
                                    {
                                        PropertyOf<&S::Name>("Name"),
                                        PropertyOf<&S::BasedOn, &S::SetBasedOn>("BasedOn"),
@@ -94,8 +93,8 @@ const Class& TextStyle::Description() const {
 const Class& ParagraphStyles::Description() const {
     using S = ParagraphStyles;
     static const Class description{"ParagraphStyles",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{13D60D0E-A54E-41B5-8F57-B3BA994EB2CD}",
+                                   "{50A03811-2D31-4110-A7D5-8842966B6EDE}",
                                    {PropertyOf<&S::Count>("Count")},
                                    {ItemsMethod<S>(), MethodOf<&S::Add>("Add", {{"Name"}})}};
     return description;
@@ -104,8 +103,8 @@ const Class& ParagraphStyles::Description() const {
 const Class& TextStyles::Description() const {
     using S = TextStyles;
     static const Class description{"TextStyles",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{169D7FFE-6558-4EC4-B72A-D131DDD6E2AC}",
+                                   "{542EAE24-3AB2-43C6-9201-67CBE541AF1A}",
                                    {PropertyOf<&S::Count>("Count")},
                                    {ItemsMethod<S>(), MethodOf<&S::Add>("Add", {{"Name"}})}};
     return description;

@@ -137,6 +137,7 @@ public:
 std::int32_t TextStyleNumber(const WritingContext& context, std::int32_t index);
 
 /// "{\stylesheet{\s0\sbasedon222...Heading;}}"; nothing without styles.
-void EmitStylesheet(WritingContext& context, const ParagraphStyles& paragraphStyles, const TextStyles& textStyles);
+void EmitStylesheet(WritingContext& context, const ParagraphStyles& paragraphStyles,
+                    const TextStyles& textStyles);
 
 }  // namespace draftwick

@@ -31,8 +31,9 @@ void EmitTextStyle(WritingContext& context, const TextStyle& style) {
     Output& output = context.output;
     output.WriteDestinationStart();
     output.WriteControlWord("cs", TextStyleNumber(context, style.StyleIndex()));
-    WriteBase(output, style.BasedOnIndex() == Style::NoStyle ? Style::NoStyle
-                                                             : TextStyleNumber(context, style.BasedOnIndex()));
+    WriteBase(output, style.BasedOnIndex() == Style::NoStyle
+                          ? Style::NoStyle
+                          : TextStyleNumber(context, style.BasedOnIndex()));
     EmitTextBorder(context, style.StoredBorder().Stored());
     EmitFontFormat(context, style.StoredFontFormat().Stored(), false);
     EmitCharacterBackground(context, style.StoredBackground().Stored());
@@ -46,7 +47,8 @@ std::int32_t TextStyleNumber(const WritingContext& context, std::int32_t index) 
     return context.paragraphStyles->Count() + index;
 }
 
-void EmitStylesheet(WritingContext& context, const ParagraphStyles& paragraphStyles, const TextStyles& textStyles) {
+void EmitStylesheet(WritingContext& context, const ParagraphStyles& paragraphStyles,
+                    const TextStyles& textStyles) {
     if (paragraphStyles.Count() == 0 && textStyles.Count() == 0) return;
     context.output.WriteGroupStart();
     context.output.WriteControlWord("stylesheet");

@@ -55,8 +55,8 @@ void EmitTabStops(WritingContext& context, const TabStops& tabStops) {
 
 const Class& TabStop::Description() const {
     static const Class description{"TabStop",
-                                   "{@C}",
-                                   "{@I}",
+                                   "{8D729EBA-6B36-4A58-8387-45D57E0D6EE3}",
+                                   "{F461101D-1F11-471B-AC5E-0D00A20C7372}",
                                    {
                                        PropertyOf<&TabStop::Position>("Position"),
                                        PropertyOf<&TabStop::Align>("Align"),
@@ -70,8 +70,8 @@ const Class& TabStops::Description() const {
     using T = TabStops;
     static const Class description{
         "TabStops",
-        "{@C}",
-        "{@I}",
+        "{9C7E2664-098A-4DC3-A92E-F786A3185E6A}",
+        "{FF30523A-BFF2-478E-8081-B58B4C007168}",
         {PropertyOf<&T::Count>("Count")},
         {
             MethodOf<&T::Items>("Items", {{"Index"}}),

@@ -69,7 +69,9 @@ public:
 
     // The rest is for the library.
 
-    std::shared_ptr<TabStop> ItemAt(std::int32_t index) const { return stops_[static_cast<std::size_t>(index - 1)]; }
+    std::shared_ptr<TabStop> ItemAt(std::int32_t index) const {
+        return stops_[static_cast<std::size_t>(index - 1)];
+    }
     /// Replaces all tab stops.
     void CopyFrom(const TabStops& other);
 

@@ -1,0 +1,161 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/Text.h>
+#include <draftwick/base/Version.h>
+#include <draftwick/content/Section.h>
+#include <draftwick/core/Document.h>
+#include <draftwick/core/DocumentWriter.h>
+#include <draftwick/format/Fonts.h>
+#include <draftwick/format/Lists.h>
+#include <draftwick/format/Styles.h>
+
+#include <utility>
+
+namespace draftwick {
+
+std::shared_ptr<Document> Document::Create() { return Create(platform::SystemPlatform()); }
+
+std::shared_ptr<Document> Document::Create(platform::Platform services) {
+    auto document = std::make_shared<Document>(std::make_shared<WritingContext>(std::move(services)));
+    document->CreateCollections();
+    return document;
+}
+
+Document::Document(const std::shared_ptr<WritingContext>& context)
+    : Content(Origin{context, nullptr}), context_(context), settings_(context->settings) {}
+
+/// Children need a reference to their parent, so they come after the constructor.
+void Document::CreateCollections() {
+    context_->document = this;
+    context_->documentLink = weak_from_this();
+    fonts_ = std::make_shared<draftwick::Fonts>(OriginOfChild());
+    lists_ = std::make_shared<draftwick::Lists>(OriginOfChild());
+    paragraphStyles_ = std::make_shared<draftwick::ParagraphStyles>(OriginOfChild());
+    textStyles_ = std::make_shared<draftwick::TextStyles>(OriginOfChild());
+    context_->fonts = fonts_.get();
+    context_->lists = lists_.get();
+    context_->paragraphStyles = paragraphStyles_.get();
+    context_->textStyles = textStyles_.get();
+}
+
+Document::~Document() {
+    context_->output.SetStream(nullptr);
+    context_->document = nullptr;
+    context_->fonts = nullptr;
+    context_->lists = nullptr;
+    context_->paragraphStyles = nullptr;
+    context_->textStyles = nullptr;
+}
+
+std::shared_ptr<Section> Document::AddSection() {
+    // Once the file's last brace is written nothing can follow it, even if Finish failed after that.
+    if (files_.Ended()) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
+    return Add(currentSection_);
+}
+
+void Document::Finish() { Close(); }
+
+void Document::WriteStart() {
+    files_.OpenBody(*context_);
+    WriteDocumentFormatting(*context_);
+}
+
+void Document::WriteEnd() { files_.AssembleOutputFile(*context_); }
+
+std::string Document::DefaultFontName() const {
+    return context_->defaultFont == WritingContext::NoFont ? std::string{}
+                                                           : fonts_->At(context_->defaultFont).Name();
+}
+
+void Document::SetDefaultFontName(std::string_view name) {
+    OpenForChange();
+    context_->defaultFont = name.empty() ? WritingContext::NoFont : fonts_->GetFontIndex(name);
+}
+
+void Document::SetOrientation(dwOrientation orientation) {
+    const dwOrientation before = settings_.orientation;
+    Change(settings_.orientation, orientation);
+    if (orientation != before) std::swap(settings_.page.pageWidth, settings_.page.pageHeight);
+}
+
+/// File names are the system's bytes, not necessarily UTF-8.
+void Document::SetPath(std::string& field, std::string_view path) {
+    OpenForChange();
+    field = path;
+}
+
+std::int32_t Document::VerMajor() const { return VersionMajor; }
+std::int32_t Document::VerMinor() const { return VersionMinor; }
+std::int32_t Document::VerRevision() const { return VersionRevision; }
+
+std::string Document::ASCIIChar(std::int32_t byte) const { return draftwick::ASCIIChar(byte); }
+
+const Class& Document::Description() const {
+    using D = Document;
+    using V = DocumentSettings;
+    using P = PageSetup;
+    static const Class description{
+        "Document",
+        "{A8C1E672-BFE8-4FE2-90B0-4C5CE45CD648}",
+        "{BD7B1DD0-EAFD-4C2D-BD88-CD1EC9EA7B64}",
+        {
+            PropertyOf<&D::ActualFileName>("ActualFileName"),
+            PropertyOf<&D::VerMajor>("VerMajor"),
+            PropertyOf<&D::VerMinor>("VerMinor"),
+            PropertyOf<&D::VerRevision>("VerRevision"),
+            PropertyOf<&D::Emitted>("Emitted"),
+            PropertyOf<&D::Finished>("Finished"),
+            PropertyOf<&D::CurrentSection>("CurrentSection"),
+            PropertyOf<&D::Fonts>("Fonts"),
+            PropertyOf<&D::Lists>("Lists"),
+            PropertyOf<&D::ParagraphStyles>("ParagraphStyles"),
+            PropertyOf<&D::TextStyles>("TextStyles"),
+            PropertyOf<&D::Filename, &D::SetFilename, &V::filename>("Filename"),
+            PropertyOf<&D::TempPath, &D::SetTempPath, &V::tempPath>("TempPath"),
+            PropertyOf<&D::ScaleMode, &D::SetScaleMode, &V::scaleMode>("ScaleMode"),
+            PropertyOf<&D::MarginTop, &D::SetMarginTop, &P::marginTop>("MarginTop"),
+            PropertyOf<&D::MarginLeft, &D::SetMarginLeft, &P::marginLeft>("MarginLeft"),
+            PropertyOf<&D::MarginRight, &D::SetMarginRight, &P::marginRight>("MarginRight"),
+            PropertyOf<&D::MarginBottom, &D::SetMarginBottom, &P::marginBottom>("MarginBottom"),
+            PropertyOf<&D::MarginMirror, &D::SetMarginMirror, &V::marginMirror>("MarginMirror"),
+            PropertyOf<&D::Gutter, &D::SetGutter, &P::gutter>("Gutter"),
+            PropertyOf<&D::PageWidth, &D::SetPageWidth, &P::pageWidth>("PageWidth"),
+            PropertyOf<&D::PageHeight, &D::SetPageHeight, &P::pageHeight>("PageHeight"),
+            PropertyOf<&D::FacingPage, &D::SetFacingPage, &V::facingPage>("FacingPage"),
+            PropertyOf<&D::PageNumberStart, &D::SetPageNumberStart, &V::pageNumberStart>("PageNumberStart"),
+            PropertyOf<&D::PageBorderAroundHeader, &D::SetPageBorderAroundHeader, &V::pageBorderAroundHeader>(
+                "PageBorderAroundHeader"),
+            PropertyOf<&D::PageBorderAroundFooter, &D::SetPageBorderAroundFooter, &V::pageBorderAroundFooter>(
+                "PageBorderAroundFooter"),
+            PropertyOf<&D::TabWidth, &D::SetTabWidth, &V::tabWidth>("TabWidth"),
+            PropertyOf<&D::WidowOrphanControl, &D::SetWidowOrphanControl, &V::widowOrphanControl>(
+                "WidowOrphanControl"),
+            PropertyOf<&D::HyphenAuto, &D::SetHyphenAuto, &V::hyphenAuto>("HyphenAuto"),
+            PropertyOf<&D::HyphenCaps, &D::SetHyphenCaps, &V::hyphenCaps>("HyphenCaps"),
+            PropertyOf<&D::HyphenConsecutiveLines, &D::SetHyphenConsecutiveLines, &V::hyphenConsecutiveLines>(
+                "HyphenConsecutiveLines"),
+            PropertyOf<&D::HyphenHotZone, &D::SetHyphenHotZone, &V::hyphenHotZone>("HyphenHotZone"),
+            PropertyOf<&D::Caption, &D::SetCaption, &V::caption>("Caption"),
+            PropertyOf<&D::ViewKind, &D::SetViewKind, &V::viewKind>("ViewKind"),
+            PropertyOf<&D::ZoomKind, &D::SetZoomKind, &V::zoomKind>("ZoomKind"),
+            PropertyOf<&D::ZoomScale, &D::SetZoomScale, &V::zoomScale>("ZoomScale"),
+            PropertyOf<&D::FootnoteFormat, &D::SetFootnoteFormat, &V::footnoteFormat>("FootnoteFormat"),
+            PropertyOf<&D::EndnoteFormat, &D::SetEndnoteFormat, &V::endnoteFormat>("EndnoteFormat"),
+            PropertyOf<&D::FootnoteLocation, &D::SetFootnoteLocation, &V::footnoteLocation>(
+                "FootnoteLocation"),
+            PropertyOf<&D::EndnoteLocation, &D::SetEndnoteLocation, &V::endnoteLocation>("EndnoteLocation"),
+            PropertyOf<&D::FootnoteRestart, &D::SetFootnoteRestart, &V::footnoteRestart>("FootnoteRestart"),
+            PropertyOf<&D::EndnoteRestart, &D::SetEndnoteRestart, &V::endnoteRestart>("EndnoteRestart"),
+            PropertyOf<&D::FootnoteStartAt, &D::SetFootnoteStartAt, &V::footnoteStartAt>("FootnoteStartAt"),
+            PropertyOf<&D::EndnoteStartAt, &D::SetEndnoteStartAt, &V::endnoteStartAt>("EndnoteStartAt"),
+            PropertyOf<&D::Orientation, &D::SetOrientation, &V::orientation>("Orientation"),
+            PropertyOf<&D::DefaultFontName, &D::SetDefaultFontName>("DefaultFontName"),
+        },
+        {
+            MethodOf<&D::AddSection>("AddSection"),
+            MethodOf<&D::Finish>("Finish"),
+            MethodOf<&D::ASCIIChar>("ASCIIChar", {{"ASCII"}}),
+        }};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,204 @@
+#pragma once
+
+#include <draftwick/base/Content.h>
+#include <draftwick/base/DocumentSettings.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/core/OutputFiles.h>
+#include <draftwick/platform/Platform.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+class Fonts;
+class Lists;
+class ParagraphStyles;
+class Section;
+class TextStyles;
+
+/// A document that is written while it is built.
+///
+/// Set its properties, add sections, fill them, call Finish. What was added is written to a temporary file as soon
+/// as its next sibling arrives; Finish puts the tables of fonts, colours, styles and lists in front. The first
+/// section writes the document's own settings: from then on its setters refuse ("Document"), except ScaleMode.
+///
+/// The host's reference keeps the document alive; once it is let go, everything that belonged to it refuses with
+/// error 91. A document that is let go without Finish leaves its temporary file behind. One document is for one
+/// thread; different documents can be used in different threads at the same time.
+class Document final : public Content {
+public:
+    /// A new document with the system's services.
+    static std::shared_ptr<Document> Create();
+    /// A new document with the host's own services in place of the system's.
+    static std::shared_ptr<Document> Create(platform::Platform services);
+    ~Document() override;
+
+    /// Adds a section and closes the one before. Refuses once the document is finished ("Document");
+    /// std::system_error when the temporary file cannot be made or written.
+    std::shared_ptr<Section> AddSection();
+    /// The section that was added last; empty before the first.
+    std::shared_ptr<Section> CurrentSection() const { return currentSection_; }
+
+    /// Writes the file. std::system_error when that fails: the document is then not finished, and a later call
+    /// writes the file once the cause is gone. On a finished document it does nothing.
+    void Finish();
+
+    /// The file that was written; empty before Finish.
+    const std::string& ActualFileName() const { return files_.ActualFileName(); }
+    /// The file to write; empty (default) for "Draftwick1.rtf", or the next free number, in the folder for temporary
+    /// files. An existing file is replaced; if it cannot be deleted, a number is put before the extension of four
+    /// characters. Error 5 in Finish for a name of less than four characters.
+    const std::string& Filename() const { return settings_.filename; }
+    void SetFilename(std::string_view name) { SetPath(settings_.filename, name); }
+    /// The folder of the temporary file; empty (default) for the system's.
+    const std::string& TempPath() const { return settings_.tempPath; }
+    void SetTempPath(std::string_view folder) { SetPath(settings_.tempPath, folder); }
+
+    /// The unit in which lengths are given and taken, in the whole document. Default dwInches. It can be changed at
+    /// any time; what is stored stays.
+    dwScaleMode ScaleMode() const { return settings_.scaleMode; }
+    void SetScaleMode(dwScaleMode scale) { settings_.scaleMode.Set(scale); }
+
+    std::shared_ptr<draftwick::Fonts> Fonts() const { return fonts_; }
+    std::shared_ptr<draftwick::Lists> Lists() const { return lists_; }
+    std::shared_ptr<draftwick::ParagraphStyles> ParagraphStyles() const { return paragraphStyles_; }
+    std::shared_ptr<draftwick::TextStyles> TextStyles() const { return textStyles_; }
+
+    /// The font of everything that has no other; empty (default) leaves it to the reader. It takes the spelling of
+    /// the font in Fonts; dwErrItemNotFound when there is none. Formats that exist already do not follow.
+    std::string DefaultFontName() const;
+    void SetDefaultFontName(std::string_view name);
+
+    // The page. Lengths are 16 bits in twips.
+
+    /// Default 720 twips each.
+    double MarginTop() const { return Read(settings_.page.marginTop); }
+    void SetMarginTop(double length) { Change(settings_.page.marginTop, length); }
+    double MarginLeft() const { return Read(settings_.page.marginLeft); }
+    void SetMarginLeft(double length) { Change(settings_.page.marginLeft, length); }
+    double MarginRight() const { return Read(settings_.page.marginRight); }
+    void SetMarginRight(double length) { Change(settings_.page.marginRight, length); }
+    double MarginBottom() const { return Read(settings_.page.marginBottom); }
+    void SetMarginBottom(double length) { Change(settings_.page.marginBottom, length); }
+    /// Left and right margins change places on left pages.
+    bool MarginMirror() const { return settings_.marginMirror; }
+    void SetMarginMirror(bool on) { Change(settings_.marginMirror, on); }
+    /// Room for binding. Default 0.
+    double Gutter() const { return Read(settings_.page.gutter); }
+    void SetGutter(double length) { Change(settings_.page.gutter, length); }
+    /// Default 12240 twips (8.5 inches).
+    double PageWidth() const { return Read(settings_.page.pageWidth); }
+    void SetPageWidth(double length) { Change(settings_.page.pageWidth, length); }
+    /// Default 15840 twips (11 inches).
+    double PageHeight() const { return Read(settings_.page.pageHeight); }
+    void SetPageHeight(double length) { Change(settings_.page.pageHeight, length); }
+    /// A change swaps PageWidth and PageHeight. Default dwPortrait.
+    dwOrientation Orientation() const { return settings_.orientation; }
+    void SetOrientation(dwOrientation orientation);
+    /// Left and right pages differ. Default false.
+    bool FacingPage() const { return settings_.facingPage; }
+    void SetFacingPage(bool on) { Change(settings_.facingPage, on); }
+    /// 16 bits. Default 1.
+    std::int32_t PageNumberStart() const { return settings_.pageNumberStart; }
+    void SetPageNumberStart(std::int32_t number) { Change(settings_.pageNumberStart, number); }
+    /// Page borders go around headers and footers. Default true.
+    bool PageBorderAroundHeader() const { return settings_.pageBorderAroundHeader; }
+    void SetPageBorderAroundHeader(bool on) { Change(settings_.pageBorderAroundHeader, on); }
+    bool PageBorderAroundFooter() const { return settings_.pageBorderAroundFooter; }
+    void SetPageBorderAroundFooter(bool on) { Change(settings_.pageBorderAroundFooter, on); }
+
+    // Text.
+
+    /// The distance of the default tab stops. Default 720 twips.
+    double TabWidth() const { return Read(settings_.tabWidth); }
+    void SetTabWidth(double length) { Change(settings_.tabWidth, length); }
+    /// No single first or last lines of paragraphs on a page. Default true.
+    bool WidowOrphanControl() const { return settings_.widowOrphanControl; }
+    void SetWidowOrphanControl(bool on) { Change(settings_.widowOrphanControl, on); }
+    /// Default false.
+    bool HyphenAuto() const { return settings_.hyphenAuto; }
+    void SetHyphenAuto(bool on) { Change(settings_.hyphenAuto, on); }
+    /// Words in capitals are hyphenated, too. Default true.
+    bool HyphenCaps() const { return settings_.hyphenCaps; }
+    void SetHyphenCaps(bool on) { Change(settings_.hyphenCaps, on); }
+    /// How many lines in a row may end in a hyphen; 0 (default) for any number.
+    std::int32_t HyphenConsecutiveLines() const { return settings_.hyphenConsecutiveLines; }
+    void SetHyphenConsecutiveLines(std::int32_t lines) { Change(settings_.hyphenConsecutiveLines, lines); }
+    /// How much room a line may leave at its end before a word is hyphenated. Default 360 twips.
+    double HyphenHotZone() const { return Read(settings_.hyphenHotZone); }
+    void SetHyphenHotZone(double length) { Change(settings_.hyphenHotZone, length); }
+
+    // The reader's window.
+
+    /// The title of the window. Default empty. Written as it is: braces break the file.
+    const std::string& Caption() const { return settings_.caption; }
+    void SetCaption(std::string_view caption) { Change(settings_.caption, caption); }
+    /// Default dwViewNone: this and the two settings below are not written.
+    dwViewKind ViewKind() const { return settings_.viewKind; }
+    void SetViewKind(dwViewKind kind) { Change(settings_.viewKind, kind); }
+    /// Default dwZoomPercent.
+    dwZoomKind ZoomKind() const { return settings_.zoomKind; }
+    void SetZoomKind(dwZoomKind kind) { Change(settings_.zoomKind, kind); }
+    /// Percent, 16 bits. Default 100.
+    std::int32_t ZoomScale() const { return settings_.zoomScale; }
+    void SetZoomScale(std::int32_t percent) { Change(settings_.zoomScale, percent); }
+
+    // Notes.
+
+    /// Default dwFFDecimal.
+    dwFootnoteFormat FootnoteFormat() const { return settings_.footnoteFormat; }
+    void SetFootnoteFormat(dwFootnoteFormat format) { Change(settings_.footnoteFormat, format); }
+    dwFootnoteFormat EndnoteFormat() const { return settings_.endnoteFormat; }
+    void SetEndnoteFormat(dwFootnoteFormat format) { Change(settings_.endnoteFormat, format); }
+    /// Default dwFLBottomOfPage.
+    dwFootnoteLocation FootnoteLocation() const { return settings_.footnoteLocation; }
+    void SetFootnoteLocation(dwFootnoteLocation location) { Change(settings_.footnoteLocation, location); }
+    /// Default dwELSection.
+    dwEndnoteLocation EndnoteLocation() const { return settings_.endnoteLocation; }
+    void SetEndnoteLocation(dwEndnoteLocation location) { Change(settings_.endnoteLocation, location); }
+    /// Default dwFRContinuous.
+    dwFootnoteRestart FootnoteRestart() const { return settings_.footnoteRestart; }
+    void SetFootnoteRestart(dwFootnoteRestart restart) { Change(settings_.footnoteRestart, restart); }
+    /// Default dwFRContinuous. Endnotes cannot start again on each page: dwFRPage is written as dwFRContinuous.
+    dwFootnoteRestart EndnoteRestart() const { return settings_.endnoteRestart; }
+    void SetEndnoteRestart(dwFootnoteRestart restart) { Change(settings_.endnoteRestart, restart); }
+    /// The first number, 16 bits. Default 1.
+    std::int32_t FootnoteStartAt() const { return settings_.footnoteStartAt; }
+    void SetFootnoteStartAt(std::int32_t number) { Change(settings_.footnoteStartAt, number); }
+    std::int32_t EndnoteStartAt() const { return settings_.endnoteStartAt; }
+    void SetEndnoteStartAt(std::int32_t number) { Change(settings_.endnoteStartAt, number); }
+
+    /// The version of the library.
+    std::int32_t VerMajor() const;
+    std::int32_t VerMinor() const;
+    std::int32_t VerRevision() const;
+
+    /// The RTF escape of one byte of the file's code page, for TextItem::AddRawText. Error 6 outside of a byte.
+    std::string ASCIIChar(std::int32_t byte) const;
+
+    const Class& Description() const override;
+
+    /// Only for Create.
+    explicit Document(const std::shared_ptr<WritingContext>& context);
+
+protected:
+    void WriteStart() override;
+    void WriteEnd() override;
+
+private:
+    void CreateCollections();
+    void SetPath(std::string& field, std::string_view path);
+
+    std::shared_ptr<WritingContext> context_;
+    DocumentSettings& settings_;
+    OutputFiles files_;
+    std::shared_ptr<Section> currentSection_;
+    std::shared_ptr<draftwick::Fonts> fonts_;
+    std::shared_ptr<draftwick::Lists> lists_;
+    std::shared_ptr<draftwick::ParagraphStyles> paragraphStyles_;
+    std::shared_ptr<draftwick::TextStyles> textStyles_;
+};
+
+}  // namespace draftwick

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <draftwick/base/BlockWriter.h>
+
+#include <memory>
+#include <string>
+
+namespace draftwick {
+
+class WritingContext;
+
+/// The two files of a document: the temporary file that the body goes to while the document is built, and the file
+/// that Finish makes of it.
+class OutputFiles {
+public:
+    /// Creates the body file and lets the output go there. Changes nothing when it fails.
+    void OpenBody(WritingContext& context);
+
+    /// Ends the body, writes the header and the body to the output file and deletes the body file. When it fails it
+    /// can be called again.
+    void AssembleOutputFile(WritingContext& context);
+
+    /// Whether the brace that closes the document is written.
+    bool Ended() const noexcept { return ended_; }
+    const std::string& ActualFileName() const noexcept { return actualFileName_; }
+
+private:
+    std::unique_ptr<BlockWriter> CreateOutput(WritingContext& context);
+    void ResolveOutputFileName(WritingContext& context);
+
+    std::unique_ptr<BlockWriter> body_;
+    std::string bodyFileName_;
+    std::string actualFileName_;
+    bool ended_ = false;
+};
+
+}  // namespace draftwick

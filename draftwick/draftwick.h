@@ -1,0 +1,14 @@
+#pragma once
+
+/// All of Draftwick: what a host includes.
+#include <draftwick/base/Class.h>
+#include <draftwick/base/Error.h>
+#include <draftwick/base/Version.h>
+#include <draftwick/content/Paragraph.h>
+#include <draftwick/content/Section.h>
+#include <draftwick/content/Special.h>
+#include <draftwick/content/TextItem.h>
+#include <draftwick/core/Document.h>
+#include <draftwick/format/Fonts.h>
+#include <draftwick/format/Lists.h>
+#include <draftwick/format/Styles.h>

@@ -1,0 +1,127 @@
+#include "tests/support/FakePlatform.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace draftwick::test {
+
+class MemoryFiles::OpenFile final : public platform::File {
+public:
+    OpenFile(std::shared_ptr<MemoryFiles> files, Content content, bool writing)
+        : files_(std::move(files)), content_(std::move(content)), writing_(writing) {
+        ++files_->open_;
+    }
+    ~OpenFile() override { Release(); }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    std::size_t Write(const char* bytes, std::size_t size, std::error_code& error) override {
+        error = Begin(writing_);
+        if (error) size = error == std::errc::bad_file_descriptor ? 0 : std::min(size, files_->taken_);
+        if (size > 0) content_->append(bytes, size);
+        return size;
+    }
+
+    std::size_t Read(char* bytes, std::size_t size, std::error_code& error) override {
+        error = Begin(!writing_);
+        if (error) return 0;
+        const std::size_t taken = content_->copy(bytes, size, std::min(position_, content_->size()));
+        position_ += taken;
+        return taken;
+    }
+
+    void Close(std::error_code& error) override {
+        error.clear();
+        if (!content_) return;
+        error = files_->Count();
+        Release();
+    }
+
+private:
+    std::error_code Begin(bool allowed) {
+        const std::error_code error = files_->Count();
+        return content_ && allowed ? error : std::make_error_code(std::errc::bad_file_descriptor);
+    }
+    void Release() {
+        if (content_) --files_->open_;
+        content_.reset();
+    }
+
+    std::shared_ptr<MemoryFiles> files_;
+    Content content_;
+    bool writing_;
+    std::size_t position_ = 0;
+};
+
+std::vector<std::string> MemoryFiles::Names() const {
+    std::vector<std::string> names;
+    for (const auto& file : files_) names.push_back(file.first);
+    return names;
+}
+
+void MemoryFiles::FailAt(int operation, std::errc error, std::size_t taken) {
+    failing_ = operation;
+    failure_ = error;
+    taken_ = taken;
+}
+
+std::error_code MemoryFiles::Count() {
+    return ++operations_ == failing_ ? std::make_error_code(failure_) : std::error_code();
+}
+
+MemoryFiles::Content MemoryFiles::Find(const std::string& name, std::error_code& error) {
+    error = Count();
+    if (error) return nullptr;
+    const auto found = files_.find(name);
+    if (found != files_.end()) return found->second;
+    error = std::make_error_code(std::errc::no_such_file_or_directory);
+    return nullptr;
+}
+
+std::unique_ptr<platform::File> MemoryFiles::Create(const std::string& name, platform::Creation mode,
+                                                    std::error_code& error) {
+    error = Count();
+    if (error) return nullptr;
+    if (files_.contains(name) && mode != platform::Creation::Overwrite) {
+        error = std::make_error_code(std::errc::file_exists);
+        return nullptr;
+    }
+    if (locked_.contains(name)) {
+        error = std::make_error_code(std::errc::device_or_resource_busy);
+        return nullptr;
+    }
+    Put(name, {});
+    return std::make_unique<OpenFile>(shared_from_this(), files_[name], true);
+}
+
+std::unique_ptr<platform::File> MemoryFiles::OpenForReading(const std::string& name, std::error_code& error) {
+    const Content content = Find(name, error);
+    if (!content) return nullptr;
+    return std::make_unique<OpenFile>(shared_from_this(), content, false);
+}
+
+std::uint64_t MemoryFiles::Length(const std::string& name, std::error_code& error) {
+    const Content content = Find(name, error);
+    return content ? content->size() : 0;
+}
+
+void MemoryFiles::Delete(const std::string& name, std::error_code& error) {
+    if (!Find(name, error)) return;
+    if (locked_.contains(name)) {
+        error = std::make_error_code(std::errc::device_or_resource_busy);
+    } else {
+        files_.erase(name);
+    }
+}
+
+platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files) {
+    return MakeFakePlatform(std::move(files), std::make_shared<FakeEnvironment>());
+}
+
+platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
+                                    std::shared_ptr<FakeEnvironment> environment) {
+    return {std::move(files), std::move(environment)};
+}
+
+}  // namespace draftwick::test

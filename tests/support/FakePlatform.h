@@ -1,0 +1,74 @@
+#pragma once
+
+#include <draftwick/platform/Platform.h>
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace draftwick::test {
+
+/// Files that live in memory, for one thread. There are no folders: a name is a name.
+class MemoryFiles final : public platform::FileSystem, public std::enable_shared_from_this<MemoryFiles> {
+public:
+    std::string Bytes(const std::string& name) const { return *files_.at(name); }
+    void Put(const std::string& name, std::string bytes) {
+        files_[name] = std::make_shared<std::string>(std::move(bytes));
+    }
+    std::vector<std::string> Names() const;
+
+    /// Lets one operation fail, counted from 1 over every Create, OpenForReading, Write, Read, Close, Length and
+    /// Delete since the beginning. When it is a Write, the first `taken` bytes still get through. A Close that
+    /// fails ends the use of the file nevertheless.
+    void FailAt(int operation, std::errc error, std::size_t taken = 0);
+    /// How many operations there were.
+    int Operations() const { return operations_; }
+
+    /// A locked file cannot be deleted or overwritten: std::errc::device_or_resource_busy.
+    void Lock(const std::string& name) { locked_.insert(name); }
+    void Unlock(const std::string& name) { locked_.erase(name); }
+
+    /// How many files are open.
+    int OpenFiles() const { return open_; }
+
+    std::unique_ptr<platform::File> Create(const std::string& name, platform::Creation mode,
+                                           std::error_code& error) override;
+    std::unique_ptr<platform::File> OpenForReading(const std::string& name, std::error_code& error) override;
+    bool Exists(const std::string& name) override { return files_.contains(name); }
+    std::uint64_t Length(const std::string& name, std::error_code& error) override;
+    void Delete(const std::string& name, std::error_code& error) override;
+    char Separator() const override { return '/'; }
+
+private:
+    class OpenFile;
+    using Content = std::shared_ptr<std::string>;
+
+    /// Counts an operation and gives its error if it is the one to fail.
+    std::error_code Count();
+    Content Find(const std::string& name, std::error_code& error);
+
+    std::map<std::string, Content> files_;
+    std::set<std::string> locked_;
+    int operations_ = 0;
+    int open_ = 0;
+    int failing_ = 0;
+    std::errc failure_{};
+    std::size_t taken_ = 0;
+};
+
+class FakeEnvironment final : public platform::Environment {
+public:
+    std::string tempFolder = "/temp";
+    std::string TempFolder() override { return tempFolder; }
+};
+
+/// A platform with these files and a FakeEnvironment.
+platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files);
+platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
+                                    std::shared_ptr<FakeEnvironment> environment);
+
+}  // namespace draftwick::test
