@@ -8,6 +8,7 @@
 #include <draftwick/content/Section.h>
 #include <draftwick/content/Special.h>
 #include <draftwick/content/TextItem.h>
+#include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>

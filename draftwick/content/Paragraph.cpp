@@ -49,7 +49,7 @@ void Paragraph::WriteStart() {
     if (const draftwick::TabStops* tabStops = tabStops_.Find()) EmitTabStops(context, *tabStops);
 }
 
-const Class& Paragraph::Description() const {
+const Class& Paragraph::Describe() {
     using P = Paragraph;
     static const Class description{
         "Paragraph",

@@ -40,7 +40,8 @@ public:
     /// The run that was added last; empty before the first.
     std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     // The rest is for the library.
 

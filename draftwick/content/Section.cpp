@@ -1,5 +1,6 @@
 #include <draftwick/base/Class.h>
 #include <draftwick/base/WritingContext.h>
+#include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/SectionWriter.h>
 
@@ -10,7 +11,7 @@ namespace draftwick {
 Section::Section(const Origin& origin) : Container(origin) {
     const DocumentSettings& document = Writing().settings;
     values_.page = document.page;
-    values_.orientation = document.orientation;
+    values_.orientation = dwOrientation{document.orientation};
 }
 
 void Section::SetOrientation(dwOrientation orientation) {
@@ -23,7 +24,7 @@ void Section::WriteStart() { EmitSection(Writing(), values_); }
 
 void Section::WriteEnd() { WriteSectionEnd(Writing()); }
 
-const Class& Section::Description() const {
+const Class& Section::Describe() {
     using S = Section;
     using V = Values;
     using P = PageSetup;

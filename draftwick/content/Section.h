@@ -133,7 +133,8 @@ public:
     dwVerticalAlign VerticalAlign() const { return values_.verticalAlign; }
     void SetVerticalAlign(dwVerticalAlign align) { Change(values_.verticalAlign, align); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
 protected:
     void WriteStart() override;

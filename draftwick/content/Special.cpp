@@ -6,7 +6,7 @@ namespace draftwick {
 
 std::string Special::ASCII(std::int32_t value) { return ASCIIChar(value); }
 
-const Class& Special::Description() const {
+const Class& Special::Describe() {
     using S = Special;
     static const Class description{"Special",
                                    "{E5D8A517-23A5-4086-A2C9-E066E04192B9}",

@@ -45,7 +45,8 @@ public:
     /// byte.
     static std::string ASCII(std::int32_t value);
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 };
 
 }  // namespace draftwick

@@ -42,7 +42,7 @@ void TextItem::WriteStart() {
     output.WriteGroupEnd();
 }
 
-const Class& TextItem::Description() const {
+const Class& TextItem::Describe() {
     using T = TextItem;
     static const Class description{"TextItem",
                                    "{D7F0AD93-80D4-43EE-A899-0FC26A7D0E30}",

@@ -20,7 +20,8 @@ public:
     /// All that was added, in RTF form and UTF-8.
     const std::string& Text() const { return text_; }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
 protected:
     void WriteStart() override;

@@ -89,7 +89,7 @@ std::int32_t Document::VerRevision() const { return VersionRevision; }
 
 std::string Document::ASCIIChar(std::int32_t byte) const { return draftwick::ASCIIChar(byte); }
 
-const Class& Document::Description() const {
+const Class& Document::Describe() {
     using D = Document;
     using V = DocumentSettings;
     using P = PageSetup;

@@ -178,7 +178,8 @@ public:
     /// The RTF escape of one byte of the file's code page, for TextItem::AddRawText. Error 6 outside of a byte.
     std::string ASCIIChar(std::int32_t byte) const;
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     /// Only for Create.
     explicit Document(const std::shared_ptr<WritingContext>& context);

@@ -4,6 +4,8 @@
 #include <draftwick/core/DocumentWriter.h>
 #include <draftwick/core/OutputFiles.h>
 
+#include <utility>
+
 namespace draftwick {
 
 namespace {

@@ -3,7 +3,7 @@
 
 namespace draftwick {
 
-const Class& Background::Description() const {
+const Class& Background::Describe() {
     using B = Background;
     using V = Values;
     static const Class description{

@@ -53,7 +53,8 @@ public:
     std::int32_t BackColor() const { return values_.backColor; }
     void SetBackColor(std::int32_t color) { Change(values_.backColor, color); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     const Values& Stored() const noexcept { return values_; }
     void CopyFrom(const Background& other) { values_ = other.values_; }

@@ -8,7 +8,7 @@ ParagraphBorder::ParagraphBorder(Object& parent, dwParagraphBorder side) : Part(
     values_.spacing = beside ? 4 : 1;
 }
 
-const Class& TextBorder::Description() const {
+const Class& TextBorder::Describe() {
     using B = TextBorder;
     using V = Values;
     static const Class description{"TextBorder",
@@ -23,7 +23,7 @@ const Class& TextBorder::Description() const {
     return description;
 }
 
-const Class& ParagraphBorder::Description() const {
+const Class& ParagraphBorder::Describe() {
     using B = ParagraphBorder;
     using V = Values;
     static const Class description{"ParagraphBorder",
@@ -39,7 +39,7 @@ const Class& ParagraphBorder::Description() const {
     return description;
 }
 
-const Class& ParagraphBorders::Description() const {
+const Class& ParagraphBorders::Describe() {
     using B = ParagraphBorders;
     static const Class description{"ParagraphBorders",
                                    "{A2EA0D44-19D2-4983-98CF-7738E358A7BB}",

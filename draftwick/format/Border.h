@@ -105,7 +105,8 @@ public:
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     const Values& Stored() const noexcept { return values_; }
     void CopyFrom(const TextBorder& other) { values_ = other.values_; }
@@ -152,7 +153,8 @@ public:
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     const Values& Stored() const noexcept { return values_; }
     void CopyFrom(const ParagraphBorder& other) { values_ = other.values_; }
@@ -165,7 +167,8 @@ private:
 class ParagraphBorders final : public BorderCollection<ParagraphBorder, dwParagraphBorder, 6> {
 public:
     using BorderCollection::BorderCollection;
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 };
 
 }  // namespace draftwick

@@ -32,7 +32,7 @@ void FontFormat::SetEngrave(bool on) {
     if (on) values_.emboss = false;
 }
 
-const Class& FontFormat::Description() const {
+const Class& FontFormat::Describe() {
     using F = FontFormat;
     using V = Values;
     static const Class description{

@@ -132,7 +132,8 @@ public:
     bool Engrave() const { return values_.engrave; }
     void SetEngrave(bool on);
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     const Values& Stored() const noexcept { return values_; }
     void CopyFrom(const FontFormat& other) { values_ = other.values_; }

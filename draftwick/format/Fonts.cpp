@@ -3,7 +3,7 @@
 
 namespace draftwick {
 
-const Class& Font::Description() const {
+const Class& Font::Describe() {
     static const Class description{
         "Font",
         "{8643412B-C7DF-4466-9F59-8824B0C4891F}",
@@ -17,7 +17,7 @@ const Class& Font::Description() const {
     return description;
 }
 
-const Class& Fonts::Description() const {
+const Class& Fonts::Describe() {
     static const Class description{"Fonts",
                                    "{C40907E5-9A70-4FC4-B88B-4785BD9D6B1F}",
                                    "{58612EAE-74FC-4639-A4EC-7A4D70606954}",

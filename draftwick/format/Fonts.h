@@ -37,7 +37,8 @@ public:
     dwFontFamily Family() const { return values_.family; }
     void SetFamily(dwFontFamily family) { Change(values_.family, family); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     /// The number of the font in the file, from 0.
     std::int32_t FontIndex() const noexcept { return index_; }
@@ -60,7 +61,8 @@ public:
         return AddItem(name, "Fonts");
     }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     /// The number of the font of that name in the file. dwErrItemNotFound when there is none.
     std::int32_t GetFontIndex(std::string_view name) const { return IndexOf(name); }

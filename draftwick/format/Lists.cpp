@@ -38,7 +38,7 @@ std::shared_ptr<List> Lists::Add(std::string_view name) {
     return AddItem(name, "Lists");
 }
 
-const Class& ListLevel::Description() const {
+const Class& ListLevel::Describe() {
     using L = ListLevel;
     using V = Values;
     static const Class description{
@@ -60,7 +60,7 @@ const Class& ListLevel::Description() const {
     return description;
 }
 
-const Class& List::Description() const {
+const Class& List::Describe() {
     static const Class description{"List",
                                    "{3E8FBE4C-8B32-4726-9FB6-BD95CE30AF29}",
                                    "{6CB4E9B2-BEB5-4118-A531-0B57FAD58084}",
@@ -69,7 +69,7 @@ const Class& List::Description() const {
     return description;
 }
 
-const Class& Lists::Description() const {
+const Class& Lists::Describe() {
     static const Class description{"Lists",
                                    "{E85F0AFE-C48C-4501-A889-B45FCEBDD2D3}",
                                    "{16DD6CF7-234E-4321-8070-7836F7A3845F}",

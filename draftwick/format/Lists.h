@@ -78,7 +78,8 @@ public:
     /// The look of the number.
     std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     const Values& Stored() const noexcept { return values_; }
     const draftwick::FontFormat& StoredFontFormat() const noexcept { return fontFormat_; }
@@ -101,7 +102,8 @@ public:
 
     /// A list can be changed at any time.
     void CheckNotEmitted() const override {}
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     // The rest is for the library.
 
@@ -137,7 +139,8 @@ public:
     /// is there, in any case of letters, error 457.
     std::shared_ptr<List> Add(std::string_view name);
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 };
 
 /// "{\*\listtable...}" and "{\*\listoverridetable...}"; nothing without lists.

@@ -19,7 +19,7 @@ void ParagraphFormat::SetList(std::int32_t& list, std::string_view name) {
     list = name.empty() ? NoList : Writing().lists->IndexOf(name);
 }
 
-const Class& ParagraphFormat::Description() const {
+const Class& ParagraphFormat::Describe() {
     using P = ParagraphFormat;
     using V = Values;
     static const Class description{

@@ -126,7 +126,8 @@ public:
     std::int32_t ListLevel() const { return values_.listLevel; }
     void SetListLevel(std::int32_t level) { Change(values_.listLevel, level); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     const Values& Stored() const noexcept { return values_; }
     void CopyFrom(const ParagraphFormat& other) { values_ = other.values_; }

@@ -55,7 +55,7 @@ void TextStyle::SetBasedOn(std::string_view name) {
     basedOn_ = index;
 }
 
-const Class& ParagraphStyle::Description() const {
+const Class& ParagraphStyle::Describe() {
     using S = ParagraphStyle;
     static const Class description{"ParagraphStyle",
                                    "{08CA9723-6086-4D43-A48C-E1ECD692FB82}",
@@ -74,7 +74,7 @@ const Class& ParagraphStyle::Description() const {
     return description;
 }
 
-const Class& TextStyle::Description() const {
+const Class& TextStyle::Describe() {
     using S = TextStyle;
     static const Class description{"TextStyle",
                                    "{155C0D9C-25A1-4E00-83D1-E27AD0037CF4}",
@@ -90,7 +90,7 @@ const Class& TextStyle::Description() const {
     return description;
 }
 
-const Class& ParagraphStyles::Description() const {
+const Class& ParagraphStyles::Describe() {
     using S = ParagraphStyles;
     static const Class description{"ParagraphStyles",
                                    "{13D60D0E-A54E-41B5-8F57-B3BA994EB2CD}",
@@ -100,7 +100,7 @@ const Class& ParagraphStyles::Description() const {
     return description;
 }
 
-const Class& TextStyles::Description() const {
+const Class& TextStyles::Describe() {
     using S = TextStyles;
     static const Class description{"TextStyles",
                                    "{169D7FFE-6558-4EC4-B72A-D131DDD6E2AC}",

@@ -51,7 +51,8 @@ public:
     /// Copied to paragraphs with the style, but not written in the stylesheet.
     std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     // The rest is for the library.
 
@@ -88,7 +89,8 @@ public:
     std::shared_ptr<TextBorder> Border() { return Share(border_); }
     std::shared_ptr<draftwick::Background> Background() { return Share(background_); }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     // The rest is for the library.
 
@@ -116,7 +118,8 @@ public:
         return AddItem(name, "Paragraph Styles");
     }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 };
 
 /// The text styles of a document.
@@ -130,7 +133,8 @@ public:
         return AddItem(name, "Text Styles");
     }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 };
 
 /// The number of a text style in the file: text styles are numbered after the paragraph styles.

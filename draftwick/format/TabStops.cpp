@@ -53,7 +53,7 @@ void EmitTabStops(WritingContext& context, const TabStops& tabStops) {
     }
 }
 
-const Class& TabStop::Description() const {
+const Class& TabStop::Describe() {
     static const Class description{"TabStop",
                                    "{8D729EBA-6B36-4A58-8387-45D57E0D6EE3}",
                                    "{F461101D-1F11-471B-AC5E-0D00A20C7372}",
@@ -66,7 +66,7 @@ const Class& TabStop::Description() const {
     return description;
 }
 
-const Class& TabStops::Description() const {
+const Class& TabStops::Describe() {
     using T = TabStops;
     static const Class description{
         "TabStops",

@@ -37,7 +37,8 @@ public:
     dwTabAlign Align() const { return values_.align; }
     dwTabLeader Leader() const { return values_.leader; }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     const Values& Stored() const noexcept { return values_; }
 
@@ -65,7 +66,8 @@ public:
     CollectionIterator<const TabStops> begin() const { return {this, 1}; }
     CollectionIterator<const TabStops> end() const { return {this, Count() + 1}; }
 
-    const Class& Description() const override;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
 
     // The rest is for the library.
 

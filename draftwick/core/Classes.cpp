@@ -1,0 +1,43 @@
+#include <draftwick/content/Paragraph.h>
+#include <draftwick/content/Section.h>
+#include <draftwick/content/Special.h>
+#include <draftwick/content/TextItem.h>
+#include <draftwick/core/Classes.h>
+#include <draftwick/core/Document.h>
+#include <draftwick/format/Fonts.h>
+#include <draftwick/format/Lists.h>
+#include <draftwick/format/Styles.h>
+
+namespace draftwick {
+
+// A list that is written down, not one that classes register in: a static library would lose those that nobody
+// refers to.
+std::span<const Class* const> Classes() {
+    static const Class* const all[] = {
+        &Background::Describe(),
+        &Document::Describe(),
+        &Font::Describe(),
+        &FontFormat::Describe(),
+        &Fonts::Describe(),
+        &List::Describe(),
+        &ListLevel::Describe(),
+        &Lists::Describe(),
+        &Paragraph::Describe(),
+        &ParagraphBorder::Describe(),
+        &ParagraphBorders::Describe(),
+        &ParagraphFormat::Describe(),
+        &ParagraphStyle::Describe(),
+        &ParagraphStyles::Describe(),
+        &Section::Describe(),
+        &Special::Describe(),
+        &TabStop::Describe(),
+        &TabStops::Describe(),
+        &TextBorder::Describe(),
+        &TextItem::Describe(),
+        &TextStyle::Describe(),
+        &TextStyles::Describe(),
+    };
+    return all;
+}
+
+}  // namespace draftwick

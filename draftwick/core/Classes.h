@@ -1,0 +1,12 @@
+#pragma once
+
+#include <draftwick/base/Class.h>
+
+#include <span>
+
+namespace draftwick {
+
+/// The descriptions of all classes of the object model, in the order of their names.
+std::span<const Class* const> Classes();
+
+}  // namespace draftwick

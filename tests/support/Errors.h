@@ -1,0 +1,32 @@
+#pragma once
+
+#include <draftwick/base/Error.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+namespace draftwick::test {
+
+/// What an action was refused with; "accepted" when it was not.
+inline std::string Refusal(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return ErrorNumberText(error.Number()) + " " + error.what();
+    }
+    return "accepted";
+}
+
+/// The number of the refusal, 0 when there was none.
+inline std::int32_t RefusalNumber(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+}  // namespace draftwick::test
