@@ -16,8 +16,9 @@ enum class PictureKind {
     Jpeg,  ///< embedded as it is: only the header is read, however long the file
     Emf,   ///< enhanced metafile, likewise
     Wmf,   ///< Windows metafile, likewise
-    Gif,   ///< decoded; the first frame on its logical screen
-    Bmp,   ///< decoded; Windows and OS/2 bitmaps of 1 to 32 bits per pixel
+    Gif,   ///< decoded: the first frame on its logical screen; white where that is transparent or not painted
+    Bmp,  ///< decoded: Windows and OS/2 bitmaps of 1 to 32 bits per pixel, plain or run-length encoded; alpha
+          ///< is ignored, and what run lengths skip is white
 };
 
 /// Why a file that could be read is of no use.

@@ -3,6 +3,7 @@
 
 #include "tests/support/PictureFiles.h"
 
+#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -175,16 +176,29 @@ TEST(Pictures, HimetricSizesGiveTheirPixelsBack) {
     }
 }
 
-/// A bitmap file with bytes of its own from `at` on.
+/// A sound file of every kind, in the order of PictureKind.
+const std::array<std::string, 5>& OneOfEach() {
+    static const std::array<std::string, 5> files{
+        MakeJpeg(5, 3, 1, 96, 96), MakeEmf(0, 0, 100, 100), MakeWmf(0, 0, 9, 9, 9) + rle8,
+        MakeGif(sample, {5, 3, 0, 0, false, 1}), MakeBmp(sample, {})};
+    return files;
+}
+PictureKind KindAt(std::size_t index) { return static_cast<PictureKind>(index); }
+
+/// A file with bytes of its own from `at` on.
 std::string Patched(std::string bytes, std::size_t at, const std::string& patch) {
     return bytes.replace(at, patch.size(), patch);
 }
 
 TEST(Pictures, UnreadableOnes) {
-    const std::string bmp = MakeBmp(sample, {});
-    const std::string gif = MakeGif(sample, {5, 3});
-    const std::string jpeg = MakeJpeg(5, 3, 1, 96, 96);
-    const std::string emf = MakeEmf(0, 0, 100, 100);
+    std::error_code error;
+    for (std::size_t kind = 0; kind < 5; ++kind) {
+        for (std::size_t other = 0; other < 5; ++other) {
+            const bool loads = LoadBytes(OneOfEach()[other], KindAt(kind), error) != nullptr;
+            EXPECT_TRUE(loads ? kind == other : error == PictureError::Unreadable) << kind << " is " << other;
+        }
+    }
+    const auto& [jpeg, emf, wmf, gif, bmp] = OneOfEach();
     const std::string runs = MakeBmp(sample, {.bits = 8, .compression = 1, .encoded = rle8});
     const std::string fields =
         MakeBmp(sample, {.bits = 16, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}});
@@ -193,15 +207,6 @@ TEST(Pictures, UnreadableOnes) {
         {PictureKind::Gif, ""},
         {PictureKind::Jpeg, ""},
         {PictureKind::Emf, ""},
-        {PictureKind::Bmp, gif},
-        {PictureKind::Gif, jpeg},
-        {PictureKind::Jpeg, emf},
-        {PictureKind::Emf, bmp},
-        {PictureKind::Wmf, bmp},
-        {PictureKind::Wmf, gif},
-        {PictureKind::Wmf, jpeg},
-        {PictureKind::Wmf, emf},
-        {PictureKind::Emf, MakeWmf(0, 0, 1, 1, 1)},
         {PictureKind::Emf, emf.substr(0, 87)},
         {PictureKind::Emf, MakeEmf(INT32_MIN, 0, INT32_MAX, 9)},
         {PictureKind::Emf, MakeEmf(9, 0, 0, 9)},
@@ -224,7 +229,6 @@ TEST(Pictures, UnreadableOnes) {
         {PictureKind::Jpeg, "\xFF\xD8\xFF\xD9"},                  // no size
     };
     for (std::size_t i = 0; i < std::size(cases); ++i) {
-        std::error_code error;
         LoadBytes(cases[i].second, cases[i].first, error);
         EXPECT_EQ(error, PictureError::Unreadable) << "case " << i;
     }
@@ -240,7 +244,7 @@ TEST(Pictures, CutShortAnywhere) {
         {PictureKind::Bmp, MakeBmp(sample, {.bits = 4}), 0},
         {PictureKind::Bmp, MakeBmp(sample, {.bits = 16, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}}),
          0},
-        {PictureKind::Bmp, MakeBmp(sample, {.bits = 8, .compression = 1, .encoded = rle8}), 4},
+        {PictureKind::Bmp, MakeBmp(sample, {.bits = 8, .compression = 1, .encoded = rle8}), 2},
         {PictureKind::Gif, MakeGif(sample, {5, 3, 0, 0, false, 1}), 1},
         {PictureKind::Jpeg, MakeJpeg(5, 3, 1, 96, 96), SIZE_MAX},
         {PictureKind::Wmf, MakeWmf(0, 0, 9, 9, 9), SIZE_MAX},
@@ -265,16 +269,10 @@ TEST(Pictures, FileErrorsAreNotPictureErrors) {
 
     MemoryFiles failing;
     failing.failAfter = 40;
-    const std::pair<PictureKind, std::string> kinds[] = {
-        {PictureKind::Bmp, MakeBmp(sample, {})},
-        {PictureKind::Gif, MakeGif(sample, {5, 3})},
-        {PictureKind::Jpeg, MakeJpeg(5, 3, 1, 96, 96)},
-        {PictureKind::Emf, MakeEmf(0, 0, 1, 1)},
-        {PictureKind::Wmf, MakeWmf(0, 0, 1, 1, 1) + rle8}};
-    for (const auto& [kind, bytes] : kinds) {
-        failing.content["picture"] = bytes;
-        EXPECT_FALSE(SystemPictures()->Load(failing, "picture", kind, error));
-        EXPECT_EQ(error, std::errc::no_space_on_device);
+    for (std::size_t kind = 0; kind < 5; ++kind) {
+        failing.content["picture"] = OneOfEach()[kind];
+        EXPECT_FALSE(SystemPictures()->Load(failing, "picture", KindAt(kind), error)) << kind;
+        EXPECT_EQ(error, std::errc::no_space_on_device) << kind;
     }
     const auto picture = LoadBytes(MakeBmp(sample, {}), PictureKind::Bmp, error);
     SystemPictures()->Record(*picture, 5, 3, failing, "recorded", error);
@@ -282,13 +280,10 @@ TEST(Pictures, FileErrorsAreNotPictureErrors) {
 }
 
 TEST(Pictures, OnlyTheHeaderOfAnEmbeddedFileIsRead) {
-    const std::pair<PictureKind, std::string> kinds[] = {{PictureKind::Jpeg, MakeJpeg(5, 3, 1, 96, 96)},
-                                                         {PictureKind::Emf, MakeEmf(0, 0, 1, 1)},
-                                                         {PictureKind::Wmf, MakeWmf(0, 0, 1, 1, 1)}};
-    for (const auto& [kind, bytes] : kinds) {
+    for (const PictureKind kind : {PictureKind::Jpeg, PictureKind::Emf, PictureKind::Wmf}) {
         MemoryFiles files;
         files.endless = true;
-        files.content["picture"] = bytes;
+        files.content["picture"] = OneOfEach()[static_cast<std::size_t>(kind)];
         std::error_code error;
         EXPECT_TRUE(SystemPictures()->Load(files, "picture", kind, error)) << error.message();
         EXPECT_LE(files.bytesRead, 16384U);

@@ -70,7 +70,9 @@ std::string Le32(std::uint32_t value) {
 }
 
 std::string MakeBmp(const Indices& indices, const BmpForm& form) {
-    const auto entries = form.bits > 8 ? 0 : form.entries != 0 ? form.entries : 1U << form.bits;
+    const auto width = static_cast<std::uint32_t>(indices.width);
+    const auto bits = static_cast<std::uint32_t>(form.bits);
+    const auto entries = bits > 8 ? 0 : form.entries != 0 ? form.entries : 1U << bits;
     std::string palette;
     for (std::uint32_t i = 0; i < entries; ++i) {
         const std::string entry = Le32(i < eightColours.size() ? eightColours[i] : 0x123456);
@@ -79,33 +81,22 @@ std::string MakeBmp(const Indices& indices, const BmpForm& form) {
     std::string pixels = form.encoded;
     for (int i = 0; i < indices.height && form.encoded.empty(); ++i) {
         const int y = form.topDown ? i : indices.height - 1 - i;
-        std::string row;
-        std::uint32_t waiting = 0;
-        for (int x = 0; x < indices.width; ++x) {
-            const std::uint8_t index = indices.pixels[static_cast<std::size_t>(y * indices.width + x)];
+        std::string row((width * bits + 31) / 32 * 4, '\0');
+        for (std::uint32_t x = 0; x < width; ++x) {
+            const std::uint8_t index = indices.pixels[static_cast<std::size_t>(y) * width + x];
             const std::uint32_t rgb = eightColours[index];
-            const auto& [red, green, blue] = form.masks;
-            if (form.bits == 24) {
-                row += Le32(rgb).substr(0, 3);
-            } else if (form.bits > 8) {
-                const std::uint32_t pixel =
-                    (rgb & 0xFF0000 ? red : 0) | (rgb & 0xFF00 ? green : 0) | (rgb & 0xFF ? blue : 0);
-                row += Le32(pixel).substr(0, static_cast<std::size_t>(form.bits / 8));
-            } else {
-                waiting = waiting << form.bits | index;
-                const int perByte = 8 / form.bits;
-                if (x % perByte == perByte - 1)
-                    row += static_cast<char>(waiting);
-                else if (x == indices.width - 1)
-                    row += static_cast<char>(waiting << (perByte - 1 - x % perByte) * form.bits);
-            }
+            const std::uint32_t bit = x * bits;
+            const std::uint32_t masked = (rgb & 0xFF0000 ? form.masks[0] : 0)
+                                         | (rgb & 0xFF00 ? form.masks[1] : 0)
+                                         | (rgb & 0xFF ? form.masks[2] : 0);
+            if (bits <= 8)
+                row[bit / 8] = static_cast<char>(row[bit / 8] | index << (8 - bits - bit % 8));
+            else
+                Le32(bits == 24 ? rgb : masked).copy(&row[bit / 8], bits / 8);
         }
-        row.resize((row.size() + 3) / 4 * 4);
         pixels += row;
     }
     const auto height = static_cast<std::uint32_t>(form.topDown ? -indices.height : indices.height);
-    const auto width = static_cast<std::uint32_t>(indices.width);
-    const auto bits = static_cast<std::uint32_t>(form.bits);
     std::string info;
     if (form.headerSize == 12) {
         info = Le32(12) + Le16(width) + Le16(height) + Le16(1) + Le16(bits);
