@@ -13,12 +13,15 @@ namespace draftwick::platform {
 /// What a picture file is said to hold. The caller decides it from the file's name; the loader holds the
 /// content to it.
 enum class PictureKind {
-    Jpeg,  ///< embedded as it is: only the header is read, however long the file
-    Emf,   ///< enhanced metafile, likewise
-    Wmf,   ///< Windows metafile, likewise
-    Gif,   ///< decoded: the first frame on its logical screen; white where that is transparent or not painted
-    Bmp,  ///< decoded: Windows and OS/2 bitmaps of 1 to 32 bits per pixel, plain or run-length encoded; alpha
-          ///< is ignored, and what run lengths skip is white
+    /// Embedded as it is, so only the header is read, however long the file. So are Emf and Wmf.
+    Jpeg,
+    Emf,  ///< Enhanced metafile.
+    Wmf,  ///< Windows metafile.
+    /// Decoded: the first frame on its logical screen; white where that is transparent or not painted.
+    Gif,
+    /// Decoded: Windows and OS/2 bitmaps of 1 to 32 bits per pixel, plain or run-length encoded. Alpha is
+    /// ignored; what run lengths skip is white.
+    Bmp,
 };
 
 /// Why a file that could be read is of no use.
