@@ -1,13 +1,14 @@
 #include <draftwick/platform/Pictures.h>
 #include <draftwick/platform/Platform.h>
 
+#include "tests/support/FakePlatform.h"
 #include "tests/support/PictureFiles.h"
 
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 
-namespace draftwick::tests {
+namespace draftwick::test {
 
 namespace {
 
@@ -19,19 +20,20 @@ const Indices sample{5, 3, {0, 1, 2, 3, 4, /**/ 5, 5, 5, 6, 7, /**/ 7, 6, 5, 0, 
 
 std::unique_ptr<const Picture> LoadBytes(const std::string& bytes, PictureKind kind, std::error_code& error,
                                          int twipsPerPixel = 15) {
-    MemoryFiles files;
-    files.content["picture"] = bytes;
-    auto picture = SystemPictures(twipsPerPixel)->Load(files, "picture", kind, error);
+    const auto files = std::make_shared<MemoryFiles>();
+    files->Put("picture", bytes);
+    auto picture = SystemPictures(twipsPerPixel)->Load(*files, "picture", kind, error);
     EXPECT_EQ(picture == nullptr, static_cast<bool>(error));
     return picture;
 }
 
 std::string RecordWhole(const Picture& picture, int width, int height) {
-    MemoryFiles files;
+    const auto files = std::make_shared<MemoryFiles>();
     std::error_code error;
-    SystemPictures()->Record(picture, width, height, files, "recorded", error);
+    SystemPictures()->Record(picture, width, height, *files, "recorded", error);
     EXPECT_FALSE(error) << error.message();
-    return files.content["recorded"];
+    EXPECT_EQ(files->OpenFiles(), 0);
+    return files->Bytes("recorded");
 }
 
 /// The pixels of a picture that must load, by way of the recorder.
@@ -83,8 +85,8 @@ INSTANTIATE_TEST_SUITE_P(
         BmpCase{"FieldsV5",
                 {.headerSize = 124, .bits = 32, .compression = 3, .masks = {0xFF, 0xFF00, 0xFF0000}}},
         BmpCase{"Os2V2", {.headerSize = 64, .bits = 4}}, BmpCase{"ShortPalette", {.bits = 8, .entries = 8}},
-        BmpCase{"LostOffset", {.bits = 8, .entries = 8, .lostOffset = true}},
-        BmpCase{"Gap", {.bits = 4, .gap = 7}},
+        BmpCase{"LostOffset", {.bits = 8, .entries = 8, .claimedOffset = 0}},
+        BmpCase{"FarOffset", {.bits = 8, .claimedOffset = 5000}}, BmpCase{"Gap", {.bits = 4, .gap = 7}},
         BmpCase{"Rle8", {.bits = 8, .compression = 1, .encoded = rle8}},
         BmpCase{"Rle8NoEnd", {.bits = 8, .compression = 1, .encoded = rle8.substr(0, rle8.size() - 2)}},
         BmpCase{"Rle4", {.bits = 4, .compression = 2, .encoded = rle4}}),
@@ -225,8 +227,9 @@ TEST(Pictures, UnreadableOnes) {
         {PictureKind::Bmp, Patched(fields, 54, Le32(0xF801))},    // a mask in two pieces
         {PictureKind::Bmp, Patched(fields, 54, Le32(0x1F0000))},  // one beyond the pixel
         {PictureKind::Gif, Patched(gif, 6, "\xFF\xFF\xFF\xFF")},  // a screen of 65535 by 65535
-        {PictureKind::Gif, gif.substr(0, 13 + 24) + ";"},         // no frame
-        {PictureKind::Jpeg, "\xFF\xD8\xFF\xD9"},                  // no size
+        {PictureKind::Gif, Patched(gif, 6, Le16(8000) + Le16(8000))},
+        {PictureKind::Gif, gif.substr(0, 13 + 24) + ";"},  // no frame
+        {PictureKind::Jpeg, "\xFF\xD8\xFF\xD9"},           // no size
     };
     for (std::size_t i = 0; i < std::size(cases); ++i) {
         LoadBytes(cases[i].second, cases[i].first, error);
@@ -267,26 +270,33 @@ TEST(Pictures, FileErrorsAreNotPictureErrors) {
     EXPECT_FALSE(SystemPictures()->Load(*files, testing::TempDir(), PictureKind::Bmp, error));
     EXPECT_EQ(error, std::errc::is_a_directory);
 
-    MemoryFiles failing;
-    failing.failAfter = 40;
-    for (std::size_t kind = 0; kind < 5; ++kind) {
-        failing.content["picture"] = OneOfEach()[kind];
-        EXPECT_FALSE(SystemPictures()->Load(failing, "picture", KindAt(kind), error)) << kind;
-        EXPECT_EQ(error, std::errc::no_space_on_device) << kind;
+    const auto failing = [](int operation) {
+        auto files = std::make_shared<MemoryFiles>();
+        files->FailAt(operation, std::errc::io_error);
+        return files;
+    };
+    for (int operation = 1; operation <= 3; ++operation) {  // length, open, read
+        for (std::size_t kind = 0; kind < 5; ++kind) {
+            const auto broken = failing(operation);
+            broken->Put("picture", OneOfEach()[kind]);
+            EXPECT_FALSE(SystemPictures()->Load(*broken, "picture", KindAt(kind), error)) << kind;
+            EXPECT_EQ(error, std::errc::io_error) << kind;
+        }
     }
-    const auto picture = LoadBytes(MakeBmp(sample, {}), PictureKind::Bmp, error);
-    SystemPictures()->Record(*picture, 5, 3, failing, "recorded", error);
-    EXPECT_EQ(error, std::errc::no_space_on_device);
+    const auto picture = LoadBytes(OneOfEach()[4], PictureKind::Bmp, error);
+    for (int operation = 1; operation <= 3; ++operation) {  // create, write, close
+        SystemPictures()->Record(*picture, 5, 3, *failing(operation), "recorded", error);
+        EXPECT_EQ(error, std::errc::io_error);
+    }
 }
 
 TEST(Pictures, OnlyTheHeaderOfAnEmbeddedFileIsRead) {
     for (const PictureKind kind : {PictureKind::Jpeg, PictureKind::Emf, PictureKind::Wmf}) {
-        MemoryFiles files;
-        files.endless = true;
-        files.content["picture"] = OneOfEach()[static_cast<std::size_t>(kind)];
+        const auto files = std::make_shared<MemoryFiles>();
+        files->Put("picture", OneOfEach()[static_cast<std::size_t>(kind)] + std::string(1 << 20, 'x'));
         std::error_code error;
-        EXPECT_TRUE(SystemPictures()->Load(files, "picture", kind, error)) << error.message();
-        EXPECT_LE(files.bytesRead, 16384U);
+        EXPECT_TRUE(SystemPictures()->Load(*files, "picture", kind, error)) << error.message();
+        EXPECT_EQ(files->Operations(), 3);  // length, open, one read
     }
 }
 
@@ -341,16 +351,16 @@ TEST(Pictures, RecordsAPartAndRefusesWhatIsNotThere) {
     const auto bitmap = LoadBytes(MakeBmp(sample, {}), PictureKind::Bmp, error);
     EXPECT_EQ(ReadRecorded(RecordWhole(*bitmap, 3, 2)), Coloured({3, 2, {0, 1, 2, 5, 5, 5}}));
     const auto jpeg = LoadBytes(MakeJpeg(5, 3, 1, 96, 96), PictureKind::Jpeg, error);
-    MemoryFiles files;
+    const auto files = std::make_shared<MemoryFiles>();
     for (const auto& [width, height] : {std::pair(0, 3), {6, 3}, {5, 4}, {5, -1}}) {
-        SystemPictures()->Record(*bitmap, width, height, files, "recorded", error);
+        SystemPictures()->Record(*bitmap, width, height, *files, "recorded", error);
         EXPECT_EQ(error, std::errc::invalid_argument);
     }
-    SystemPictures()->Record(*jpeg, 1, 1, files, "recorded", error);
+    SystemPictures()->Record(*jpeg, 1, 1, *files, "recorded", error);
     EXPECT_EQ(error, std::errc::invalid_argument);
-    EXPECT_TRUE(files.content.empty());
+    EXPECT_TRUE(files->Names().empty());
 }
 
 }  // namespace
 
-}  // namespace draftwick::tests
+}  // namespace draftwick::test

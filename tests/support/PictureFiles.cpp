@@ -1,4 +1,4 @@
-#include "PictureFiles.h"
+#include "tests/support/PictureFiles.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -8,11 +8,9 @@
 #include <gif_lib.h>
 #include <jpeglib.h>
 
-namespace draftwick::tests {
+namespace draftwick::test {
 
 namespace {
-
-constexpr std::size_t endlessLength = 500'000'000;
 
 std::uint32_t Number(const std::string& bytes, std::size_t at, int size) {
     std::uint32_t value = 0;
@@ -20,36 +18,6 @@ std::uint32_t Number(const std::string& bytes, std::size_t at, int size) {
         value = value << 8 | static_cast<std::uint8_t>(bytes.at(at + static_cast<std::size_t>(i)));
     return value;
 }
-
-class MemoryFile final : public platform::File {
-public:
-    MemoryFile(MemoryFiles& files, std::string& content) : files_(files), content_(content) {}
-
-    std::size_t Write(const char* bytes, std::size_t size, std::error_code& error) override {
-        const std::size_t room = files_.failAfter - std::min(files_.failAfter, content_.size());
-        error = size > room ? std::make_error_code(std::errc::no_space_on_device) : std::error_code();
-        content_.append(bytes, std::min(size, room));
-        return std::min(size, room);
-    }
-    std::size_t Read(char* bytes, std::size_t size, std::error_code& error) override {
-        error.clear();
-        if (at_ >= files_.failAfter) {
-            error = std::make_error_code(std::errc::no_space_on_device);
-            return 0;
-        }
-        const std::size_t length = files_.endless ? endlessLength : content_.size();
-        size = std::min({size, length - at_, files_.failAfter - at_});
-        for (std::size_t i = 0; i < size; ++i, ++at_) bytes[i] = at_ < content_.size() ? content_[at_] : '\0';
-        files_.bytesRead += size;
-        return size;
-    }
-    void Close(std::error_code& error) override { error.clear(); }
-
-private:
-    MemoryFiles& files_;
-    std::string& content_;
-    std::size_t at_ = 0;
-};
 
 }  // namespace
 
@@ -107,8 +75,10 @@ std::string MakeBmp(const Indices& indices, const BmpForm& form) {
         info.resize(std::max<std::size_t>(info.size(), form.headerSize));
     }
     const std::string front = info + palette + std::string(form.gap, '\x55');
-    const auto offset = form.lostOffset ? 0 : static_cast<std::uint32_t>(14 + front.size());
-    return "BM" + Le32(0) + Le32(0) + Le32(offset) + front + pixels;
+    const std::uint64_t offset = 14 + front.size();
+    const std::uint64_t claimed =
+        form.claimedOffset < 0 ? offset : static_cast<std::uint64_t>(form.claimedOffset);
+    return "BM" + Le32(0) + Le32(0) + Le32(static_cast<std::uint32_t>(claimed)) + front + pixels;
 }
 
 std::string MakeGif(const Indices& frame, const GifForm& form) {
@@ -228,21 +198,4 @@ Image ReadRecorded(const std::string& emf, int* bits) {
     return image;
 }
 
-std::unique_ptr<platform::File> MemoryFiles::Create(const std::string& name, platform::Creation,
-                                                    std::error_code& error) {
-    error.clear();
-    content[name].clear();
-    return std::make_unique<MemoryFile>(*this, content[name]);
-}
-
-std::unique_ptr<platform::File> MemoryFiles::OpenForReading(const std::string& name, std::error_code& error) {
-    error.clear();
-    return std::make_unique<MemoryFile>(*this, content[name]);
-}
-
-std::uint64_t MemoryFiles::Length(const std::string& name, std::error_code& error) {
-    error.clear();
-    return endless ? endlessLength : content[name].size();
-}
-
-}  // namespace draftwick::tests
+}  // namespace draftwick::test

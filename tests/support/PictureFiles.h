@@ -1,14 +1,11 @@
 #pragma once
 
-#include <draftwick/platform/FileSystem.h>
-
 #include <array>
 #include <cstdint>
-#include <map>
 #include <string>
 #include <vector>
 
-namespace draftwick::tests {
+namespace draftwick::test {
 
 /// Pixels as 0xRRGGBB, rows from the top.
 struct Image {
@@ -38,7 +35,7 @@ struct BmpForm {
     std::array<std::uint32_t, 3> masks{};  ///< red, green, blue; written with compression 3
     std::uint32_t entries = 0;             ///< of the palette in the file; 0: as many as the bits allow
     std::uint32_t gap = 0;                 ///< bytes between palette and pixels
-    bool lostOffset = false;               ///< the header says that the pixels begin at 0
+    std::int64_t claimedOffset = -1;       ///< where the header says that the pixels are; -1: the truth
     std::string encoded{};                 ///< run lengths, in place of the pixels
 };
 std::string MakeBmp(const Indices& indices, const BmpForm& form);
@@ -67,22 +64,4 @@ std::string MakeWmf(int left, int top, int right, int bottom, std::uint32_t unit
 /// The bitmap in a recorded metafile, read by nothing but its own fields.
 Image ReadRecorded(const std::string& emf, int* bits = nullptr);
 
-/// Files that live in memory. Reading past the end of `endless` goes on with zeros up to 500 MB.
-class MemoryFiles final : public platform::FileSystem {
-public:
-    std::map<std::string, std::string> content;
-    bool endless = false;
-    std::size_t failAfter =
-        SIZE_MAX;  ///< reads and writes beyond this many bytes fail with no_space_on_device
-    std::size_t bytesRead = 0;
-
-    std::unique_ptr<platform::File> Create(const std::string& name, platform::Creation mode,
-                                           std::error_code& error) override;
-    std::unique_ptr<platform::File> OpenForReading(const std::string& name, std::error_code& error) override;
-    bool Exists(const std::string& name) override { return content.count(name) != 0; }
-    std::uint64_t Length(const std::string& name, std::error_code& error) override;
-    void Delete(const std::string& name, std::error_code&) override { content.erase(name); }
-    char Separator() const override { return '/'; }
-};
-
-}  // namespace draftwick::tests
+}  // namespace draftwick::test

@@ -194,7 +194,8 @@ private:
     }
 
     Colour Masked(const std::uint8_t* row, std::int32_t x) const {
-        const std::uint32_t pixel = header_.bits == 16 ? U16(row + x * 2) : U32(row + x * 4);
+        const std::uint32_t pixel =
+            header_.bits == 16 ? U16(row + std::ptrdiff_t{x} * 2) : U32(row + std::ptrdiff_t{x} * 4);
         return {blue_(pixel), green_(pixel), red_(pixel)};
     }
 

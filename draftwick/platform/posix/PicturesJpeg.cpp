@@ -1,5 +1,6 @@
 #include <draftwick/platform/posix/PicturesParts.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <csetjmp>
@@ -25,7 +26,7 @@ struct ErrorManager {
 };
 
 [[noreturn]] void Escape(j_common_ptr info) {
-    std::longjmp(reinterpret_cast<ErrorManager*>(info->err)->escape, 1);
+    std::longjmp(reinterpret_cast<ErrorManager*>(info->err)->escape, 1);  // NOLINT(cert-err52-cpp)
 }
 void Ignore(j_common_ptr) {}
 void IgnoreLevel(j_common_ptr, int) {}
