@@ -16,7 +16,9 @@ enum class PictureKind {
     /// Embedded as it is, so only the header is read, however long the file. So are Emf and Wmf.
     Jpeg,
     Emf,  ///< Enhanced metafile.
-    Wmf,  ///< Windows metafile.
+    /// Windows metafile. Files of this kind have no signature, so anything passes that is none of the others,
+    /// an empty file too.
+    Wmf,
     /// Decoded: the first frame on its logical screen; white where that is transparent or not painted.
     Gif,
     /// Decoded: Windows and OS/2 bitmaps of 1 to 32 bits per pixel, plain or run-length encoded. Alpha is
