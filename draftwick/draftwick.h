@@ -13,3 +13,5 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/viewer/AutomationObject.h>
+#include <draftwick/viewer/Viewer.h>

@@ -7,6 +7,7 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/viewer/AutomationObject.h>
 
 namespace draftwick {
 
@@ -14,6 +15,7 @@ namespace draftwick {
 // refers to.
 std::span<const Class* const> Classes() {
     static const Class* const all[] = {
+        &AutomationObject::Describe(),
         &Background::Describe(),
         &Document::Describe(),
         &Font::Describe(),

@@ -21,7 +21,8 @@ std::shared_ptr<Document> Document::Create(platform::Platform services) {
 }
 
 Document::Document(const std::shared_ptr<WritingContext>& context)
-    : Content(Origin{context, nullptr}), context_(context), settings_(context->settings) {}
+    : Content(Origin{context, nullptr}), context_(context), settings_(context->settings),
+      viewer_(context->platform) {}
 
 /// Children need a reference to their parent, so they come after the constructor.
 void Document::CreateCollections() {
@@ -61,6 +62,16 @@ void Document::WriteStart() {
 
 void Document::WriteEnd() { files_.AssembleOutputFile(*context_); }
 
+dwViewer Document::Preview(dwViewer program) { return RunViewer(program, false); }
+dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true); }
+
+dwViewer Document::RunViewer(dwViewer program, bool printIt) {
+    Finish();
+    // Other programs have a current folder of their own.
+    const std::string file = context_->platform.files->FullName(ActualFileName());
+    return viewer_.RunViewer(OriginOfChild(), file, program, printIt);
+}
+
 std::string Document::DefaultFontName() const {
     return context_->defaultFont == WritingContext::NoFont ? std::string{}
                                                            : fonts_->At(context_->defaultFont).Name();
@@ -99,6 +110,8 @@ const Class& Document::Describe() {
         "{BD7B1DD0-EAFD-4C2D-BD88-CD1EC9EA7B64}",
         {
             PropertyOf<&D::ActualFileName>("ActualFileName"),
+            PropertyOf<&D::ViewerApp>("ViewerApp"),
+            PropertyOf<&D::ViewerTaskID>("ViewerTaskID"),
             PropertyOf<&D::VerMajor>("VerMajor"),
             PropertyOf<&D::VerMinor>("VerMinor"),
             PropertyOf<&D::VerRevision>("VerRevision"),
@@ -153,6 +166,8 @@ const Class& Document::Describe() {
         {
             MethodOf<&D::AddSection>("AddSection"),
             MethodOf<&D::Finish>("Finish"),
+            MethodOf<&D::Preview>("Preview", {{"Program", dwViewerAuto}}),
+            MethodOf<&D::PrintOut>("PrintOut", {{"Program", dwViewerAuto}}),
             MethodOf<&D::ASCIIChar>("ASCIIChar", {{"ASCII"}}),
         }};
     return description;

@@ -5,6 +5,7 @@
 #include <draftwick/base/WritingContext.h>
 #include <draftwick/core/OutputFiles.h>
 #include <draftwick/platform/Platform.h>
+#include <draftwick/viewer/Viewer.h>
 
 #include <memory>
 #include <string>
@@ -44,6 +45,18 @@ public:
     /// Writes the file. std::system_error when that fails: the document is then not finished, and a later call
     /// writes the file once the cause is gone. On a finished document it does nothing.
     void Finish();
+
+    /// Finishes the document and shows it in the viewer. Returns the one that was used.
+    /// dwErrPropertyOutOfRange ("Viewer") for a number that is no dwViewer. dwErrNoViewer when no viewer is found.
+    /// With a viewer that is asked for by name: error 429 when it cannot be had or is of another version, else what
+    /// the system says, as std::system_error. Where there is no automation (POSIX), there is no Word.
+    dwViewer Preview(dwViewer program = dwViewerAuto);
+    /// Finishes the document and prints it on the default printer. As Preview.
+    dwViewer PrintOut(dwViewer program = dwViewerAuto);
+    /// The word processor that the last Preview or PrintOut used; empty if it used none.
+    std::shared_ptr<AutomationObject> ViewerApp() const { return viewer_.App(); }
+    /// The task of the viewer program that the last Preview or PrintOut started; 0 if it started none.
+    std::int32_t ViewerTaskID() const { return viewer_.TaskID(); }
 
     /// The file that was written; empty before Finish.
     const std::string& ActualFileName() const { return files_.ActualFileName(); }
@@ -190,11 +203,13 @@ protected:
 
 private:
     void CreateCollections();
+    dwViewer RunViewer(dwViewer program, bool printIt);
     void SetPath(std::string& field, std::string_view path);
 
     std::shared_ptr<WritingContext> context_;
     DocumentSettings& settings_;
     OutputFiles files_;
+    Viewer viewer_;
     std::shared_ptr<Section> currentSection_;
     std::shared_ptr<draftwick::Fonts> fonts_;
     std::shared_ptr<draftwick::Lists> lists_;

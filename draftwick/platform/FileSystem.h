@@ -47,6 +47,10 @@ public:
     virtual std::uint64_t Length(const std::string& name, std::error_code& error) = 0;
     virtual void Delete(const std::string& name, std::error_code& error) = 0;
 
+    /// The name by which any program finds the file: a name that is relative to the current folder gets that folder
+    /// in front of it. Whether the file exists does not matter.
+    virtual std::string FullName(const std::string& name) = 0;
+
     /// What stands between a folder and a file name.
     virtual char Separator() const = 0;
 };

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <draftwick/platform/Automation.h>
 #include <draftwick/platform/Environment.h>
 #include <draftwick/platform/EventLog.h>
 #include <draftwick/platform/FileSystem.h>
+#include <draftwick/platform/Programs.h>
+#include <draftwick/platform/RegistryStore.h>
 
 #include <ctime>
 #include <memory>
@@ -15,6 +18,9 @@ namespace draftwick::platform {
 struct Platform {
     std::shared_ptr<FileSystem> files;
     std::shared_ptr<Environment> environment;
+    std::shared_ptr<RegistryStore> registry;
+    std::shared_ptr<Automation> automation;
+    std::shared_ptr<Programs> programs;
 };
 
 /// The system's own services. They hold no state and can be used from any thread.

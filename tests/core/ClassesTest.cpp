@@ -65,6 +65,12 @@ Subject OfSection(const std::function<ObjectPointer(Section&)>& make) {
 
 const std::map<std::string, std::function<Subject()>>& Makers() {
     static const std::map<std::string, std::function<Subject()>> makers{
+        {"AutomationObject",
+         [] {
+             return OfDocument([](Document& d) {
+                 return std::make_shared<AutomationObject>(Origin{{}, d.Self()}, nullptr);
+             });
+         }},
         {"Background", [] { return OfParagraph([](Paragraph& p) { return p.Background(); }); }},
         {"Document",
          [] { return OfDocument([](Document& d) { return std::static_pointer_cast<Document>(d.Self()); }); }},

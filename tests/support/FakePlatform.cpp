@@ -116,12 +116,25 @@ void MemoryFiles::Delete(const std::string& name, std::error_code& error) {
 }
 
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files) {
-    return MakeFakePlatform(std::move(files), std::make_shared<FakeEnvironment>());
+    return MakeFakePlatform(std::move(files), std::make_shared<FakeDesktop>());
 }
 
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
                                     std::shared_ptr<FakeEnvironment> environment) {
-    return {std::move(files), std::move(environment)};
+    platform::Platform services = MakeFakePlatform(std::move(files));
+    services.environment = std::move(environment);
+    return services;
+}
+
+platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
+                                    std::shared_ptr<FakeDesktop> desktop) {
+    return {
+        .files = std::move(files),
+        .environment = std::make_shared<FakeEnvironment>(),
+        .registry = desktop,
+        .automation = desktop,
+        .programs = desktop,
+    };
 }
 
 }  // namespace draftwick::test

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/FakeDesktop.h"
+
 #include <draftwick/platform/Platform.h>
 
 #include <cstddef>
@@ -41,6 +43,7 @@ public:
     bool Exists(const std::string& name) override { return files_.contains(name); }
     std::uint64_t Length(const std::string& name, std::error_code& error) override;
     void Delete(const std::string& name, std::error_code& error) override;
+    std::string FullName(const std::string& name) override { return name; }
     char Separator() const override { return '/'; }
 
 private:
@@ -66,9 +69,10 @@ public:
     std::string TempFolder() override { return tempFolder; }
 };
 
-/// A platform with these files and a FakeEnvironment.
+/// A platform with these files, a FakeEnvironment and a FakeDesktop on which there is nothing.
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files);
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
                                     std::shared_ptr<FakeEnvironment> environment);
+platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files, std::shared_ptr<FakeDesktop> desktop);
 
 }  // namespace draftwick::test

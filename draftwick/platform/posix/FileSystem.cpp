@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -94,6 +95,13 @@ public:
     void Delete(const std::string& name, std::error_code& error) override {
         error.clear();
         if (::unlink(name.c_str()) != 0) error = LastError();
+    }
+
+    std::string FullName(const std::string& name) override {
+        if (name.starts_with('/')) return name;
+        std::error_code error;
+        const std::string folder = std::filesystem::current_path(error).string();
+        return (error ? "." : folder) + '/' + name;
     }
 
     char Separator() const override { return '/'; }

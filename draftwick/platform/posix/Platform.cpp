@@ -32,7 +32,13 @@ std::atomic<EventLog*> replacement{nullptr};
 }  // namespace
 
 Platform SystemPlatform() {
-    static const Platform system{posix::MakeFileSystem(), std::make_shared<PosixEnvironment>()};
+    static const Platform system{
+        .files = posix::MakeFileSystem(),
+        .environment = std::make_shared<PosixEnvironment>(),
+        .registry = posix::MakeRegistryStore(),
+        .automation = posix::MakeAutomation(),
+        .programs = posix::MakePrograms(),
+    };
     return system;
 }
 

@@ -1,0 +1,199 @@
+#include <draftwick/platform/posix/Posix.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <dirent.h>
+#include <fcntl.h>
+#include <fnmatch.h>
+#include <spawn.h>
+#include <stdexcept>
+#include <string_view>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+extern char** environ;
+
+namespace draftwick::platform::posix {
+
+namespace {
+
+constexpr std::string_view FilePlace = "%1";
+
+[[noreturn]] void Fail(int error, const std::string& what) {
+    throw std::system_error(error, std::generic_category(), what);
+}
+
+/// The words of a command line: see Programs::Start.
+std::vector<std::string> SplitCommandLine(const std::string& line) {
+    std::vector<std::string> words;
+    bool inWord = false;
+    bool inQuotes = false;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        const char c = line[at];
+        if (!inQuotes && (c == ' ' || c == '\t' || c == '\n')) {
+            inWord = false;
+            continue;
+        }
+        if (!inWord) words.emplace_back();
+        inWord = true;
+        if (c == '"') {
+            inQuotes = !inQuotes;
+        } else if (c == '\\' && at + 1 < line.size() && line[at + 1] == '"') {
+            words.back() += line[++at];
+        } else {
+            words.back() += c;
+        }
+    }
+    if (inQuotes) Fail(EINVAL, "cannot start '" + line + "': a quote is missing");
+    return words;
+}
+
+void PutFile(std::string& word, const std::string& file) {
+    for (std::size_t at = word.find(FilePlace); at != std::string::npos; at = word.find(FilePlace, at)) {
+        word.replace(at, FilePlace.size(), file);
+        at += file.size();
+    }
+}
+
+/// How a program is started: with nothing of ours but the environment and the folder.
+class Attributes {
+public:
+    Attributes() {
+        ::posix_spawnattr_init(&attributes_);
+        ::posix_spawn_file_actions_init(&actions_);
+        // A group of its own: what interrupts this program at its terminal is not meant for the other.
+        ::posix_spawnattr_setpgroup(&attributes_, 0);
+        sigset_t signals;
+        ::sigemptyset(&signals);
+        ::posix_spawnattr_setsigmask(&attributes_, &signals);
+        ::sigaddset(&signals, SIGINT);
+        ::sigaddset(&signals, SIGPIPE);
+        ::sigaddset(&signals, SIGCHLD);
+        ::posix_spawnattr_setsigdefault(&attributes_, &signals);
+        ::posix_spawnattr_setflags(&attributes_,
+                                   POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+        // Whoever reads this program's output must not have to wait until the viewer is closed.
+        ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+        ::posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        ::posix_spawn_file_actions_addopen(&actions_, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    }
+    ~Attributes() {
+        ::posix_spawn_file_actions_destroy(&actions_);
+        ::posix_spawnattr_destroy(&attributes_);
+    }
+    Attributes(const Attributes&) = delete;
+    Attributes& operator=(const Attributes&) = delete;
+
+    pid_t Spawn(std::vector<std::string>& words) const {
+        std::vector<char*> arguments;
+        for (std::string& word : words) arguments.push_back(word.data());
+        arguments.push_back(nullptr);
+        pid_t task = 0;
+        const int error =
+            ::posix_spawnp(&task, arguments[0], &actions_, &attributes_, arguments.data(), environ);
+        if (error != 0) Fail(error, "cannot start '" + words.front() + "'");
+        return task;
+    }
+
+private:
+    posix_spawnattr_t attributes_{};
+    posix_spawn_file_actions_t actions_{};
+};
+
+/// A program that has ended stays in the system's tables until somebody takes note of it.
+void TakeNoteOfTheEnd(pid_t task) noexcept {
+    // The signals of this program are for its own threads.
+    sigset_t all;
+    sigset_t before;
+    ::sigfillset(&all);
+    ::pthread_sigmask(SIG_BLOCK, &all, &before);
+    try {
+        std::thread([task] {
+            while (::waitpid(task, nullptr, 0) < 0 && errno == EINTR) {
+            }
+        }).detach();
+    } catch (const std::system_error&) {
+        // Without a thread an entry in a table is left over until this program ends; the other one runs.
+    }
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
+class PosixPrograms final : public Programs {
+public:
+    std::int32_t Start(const std::string& commandLine, const std::string& file) override {
+        std::vector<std::string> words = SplitCommandLine(commandLine);
+        if (words.empty() || words.front().empty() || words.front().find(FilePlace) != std::string::npos)
+            Fail(EINVAL, "cannot start '" + commandLine + "': it names no program");
+        for (std::string& word : words) {
+            PutFile(word, file);
+            if (word.find('\0') != std::string::npos) Fail(EINVAL, "cannot start '" + words.front() + "'");
+        }
+        const pid_t task = Attributes{}.Spawn(words);
+        TakeNoteOfTheEnd(task);
+        return task;
+    }
+
+    std::string PrintCommand() override { return "soffice -p \"%1\""; }
+
+    void ProcessEvents() override {}
+    void Activate(std::int32_t) override { Fail(ENOTSUP, "cannot activate a window"); }
+    void SendKeys(const std::string&) override { Fail(ENOTSUP, "cannot send keystrokes"); }
+
+    std::string FirstMatch(const std::string& pattern) override {
+        const std::size_t end = pattern.find_last_of("/\\");
+        const std::string folder = end == std::string::npos ? "./" : pattern.substr(0, end) + '/';
+        const std::string names = pattern.substr(end + 1);
+        std::string first;
+        DIR* const list = ::opendir(folder.c_str());
+        if (list == nullptr) return first;
+        while (const dirent* entry = ::readdir(list)) {  // NOLINT(concurrency-mt-unsafe)
+            const std::string name = entry->d_name;
+            struct stat status {};
+            if (::fnmatch(names.c_str(), name.c_str(), FNM_NOESCAPE) != 0
+                || ::stat((folder + name).c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+                continue;
+            if (first.empty() || name < first) first = name;
+        }
+        ::closedir(list);
+        return first;
+    }
+};
+
+/// There is no automation here.
+class PosixAutomation final : public Automation {
+public:
+    std::shared_ptr<AutomationObject> Attach(const std::string& className) override {
+        Fail(ENOTSUP, "cannot reach '" + className + "'");
+    }
+    std::shared_ptr<AutomationObject> Create(const std::string& className) override {
+        Fail(ENOTSUP, "cannot create '" + className + "'");
+    }
+};
+
+}  // namespace
+
+bool IsProgram(const std::string& name) {
+    const char* value = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
+    std::string_view folders = value != nullptr ? value : "";
+    while (!folders.empty()) {
+        const std::string_view folder = folders.substr(0, folders.find(':'));
+        folders.remove_prefix(std::min(folder.size() + 1, folders.size()));
+        const std::string file = std::string{folder} + '/' + name;
+        struct stat status {};
+        if (!folder.empty() && ::access(file.c_str(), X_OK) == 0 && ::stat(file.c_str(), &status) == 0
+            && S_ISREG(status.st_mode))
+            return true;
+    }
+    return false;
+}
+
+std::shared_ptr<Automation> MakeAutomation() { return std::make_shared<PosixAutomation>(); }
+std::shared_ptr<Programs> MakePrograms() { return std::make_shared<PosixPrograms>(); }
+
+}  // namespace draftwick::platform::posix

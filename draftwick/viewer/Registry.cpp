@@ -1,0 +1,171 @@
+#include <draftwick/base/CaseFolding.h>
+#include <draftwick/base/Units.h>
+#include <draftwick/viewer/Registry.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace draftwick {
+
+namespace {
+
+using platform::RegistryAccess;
+using platform::RegistryKey;
+using platform::RegistryType;
+
+constexpr std::size_t DoubleSize = 8;
+
+std::string_view Trimmed(std::string_view text) {
+    constexpr std::string_view Blanks = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(Blanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
+}
+
+/// The finite number that a whole text stands for.
+std::optional<double> ParseNumber(std::string_view text) {
+    text = Trimmed(text);
+    if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+    double number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc{} || end != text.data() + text.size() || !std::isfinite(number)) return {};
+    return number;
+}
+
+std::optional<double> NumberOf(const std::variant<std::monostate, std::string, std::int32_t>& value) {
+    if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
+    if (const auto* text = std::get_if<std::string>(&value)) return ParseNumber(*text);
+    return {};
+}
+
+std::vector<std::string> ReadNames(RegistryKey* key,
+                                   std::error_code (RegistryKey::*enumerate)(std::uint32_t, std::string&)) {
+    std::vector<std::string> names;
+    std::string name;
+    while (key != nullptr && !(key->*enumerate)(static_cast<std::uint32_t>(names.size()), name)) {
+        names.push_back(name);
+    }
+    return names;
+}
+
+}  // namespace
+
+std::string Registry::KeyPath(std::string_view section) const {
+    if (section.empty()) return path_;
+    std::string path = path_ + "\\";
+    path += section;
+    return path;
+}
+
+std::unique_ptr<RegistryKey> Registry::OpenKey(std::string_view section) const {
+    std::error_code ignored;
+    return store_.Open(root_, KeyPath(section), RegistryAccess::Read, ignored);
+}
+
+std::unique_ptr<RegistryKey> Registry::CreateKey(std::string_view section) const {
+    std::error_code ignored;
+    return store_.Create(root_, KeyPath(section), ignored);
+}
+
+Registry::Value Registry::QueryValue(std::string_view section, std::string_view key) const {
+    const auto open = OpenKey(section);
+    RegistryType type{};
+    std::string bytes;
+    if (open == nullptr || open->QueryValue(std::string{key}, type, bytes)) return {};
+    if (type == RegistryType::Text) {
+        // The last character is taken to be the terminating zero, whatever it is; what stands behind an earlier
+        // zero is no text.
+        if (!bytes.empty()) bytes.pop_back();
+        return bytes.substr(0, bytes.find('\0'));
+    }
+    if (type == RegistryType::Number && bytes.size() == 4) {
+        std::uint32_t number = 0;
+        for (std::size_t i = 4; i-- > 0;) number = number << 8 | static_cast<unsigned char>(bytes[i]);
+        return static_cast<std::int32_t>(number);
+    }
+    return {};
+}
+
+void Registry::SetValue(std::string_view section, std::string_view key, RegistryType type, const char* data,
+                        std::size_t size) const {
+    const auto open = CreateKey(section);
+    if (open != nullptr) open->SetValue(std::string{key}, type, data, size);
+}
+
+std::string Registry::ReadString(std::string_view section, std::string_view key,
+                                 std::string_view fallback) const {
+    const Value value = QueryValue(section, key);
+    if (const auto* text = std::get_if<std::string>(&value)) return *text;
+    if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_string(*number);
+    return std::string{fallback};
+}
+
+std::int32_t Registry::ReadLong(std::string_view section, std::string_view key, std::int32_t fallback) const {
+    using Limits = std::numeric_limits<std::int32_t>;
+    const std::optional<double> number = NumberOf(QueryValue(section, key));
+    if (!number) return fallback;
+    const double rounded = std::nearbyint(*number);
+    return rounded >= Limits::min() && rounded <= Limits::max() ? static_cast<std::int32_t>(rounded)
+                                                                : fallback;
+}
+
+double Registry::ReadDouble(std::string_view section, std::string_view key, double fallback) const {
+    return NumberOf(QueryValue(section, key)).value_or(fallback);
+}
+
+bool Registry::ReadBoolean(std::string_view section, std::string_view key, bool fallback) const {
+    const Value value = QueryValue(section, key);
+    if (const auto number = NumberOf(value)) return *number != 0;
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        const std::string word = FoldCase(Trimmed(*text));
+        if (word == "true" || word == "false") return word == "true";
+    }
+    return fallback;
+}
+
+void Registry::WriteString(std::string_view section, std::string_view key, const std::string& value) const {
+    SetValue(section, key, RegistryType::Text, value.c_str(), value.size());
+}
+
+void Registry::WriteLong(std::string_view section, std::string_view key, std::int32_t value) const {
+    std::array<char, 4> bytes{};
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        bytes[i] = static_cast<char>(static_cast<std::uint32_t>(value) >> (8 * i) & 0xFF);
+    }
+    SetValue(section, key, RegistryType::Number, bytes.data(), bytes.size());
+}
+
+void Registry::WriteDouble(std::string_view section, std::string_view key, double value) const {
+    std::array<char, 32> text{};
+    std::to_chars(text.data(), text.data() + text.size() - 1, value, std::chars_format::general, 15);
+    SetValue(section, key, RegistryType::Text, text.data(), DoubleSize);
+}
+
+void Registry::WriteBoolean(std::string_view section, std::string_view key, bool value) const {
+    WriteLong(section, key, value ? -1 : 0);
+}
+
+std::vector<std::string> Registry::ReadAllSubKeys(std::string_view section) const {
+    return ReadNames(OpenKey(section).get(), &RegistryKey::EnumerateKey);
+}
+
+std::vector<std::string> Registry::ReadAllValueNames(std::string_view section) const {
+    return ReadNames(OpenKey(section).get(), &RegistryKey::EnumerateValue);
+}
+
+void Registry::DeleteSection(std::string_view section) const {
+    if (KeyPath(section).empty()) return;  // that would be all there is
+    const auto open = CreateKey({});
+    if (open == nullptr) return;
+    // A key that has subkeys cannot be deleted: the deepest go first.
+    for (const std::string& name : ReadAllSubKeys(section)) {
+        DeleteSection(std::string{section} + "\\" + name);
+    }
+    open->DeleteKey(std::string{section});
+}
+
+}  // namespace draftwick

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <draftwick/platform/Platform.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace draftwick::test {
+
+/// A desktop that does what a test says: its settings, a word processor, and programs that can be started. It
+/// writes down what it is asked to do, one line each.
+class FakeDesktop final : public platform::RegistryStore,
+                          public platform::Automation,
+                          public platform::Programs,
+                          public std::enable_shared_from_this<FakeDesktop> {
+public:
+    /// What happened, in order: "attach", "create", "Version", "Visible=1", "Activate", "Open NAME", "PrintOut";
+    /// "start LINE of FILE", "events", "activate TASK", "keys KEYS".
+    std::vector<std::string> log;
+    /// The log in one line, and a new one begins.
+    std::string TakeLog();
+
+    /// Texts by root, path of the key and name of the value. Keys exist by having one.
+    std::map<std::pair<platform::RegistryRoot, std::string>, std::map<std::string, std::string>> settings;
+    void SetText(platform::RegistryRoot root, const std::string& path, const std::string& name,
+                 const std::string& text) {
+        settings[{root, path}][name] = text;
+    }
+
+    std::string runningVersion;    ///< of the word processor that runs; empty: none does
+    std::string installedVersion;  ///< of the word processor that can be started; empty: there is none
+    int failingOpens = 0;          ///< so many documents cannot be opened
+
+    std::map<std::string, std::string> matches;  ///< the first file of a pattern
+    std::string printCommand;
+    bool startFails = false;
+    std::int32_t lastTask = 100;  // counted up before use
+
+    std::unique_ptr<platform::RegistryKey> Open(platform::RegistryRoot root, const std::string& path,
+                                                platform::RegistryAccess access,
+                                                std::error_code& error) override;
+    std::unique_ptr<platform::RegistryKey> Create(platform::RegistryRoot root, const std::string& path,
+                                                  std::error_code& error) override;
+
+    std::shared_ptr<platform::AutomationObject> Attach(const std::string& className) override;
+    std::shared_ptr<platform::AutomationObject> Create(const std::string& className) override;
+
+    std::int32_t Start(const std::string& commandLine, const std::string& file) override;
+    std::string PrintCommand() override { return printCommand; }
+    void ProcessEvents() override { log.emplace_back("events"); }
+    void Activate(std::int32_t task) override { log.push_back("activate " + std::to_string(task)); }
+    void SendKeys(const std::string& keys) override { log.push_back("keys " + keys); }
+    std::string FirstMatch(const std::string& pattern) override { return matches[pattern]; }
+
+private:
+    class Word;
+    std::shared_ptr<platform::AutomationObject> Offer(const std::string& className,
+                                                      const std::string& version);
+};
+
+}  // namespace draftwick::test

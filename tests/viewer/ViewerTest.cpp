@@ -1,0 +1,216 @@
+#include "tests/support/Errors.h"
+#include "tests/support/FakeDesktop.h"
+#include "tests/support/FakePlatform.h"
+
+#include <draftwick/draftwick.h>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <system_error>
+
+namespace draftwick::test {
+
+namespace {
+
+using platform::RegistryRoot;
+
+const std::string shown = "Visible=1; Activate";
+const std::string opened = "Version; Visible=1; Activate; Open /docs/a.rtf; Visible=1; Activate";
+const std::string viewer = R"(C:\Viewer\wordview.exe "%1")";
+const std::string viewerStarted = "start " + viewer + " of /docs/a.rtf";
+
+/// A document that is not finished yet, on a desktop.
+class Viewers : public testing::Test {
+protected:
+    std::shared_ptr<MemoryFiles> files = std::make_shared<MemoryFiles>();
+    std::shared_ptr<FakeDesktop> desktop = std::make_shared<FakeDesktop>();
+    std::shared_ptr<Document> document = NewDocument();
+
+    std::shared_ptr<Document> NewDocument() const {
+        auto made = Document::Create(MakeFakePlatform(files, desktop));
+        made->SetFilename("/docs/a.rtf");
+        return made;
+    }
+    void InstallViewer() const {
+        desktop->SetText(RegistryRoot::LocalMachine,
+                         R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)", "", viewer);
+    }
+    std::string RefusalOf(dwViewer program) const {
+        return Refusal([&] { document->Preview(program); });
+    }
+};
+
+}  // namespace
+
+// Which viewer is used, what it is asked to do, and what is left behind.
+TEST_F(Viewers, AreTriedInOrder) {
+    const struct {
+        std::string name;
+        dwViewer program;
+        bool printIt;
+        std::string running;
+        std::string installed;
+        int failingOpens;
+        bool viewerInstalled;
+        std::string log;
+        int used;  // 0: error 106
+        bool app;
+        int task;
+    } cases[] = {
+        {"2000 runs", dwViewerAuto, false, "9.0", "", 0, true, "attach; " + opened, 3, true, 0},
+        {"97 runs", dwViewerAuto, false, "8.0b", "9.0", 0, true, "attach; Version; attach; " + opened, 2,
+         true, 0},
+        {"2000 is started", dwViewerAuto, false, "", "9.0", 0, true, "attach; create; " + opened, 3, true, 0},
+        {"97 is started", dwViewerAuto, false, "", "8.0", 0, true,
+         "attach; create; Version; attach; create; " + opened, 2, true, 0},
+        {"another version", dwViewerAuto, false, "10.0", "", 0, true,
+         "attach; Version; attach; Version; " + viewerStarted, 4, false, 101},
+        {"only the viewer", dwViewerAuto, false, "", "", 0, true,
+         "attach; create; attach; create; " + viewerStarted, 4, false, 101},
+        {"nothing", dwViewerAuto, false, "", "", 0, false, "attach; create; attach; create", 0, false, 0},
+        {"97 prints", dwViewerWord97, true, "8.0", "", 0, true, "attach; " + opened + "; PrintOut", 2, true,
+         0},
+        {"2000 prints", dwViewerWord2000, true, "9.0", "", 0, true, "attach; " + opened + "; PrintOut", 3,
+         true, 0},
+        {"the viewer prints", dwViewerWordView97, true, "9.0", "9.0", 0, true,
+         viewerStarted + "; events; activate 101; keys ^p; keys ~", 4, false, 101},
+        // A word processor that cannot open the document is left, and a new one tried.
+        {"open fails", dwViewerWord97, true, "8.0", "8.0", 1, true,
+         "attach; Version; " + shown + "; Open /docs/a.rtf; create; Version; Open /docs/a.rtf; " + shown
+             + "; PrintOut",
+         2, true, 0},
+        // One that was started because none ran does not count as started on request.
+        {"open fails, started", dwViewerWord2000, false, "", "9.0", 1, true,
+         "attach; create; Version; " + shown + "; Open /docs/a.rtf; create; Version; Open /docs/a.rtf; "
+             + shown,
+         3, true, 0},
+        // The second failure ends it without an error, and counts as done.
+        {"open fails twice", dwViewerAuto, true, "9.0", "9.0", 2, true,
+         "attach; Version; " + shown + "; Open /docs/a.rtf; create; Version; Open /docs/a.rtf", 3, false, 0},
+        // The new one can be missing or of another version, which is an error.
+        {"open fails, no other", dwViewerAuto, false, "9.0", "", 1, true,
+         "attach; Version; " + shown + "; Open /docs/a.rtf; create; attach; Version; " + viewerStarted, 4,
+         false, 101},
+        {"open fails, other version", dwViewerAuto, false, "9.0", "8.0", 1, true,
+         "attach; Version; " + shown + "; Open /docs/a.rtf; create; Version; attach; Version; "
+             + viewerStarted,
+         4, false, 101},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        desktop = std::make_shared<FakeDesktop>();
+        desktop->runningVersion = c.running;
+        desktop->installedVersion = c.installed;
+        desktop->failingOpens = c.failingOpens;
+        if (c.viewerInstalled) InstallViewer();
+        document = NewDocument();
+        const auto use = [&] {
+            return c.printIt ? document->PrintOut(c.program) : document->Preview(c.program);
+        };
+        if (c.used == 0) {
+            EXPECT_EQ(Refusal(use), "X106 No viewer program could be found.");
+        } else {
+            EXPECT_EQ(use(), c.used);
+        }
+        EXPECT_EQ(desktop->TakeLog(), c.log);
+        EXPECT_EQ(document->ViewerApp() != nullptr, c.app);
+        EXPECT_EQ(document->ViewerTaskID(), c.task);
+        EXPECT_TRUE(document->Finished());
+    }
+}
+
+TEST_F(Viewers, ThatAreAskedForByNameMustWork) {
+    EXPECT_EQ(RefusalOf(dwViewerWord97).substr(0, 4), "429 ");
+    desktop->runningVersion = "8.0";
+    EXPECT_EQ(RefusalOf(dwViewerWord2000), "429 There is no message for this error");
+    EXPECT_EQ(RefusalOf(dwViewerWordView97), "X106 No viewer program could be found.");
+    InstallViewer();
+    desktop->startFails = true;
+    EXPECT_THROW(document->Preview(dwViewerWordView97), std::system_error);
+    EXPECT_EQ(document->ViewerTaskID(), 0);
+}
+
+TEST_F(Viewers, HaveANumberFromOneToFour) {
+    for (const int number : {0, 5}) {
+        document = NewDocument();
+        EXPECT_EQ(RefusalOf(static_cast<dwViewer>(number)),
+                  "X101 Property Viewer set to out of range value.");
+        EXPECT_EQ(desktop->TakeLog(), "");
+        EXPECT_TRUE(document->Finished());
+    }
+}
+
+// The first of four places that says something about the viewer decides.
+TEST_F(Viewers, AreFoundWhereTheyLeaveATrace) {
+    const struct {
+        RegistryRoot root;
+        std::string path;
+        std::string name;
+        std::string text;
+        std::string command;
+    } sources[] = {
+        {RegistryRoot::LocalMachine, R"(SOFTWARE\Microsoft\MS Setup (ACME)\Table Files)",
+         "Microsoft Word Viewer 97@v96.11.18.01 (1033)", R"(C:\Acme\setup\setup.stf)",
+         R"(C:\Acme\four.exe "%1")"},
+        {RegistryRoot::LocalMachine, R"(SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\Viewer97)",
+         "UninstallString", R"(C:\setup\setup.exeV\setup\setup.exeSetup\Setup.exe)",
+         R"(C:\V\Setup\Setup.exethree.exe "%1")"},
+        {RegistryRoot::CurrentUser, R"(Software\Microsoft\Word Viewer\8.0\Options)", "PROGRAMDIR",
+         R"(C:\Program Files\Viewer)", R"(C:\Program Files\Viewer\two.exe "%1")"},
+        {RegistryRoot::LocalMachine, R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)", "",
+         R"(one "%1" and %1)", R"(one "%1" and %1)"},
+    };
+    desktop->matches = {{R"(C:\Acme\*.exe)", "four.exe"},
+                        {R"(C:\V\Setup\Setup.exe*.exe)", "three.exe"},
+                        {R"(C:\Program Files\Viewer\*.exe)", "two.exe"}};
+    for (const auto& source : sources) {
+        desktop->SetText(source.root, source.path, source.name, source.text);
+        EXPECT_EQ(document->Preview(dwViewerWordView97), dwViewerWordView97);
+        EXPECT_EQ(desktop->TakeLog(), "start " + source.command + " of /docs/a.rtf");
+    }
+    // An empty text says nothing, a folder without a program is taken at its word.
+    desktop->SetText(RegistryRoot::LocalMachine, R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)",
+                     "", "");
+    desktop->SetText(RegistryRoot::CurrentUser, R"(Software\Microsoft\Word Viewer\8.0\Options)", "PROGRAMDIR",
+                     R"(D:\)");
+    document->Preview(dwViewerWordView97);
+    EXPECT_EQ(desktop->TakeLog(), R"(start D:\ "%1" of /docs/a.rtf)");
+}
+
+TEST_F(Viewers, PrintInTheirOwnWayWhereTheyTakeNoKeystrokes) {
+    InstallViewer();
+    desktop->printCommand = "printer %1";
+    EXPECT_EQ(document->PrintOut(), dwViewerWordView97);
+    EXPECT_EQ(document->ViewerTaskID(), 101);
+    EXPECT_EQ(document->Preview(dwViewerWordView97), dwViewerWordView97);
+    EXPECT_EQ(desktop->TakeLog(),
+              "attach; create; attach; create; start printer %1 of /docs/a.rtf; " + viewerStarted);
+}
+
+TEST_F(Viewers, AreForgottenByTheNextCall) {
+    desktop->runningVersion = "9.0";
+    document->Preview();
+    const auto app = document->ViewerApp();
+    EXPECT_EQ(app->GetProperty("Version"), Variant{std::string{"9.0"}});
+    EXPECT_EQ(app->Document(), document);
+    EXPECT_THROW(app->GetProperty("Shelf"), std::system_error);
+    EXPECT_EQ(RefusalNumber([&] { app->SetProperty("Visible", Date{}); }), dwRunTypeMismatch);
+    EXPECT_EQ(RefusalNumber([&] { app->SetProperty("Visible", document->Self()); }), dwRunTypeMismatch);
+    // By names alone, and to an object of the other program.
+    const auto word = std::get<std::shared_ptr<Object>>(Get(*document, "ViewerApp"));
+    EXPECT_EQ(word, app);
+    const Variant documents = Call(*word, "GetProperty", {std::string{"Documents"}});
+    desktop->TakeLog();
+    Call(*std::get<std::shared_ptr<Object>>(documents), "CallMethod",
+         {std::string{"Open"}, std::string{"b"}, std::string{"c"}});
+    EXPECT_EQ(desktop->TakeLog(), "Open b c");
+
+    desktop->runningVersion = "";
+    EXPECT_EQ(RefusalOf(dwViewerAuto), "X106 No viewer program could be found.");
+    EXPECT_EQ(document->ViewerApp(), nullptr);
+    document.reset();
+    EXPECT_EQ(app->GetProperty("Version"), Variant{std::string{"9.0"}});
+}
+
+}  // namespace draftwick::test
