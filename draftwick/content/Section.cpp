@@ -8,7 +8,7 @@
 
 namespace draftwick {
 
-Section::Section(const Origin& origin) : Container(origin) {
+Section::Section(const Origin& origin) : Container(origin), pageBorders_(*this) {
     const DocumentSettings& document = Writing().settings;
     values_.page = document.page;
     values_.orientation = dwOrientation{document.orientation};
@@ -20,7 +20,7 @@ void Section::SetOrientation(dwOrientation orientation) {
     if (orientation != before) std::swap(values_.page.pageWidth, values_.page.pageHeight);
 }
 
-void Section::WriteStart() { EmitSection(Writing(), values_); }
+void Section::WriteStart() { EmitSection(Writing(), values_, pageBorders_); }
 
 void Section::WriteEnd() { WriteSectionEnd(Writing()); }
 
@@ -66,6 +66,7 @@ const Class& Section::Describe() {
             PropertyOf<&S::PaperBinFirst, &S::SetPaperBinFirst, &V::paperBinFirst>("PaperBinFirst"),
             PropertyOf<&S::TitlePage, &S::SetTitlePage, &V::titlePage>("TitlePage"),
             PropertyOf<&S::VerticalAlign, &S::SetVerticalAlign, &V::verticalAlign>("VerticalAlign"),
+            PropertyOf<&S::PageBorders>("PageBorders"),
         },
         {
             MethodOf<&S::AddParagraph>("AddParagraph"),

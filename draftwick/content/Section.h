@@ -2,6 +2,7 @@
 
 #include <draftwick/base/DocumentSettings.h>
 #include <draftwick/content/Container.h>
+#include <draftwick/structure/PageBorders.h>
 
 namespace draftwick {
 
@@ -133,6 +134,8 @@ public:
     dwVerticalAlign VerticalAlign() const { return values_.verticalAlign; }
     void SetVerticalAlign(dwVerticalAlign align) { Change(values_.verticalAlign, align); }
 
+    std::shared_ptr<draftwick::PageBorders> PageBorders() { return Share(pageBorders_); }
+
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
@@ -142,6 +145,7 @@ protected:
 
 private:
     Values values_;
+    draftwick::PageBorders pageBorders_;
 };
 
 }  // namespace draftwick

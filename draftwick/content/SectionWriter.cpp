@@ -32,7 +32,7 @@ void WritePage(Output& output, const Section::Values& section) {
 
 }  // namespace
 
-void EmitSection(WritingContext& context, const Section::Values& section) {
+void EmitSection(WritingContext& context, const Section::Values& section, const PageBorders& pageBorders) {
     Output& output = context.output;
     if (!context.firstSection) output.WriteControlWord("sect");
     context.firstSection = false;
@@ -50,6 +50,7 @@ void EmitSection(WritingContext& context, const Section::Values& section) {
     output.WriteWord(PageRestartWords, section.pageNumberingRestart);
     output.WriteWord(PageNumberWords, section.pageNumberingFormat);
     output.WriteWord(VerticalWords, section.verticalAlign);
+    EmitPageBorders(context, pageBorders);
     if (context.settings.endnoteLocation == dwELSection) output.WriteControlWord("endnhere");
     context.layout.SuppressNextParagraphMark = true;
 }

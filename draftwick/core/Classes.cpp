@@ -26,6 +26,8 @@ std::span<const Class* const> Classes() {
         &ParagraphBorder::Describe(),
         &ParagraphBorders::Describe(),
         &ParagraphFormat::Describe(),
+        &PageBorder::Describe(),
+        &PageBorders::Describe(),
         &ParagraphStyle::Describe(),
         &ParagraphStyles::Describe(),
         &Section::Describe(),

@@ -85,6 +85,9 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
         {"ParagraphStyles", [] { return OfDocument([](Document& d) { return d.ParagraphStyles(); }); }},
         {"Section", [] { return OfSection([](Section& s) { return s.Self(); }); }},
         {"Special",
+        {"PageBorder",
+         [] { return OfSection([](Section& s) { return s.PageBorders()->Items(dwPgBorderTop); }); }},
+        {"PageBorders", [] { return OfSection([](Section& s) { return s.PageBorders(); }); }},
          [] {
              return Subject{NewDocument(), std::make_shared<Special>(), [] {}, ""};
          }},
