@@ -4,6 +4,7 @@
 #include <draftwick/base/Class.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Version.h>
+#include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/Special.h>

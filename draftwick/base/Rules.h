@@ -87,6 +87,7 @@ public:
     constexpr Length(std::int16_t twips) noexcept : twips_(twips) {}
     constexpr std::int32_t Twips() const noexcept { return twips_; }
     void Set(double value, dwScaleMode scale) { twips_ = ToShort(ToTwips(value, scale)); }
+    bool operator==(const Length&) const = default;
 
 private:
     std::int16_t twips_;

@@ -1,5 +1,6 @@
 #include <draftwick/base/Class.h>
 #include <draftwick/base/WritingContext.h>
+#include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/TextItem.h>
 #include <draftwick/format/BackgroundWriter.h>
@@ -34,11 +35,16 @@ std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw
     return Add(currentTextItem_, text, raw);
 }
 
-/// \par\pard\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
+std::shared_ptr<Field> Paragraph::AddField(std::string_view code, std::string_view text) {
+    return Add(currentField_, code, text);
+}
+
+/// \par\pard\phcol...\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
     static_cast<Container&>(*RequireParent()).WriteParagraphMark();
     context.output.WriteControlWord("pard");
+    if (const draftwick::Frame* frame = frame_.Find()) EmitFrame(context, frame->Stored());
     if (style_ != Style::NoStyle) context.output.WriteControlWord("s", style_);
     if (const ParagraphBorders* borders = borders_.Find()) EmitParagraphBorders(context, *borders);
     if (const draftwick::Background* background = background_.Find())
@@ -56,6 +62,7 @@ const Class& Paragraph::Describe() {
         "{3F3895CF-38AE-4BB8-A68D-6E8A0CAC9FD3}",
         "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
+            PropertyOf<&P::CurrentField>("CurrentField"),
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
             PropertyOf<&P::Emitted>("Emitted"),
             PropertyOf<&P::Finished>("Finished"),
@@ -63,10 +70,13 @@ const Class& Paragraph::Describe() {
             PropertyOf<&P::Borders>("Borders"),
             PropertyOf<&P::FontFormat>("FontFormat"),
             PropertyOf<&P::Format>("Format"),
+            PropertyOf<&P::Frame>("Frame"),
             PropertyOf<&P::TabStops>("TabStops"),
             PropertyOf<&P::StyleName, &P::SetStyleName>("StyleName"),
         },
         {
+            MethodOf<&P::AddField>("AddField",
+                                   {{"Code", Variant{std::string{}}}, {"Text", Variant{std::string{}}}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};
     return description;

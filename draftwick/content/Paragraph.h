@@ -4,6 +4,7 @@
 #include <draftwick/format/Background.h>
 #include <draftwick/format/Border.h>
 #include <draftwick/format/FontFormat.h>
+#include <draftwick/format/Frame.h>
 #include <draftwick/format/ParagraphFormat.h>
 #include <draftwick/format/TabStops.h>
 
@@ -12,6 +13,7 @@
 
 namespace draftwick {
 
+class Field;
 class TextItem;
 
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
@@ -33,12 +35,19 @@ public:
     std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
     std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_.Get(*this)); }
     std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_.Get(*this)); }
+    /// Styles have none.
+    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(*this)); }
 
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
 
+    /// Adds a field: an instruction and the text that is shown until a reader carries it out.
+    std::shared_ptr<Field> AddField(std::string_view code = {}, std::string_view text = {});
+
     /// The run that was added last; empty before the first.
     std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
+    /// The field that was added last; empty before the first.
+    std::shared_ptr<Field> CurrentField() const { return currentField_; }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
@@ -57,7 +66,9 @@ private:
     Lazy<draftwick::Background> background_;
     Lazy<ParagraphBorders> borders_;
     Lazy<draftwick::TabStops> tabStops_;
+    Lazy<draftwick::Frame> frame_;
     std::shared_ptr<TextItem> currentTextItem_;
+    std::shared_ptr<Field> currentField_;
 };
 
 }  // namespace draftwick

@@ -1,3 +1,4 @@
+#include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/Special.h>
@@ -17,9 +18,11 @@ std::span<const Class* const> Classes() {
         &Background::Describe(),
         &Document::Describe(),
         &Font::Describe(),
+        &Field::Describe(),
         &FontFormat::Describe(),
         &Fonts::Describe(),
         &List::Describe(),
+        &Frame::Describe(),
         &ListLevel::Describe(),
         &Lists::Describe(),
         &Paragraph::Describe(),

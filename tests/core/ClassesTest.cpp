@@ -57,6 +57,14 @@ Subject OfText(const std::function<ObjectPointer(TextItem&)>& make) {
         document, make(*item), [paragraph] { paragraph->AddTextItem("y"); }, "TextItem", {paragraph, item}};
 }
 
+Subject OfField(const std::function<ObjectPointer(Field&)>& make) {
+    auto document = NewDocument();
+    auto paragraph = document->AddSection()->AddParagraph();
+    auto field = paragraph->AddField();
+    return {
+        document, make(*field), [paragraph] { paragraph->AddTextItem("y"); }, "Field", {paragraph, field}};
+}
+
 Subject OfSection(const std::function<ObjectPointer(Section&)>& make) {
     auto document = NewDocument();
     auto section = document->AddSection();
@@ -68,9 +76,11 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
         {"Background", [] { return OfParagraph([](Paragraph& p) { return p.Background(); }); }},
         {"Document",
          [] { return OfDocument([](Document& d) { return std::static_pointer_cast<Document>(d.Self()); }); }},
+        {"Field", [] { return OfField([](Field& f) { return f.Self(); }); }},
         {"Font", [] { return OfDocument([](Document& d) { return d.Fonts()->Add("A"); }); }},
         {"FontFormat", [] { return OfText([](TextItem& t) { return t.FontFormat(); }); }},
         {"Fonts", [] { return OfDocument([](Document& d) { return d.Fonts(); }); }},
+        {"Frame", [] { return OfParagraph([](Paragraph& p) { return p.Frame(); }); }},
         {"List", [] { return OfDocument([](Document& d) { return d.Lists()->Add("A"); }, ""); }},
         {"ListLevel",
          [] { return OfDocument([](Document& d) { return d.Lists()->Add("A")->Levels(1); }, ""); }},
