@@ -110,7 +110,7 @@ private:
 
 /// Items have the document as their parent: a font belongs to the document, not to its collection.
 template <class Collection>
-Method ItemsMethod() {
+ClassMethod ItemsMethod() {
     return MethodOf<&Collection::ItemOf>("Items", {{"Index"}});
 }
 

@@ -168,8 +168,8 @@ protected:
     }
     Subject Make() const { return Makers().at(std::string{GetParam()->name})(); }
     /// Calls `check` with every property that can be set, each time on a new object.
-    void ForEachSetter(const std::function<void(const Property&, Subject)>& check) const {
-        for (const Property& property : GetParam()->properties) {
+    void ForEachSetter(const std::function<void(const ClassProperty&, Subject)>& check) const {
+        for (const ClassProperty& property : GetParam()->properties) {
             if (property.set == nullptr || property.get == nullptr) continue;
             SCOPED_TRACE(std::string{GetParam()->name} + "." + std::string{property.name});
             check(property, Make());
@@ -182,7 +182,7 @@ protected:
 TEST_P(EveryClass, StartsWithItsDefaults) {
     const Subject subject = Make();
     EXPECT_EQ(subject.object->Description().name, GetParam()->name);
-    for (const Property& property : GetParam()->properties) {
+    for (const ClassProperty& property : GetParam()->properties) {
         if (property.get == nullptr || std::holds_alternative<std::monostate>(property.rule.initial))
             continue;
         if (property.name == "ScaleMode") continue;  // subjects are made to use twips
@@ -191,7 +191,7 @@ TEST_P(EveryClass, StartsWithItsDefaults) {
 }
 
 TEST_P(EveryClass, TakesWhatItsRulesAllowAndRefusesTheRest) {
-    ForEachSetter([](const Property& property, const Subject& subject) {
+    ForEachSetter([](const ClassProperty& property, const Subject& subject) {
         if (std::holds_alternative<std::monostate>(property.rule.initial)) return;
         const Trials trials = TrialsOf(property.rule);
         for (const Variant& value : trials.taken) {
@@ -209,7 +209,7 @@ TEST_P(EveryClass, TakesWhatItsRulesAllowAndRefusesTheRest) {
 }
 
 TEST_P(EveryClass, RefusesChangesOnceWritten) {
-    ForEachSetter([](const Property& property, const Subject& subject) {
+    ForEachSetter([](const ClassProperty& property, const Subject& subject) {
         const Variant before = Get(*subject.object, property.name);
         subject.write();
         const bool refuses = !subject.refusedAs.empty()
@@ -224,7 +224,7 @@ TEST_P(EveryClass, RefusesChangesOnceWritten) {
 }
 
 TEST_P(EveryClass, RefusesChangesOnceTheDocumentIsGone) {
-    ForEachSetter([](const Property& property, Subject subject) {
+    ForEachSetter([](const ClassProperty& property, Subject subject) {
         if (subject.object == subject.document) return;
         const Variant before = Get(*subject.object, property.name);
         subject.document.reset();
