@@ -11,6 +11,7 @@
 #include <draftwick/content/TextItem.h>
 #include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
+#include <draftwick/core/Properties.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>

@@ -47,7 +47,7 @@ private:
     std::int32_t index_ = 1;
 };
 
-/// A collection whose items have names, told apart without regard to case. It only grows.
+/// A collection whose items have names, told apart without regard to case.
 template <class Item>
 class NamedCollection : public Node {
 public:
@@ -80,6 +80,8 @@ public:
     std::int32_t IndexOf(std::string_view name) const { return static_cast<std::int32_t>(Find(name)); }
 
 protected:
+    bool Contains(std::string_view name) const { return positions_.contains(FoldCase(name)); }
+
     /// An empty name is dwErrZeroLengthName with the collection's name, one that is taken error 457.
     std::shared_ptr<Item> AddItem(std::string_view name, std::string_view collection) {
         if (name.empty()) RaiseError(dwErrZeroLengthName, {std::string{collection}});
@@ -95,6 +97,16 @@ protected:
             throw;
         }
         return item;
+    }
+
+    /// Takes the item at a position from 1 out; those behind it move up.
+    void RemoveItem(std::int32_t index) {
+        const auto removed = static_cast<std::size_t>(index - 1);
+        std::erase_if(positions_, [&](const auto& entry) { return entry.second == removed; });
+        for (auto& [key, position] : positions_) {
+            if (position > removed) --position;
+        }
+        items_.erase(items_.begin() + (index - 1));
     }
 
 private:

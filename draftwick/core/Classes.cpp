@@ -5,6 +5,7 @@
 #include <draftwick/content/TextItem.h>
 #include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
+#include <draftwick/core/Properties.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
@@ -17,22 +18,24 @@ std::span<const Class* const> Classes() {
     static const Class* const all[] = {
         &Background::Describe(),
         &Document::Describe(),
-        &Font::Describe(),
         &Field::Describe(),
+        &Font::Describe(),
         &FontFormat::Describe(),
         &Fonts::Describe(),
-        &List::Describe(),
         &Frame::Describe(),
+        &List::Describe(),
         &ListLevel::Describe(),
         &Lists::Describe(),
+        &PageBorder::Describe(),
+        &PageBorders::Describe(),
         &Paragraph::Describe(),
         &ParagraphBorder::Describe(),
         &ParagraphBorders::Describe(),
         &ParagraphFormat::Describe(),
-        &PageBorder::Describe(),
-        &PageBorders::Describe(),
         &ParagraphStyle::Describe(),
         &ParagraphStyles::Describe(),
+        &Properties::Describe(),
+        &Property::Describe(),
         &Section::Describe(),
         &Special::Describe(),
         &TabStop::Describe(),

@@ -85,6 +85,9 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
         {"ListLevel",
          [] { return OfDocument([](Document& d) { return d.Lists()->Add("A")->Levels(1); }, ""); }},
         {"Lists", [] { return OfDocument([](Document& d) { return d.Lists(); }); }},
+        {"PageBorder",
+         [] { return OfSection([](Section& s) { return s.PageBorders()->Items(dwPgBorderTop); }); }},
+        {"PageBorders", [] { return OfSection([](Section& s) { return s.PageBorders(); }); }},
         {"Paragraph", [] { return OfParagraph([](Paragraph& p) { return p.Self(); }); }},
         {"ParagraphBorder",
          [] { return OfParagraph([](Paragraph& p) { return p.Borders()->Items(dwPBorderTop); }); }},
@@ -93,11 +96,10 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
         {"ParagraphStyle",
          [] { return OfDocument([](Document& d) { return d.ParagraphStyles()->Add("A"); }); }},
         {"ParagraphStyles", [] { return OfDocument([](Document& d) { return d.ParagraphStyles(); }); }},
+        {"Properties", [] { return OfDocument([](Document& d) { return d.Properties(); }); }},
+        {"Property", [] { return OfDocument([](Document& d) { return d.Properties()->Add("A", 1); }); }},
         {"Section", [] { return OfSection([](Section& s) { return s.Self(); }); }},
         {"Special",
-        {"PageBorder",
-         [] { return OfSection([](Section& s) { return s.PageBorders()->Items(dwPgBorderTop); }); }},
-        {"PageBorders", [] { return OfSection([](Section& s) { return s.PageBorders(); }); }},
          [] {
              return Subject{NewDocument(), std::make_shared<Special>(), [] {}, ""};
          }},
