@@ -6,6 +6,8 @@
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/structure/Bookmark.h>
+#include <draftwick/structure/Footnote.h>
 
 namespace draftwick {
 
@@ -29,6 +31,12 @@ void Paragraph::SetStyleName(std::string_view name) {
     format_.CopyFrom(style.StoredFormat());
     style_ = index;
 }
+
+std::shared_ptr<Bookmark> Paragraph::AddBookmark(std::string_view name, bool isStart) {
+    return Add(currentBookmark_, name, isStart);
+}
+
+std::shared_ptr<Footnote> Paragraph::AddFootnote(bool isEndnote) { return Add(currentFootnote_, isEndnote); }
 
 std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw) {
     return Add(currentTextItem_, text, raw);
@@ -59,6 +67,8 @@ const Class& Paragraph::Describe() {
         "{3F3895CF-38AE-4BB8-A68D-6E8A0CAC9FD3}",
         "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
+            PropertyOf<&P::CurrentBookmark>("CurrentBookmark"),
+            PropertyOf<&P::CurrentFootnote>("CurrentFootnote"),
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
             PropertyOf<&P::Emitted>("Emitted"),
             PropertyOf<&P::Finished>("Finished"),
@@ -70,6 +80,8 @@ const Class& Paragraph::Describe() {
             PropertyOf<&P::StyleName, &P::SetStyleName>("StyleName"),
         },
         {
+            MethodOf<&P::AddBookmark>("AddBookmark", {{"Name"}, {"IsStart", Variant{true}}}),
+            MethodOf<&P::AddFootnote>("AddFootnote", {{"IsEndnote", Variant{false}}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};
     return description;
