@@ -13,7 +13,9 @@
 
 namespace draftwick {
 
+class Bookmark;
 class Field;
+class Footnote;
 class TextItem;
 
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
@@ -41,13 +43,18 @@ public:
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
 
+    /// Adds the start, or the end, of a bookmark at this place of the text.
+    std::shared_ptr<Bookmark> AddBookmark(std::string_view name, bool isStart = true);
     /// Adds a field: an instruction and the text that is shown until a reader carries it out.
     std::shared_ptr<Field> AddField(std::string_view code = {}, std::string_view text = {});
+    /// Adds a footnote, or an endnote, to this place of the text.
+    std::shared_ptr<Footnote> AddFootnote(bool isEndnote = false);
 
-    /// The run that was added last; empty before the first.
-    std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
-    /// The field that was added last; empty before the first.
+    /// The children that were added last, by kind; empty before the first.
+    std::shared_ptr<Bookmark> CurrentBookmark() const { return currentBookmark_; }
     std::shared_ptr<Field> CurrentField() const { return currentField_; }
+    std::shared_ptr<Footnote> CurrentFootnote() const { return currentFootnote_; }
+    std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
@@ -67,8 +74,10 @@ private:
     Lazy<ParagraphBorders> borders_;
     Lazy<draftwick::TabStops> tabStops_;
     Lazy<draftwick::Frame> frame_;
-    std::shared_ptr<TextItem> currentTextItem_;
+    std::shared_ptr<Bookmark> currentBookmark_;
     std::shared_ptr<Field> currentField_;
+    std::shared_ptr<Footnote> currentFootnote_;
+    std::shared_ptr<TextItem> currentTextItem_;
 };
 
 }  // namespace draftwick

@@ -1,3 +1,4 @@
+#include "tests/support/Errors.h"
 #include "tests/support/Written.h"
 
 namespace draftwick::test {
@@ -111,6 +112,27 @@ TEST(Frame, DoesNotComeWithAStyle) {
         paragraph->SetStyleName("Aside");
     });
     EXPECT_NE(file.find(R"(\pard\absw1440\phcol\pvmrg\s0\plain)"), std::string::npos) << file;
+}
+
+TEST(Frame, OfARowStandsInItsParagraphs) {
+    const std::string file = Written([](Document& document) {
+        const auto section = document.AddSection();
+        const auto row = section->AddTable();
+        row->Frame()->SetAlignX(dwFAXRight);
+        const auto cell = row->AddCell();
+        const auto paragraph = cell->AddParagraph();
+        paragraph->Frame()->SetWidth(1);
+        EXPECT_EQ(Refusal([&] { row->Frame()->SetWidth(1); }),
+                  "X109 Invalid operation.  Target already emitted Table.");
+        paragraph->AddFootnote()->AddParagraph()->Frame()->SetWidth(2);
+        section->AddTable()->AddCell()->AddParagraph();
+    });
+    EXPECT_EQ(Between(file, R"(\trowd)", R"(\pard)").find("posxr"), std::string::npos);
+    EXPECT_NE(file.find(R"(\cellx1440\intbl\pard\intbl\phcol\posxr\pvmrg\plain)"), std::string::npos) << file;
+    EXPECT_NE(file.find(R"(\pard\absw2\phcol\pvmrg\plain)"), std::string::npos) << file;
+    EXPECT_NE(file.find(R"(\row\pard\trowd)"), std::string::npos) << file;
+    EXPECT_NE(file.find(R"(\cellx1440\intbl\pard\intbl\plain)"), std::string::npos) << file;
+    EXPECT_EQ(file.find("absw1\\"), std::string::npos) << file;
 }
 
 }  // namespace draftwick::test
