@@ -13,3 +13,5 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/structure/Cell.h>
+#include <draftwick/structure/Table.h>

@@ -37,8 +37,11 @@ std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw
 /// \par\pard\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
-    static_cast<Container&>(*RequireParent()).WriteParagraphMark();
+    const std::shared_ptr<Object> parent = RequireParent();
+    auto& container = static_cast<Container&>(*parent);
+    container.WriteParagraphMark();
     context.output.WriteControlWord("pard");
+    container.WriteParagraphPlace();
     if (style_ != Style::NoStyle) context.output.WriteControlWord("s", style_);
     if (const ParagraphBorders* borders = borders_.Find()) EmitParagraphBorders(context, *borders);
     if (const draftwick::Background* background = background_.Find())

@@ -3,12 +3,13 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/SectionWriter.h>
+#include <draftwick/structure/Table.h>
 
 #include <utility>
 
 namespace draftwick {
 
-Section::Section(const Origin& origin) : Container(origin) {
+Section::Section(const Origin& origin) : RowContainer(origin) {
     const DocumentSettings& document = Writing().settings;
     values_.page = document.page;
     values_.orientation = dwOrientation{document.orientation};
@@ -34,6 +35,7 @@ const Class& Section::Describe() {
         "{BF26F119-5E51-4C4B-B429-8E789A325047}",
         {
             PropertyOf<&S::CurrentParagraph>("CurrentParagraph"),
+            PropertyOf<&S::CurrentTable>("CurrentTable"),
             PropertyOf<&S::Emitted>("Emitted"),
             PropertyOf<&S::Finished>("Finished"),
             PropertyOf<&S::MarginTop, &S::SetMarginTop, &P::marginTop>("MarginTop"),
@@ -69,6 +71,7 @@ const Class& Section::Describe() {
         },
         {
             MethodOf<&S::AddParagraph>("AddParagraph"),
+            MethodOf<&S::AddTable>("AddTable"),
         }};
     return description;
 }

@@ -7,6 +7,8 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/structure/Cell.h>
+#include <draftwick/structure/Table.h>
 
 namespace draftwick {
 
@@ -15,6 +17,9 @@ namespace draftwick {
 std::span<const Class* const> Classes() {
     static const Class* const all[] = {
         &Background::Describe(),
+        &Cell::Describe(),
+        &CellBorder::Describe(),
+        &CellBorders::Describe(),
         &Document::Describe(),
         &Font::Describe(),
         &FontFormat::Describe(),
@@ -32,6 +37,9 @@ std::span<const Class* const> Classes() {
         &Special::Describe(),
         &TabStop::Describe(),
         &TabStops::Describe(),
+        &Table::Describe(),
+        &TableBorder::Describe(),
+        &TableBorders::Describe(),
         &TextBorder::Describe(),
         &TextItem::Describe(),
         &TextStyle::Describe(),
