@@ -10,6 +10,7 @@
 #include <draftwick/content/TextItem.h>
 #include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
+#include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>

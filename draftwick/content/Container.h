@@ -26,6 +26,9 @@ public:
     virtual void WriteParagraphMark();
     /// Writes what stands right after a paragraph's \pard: in a cell, that the paragraph belongs to a row.
     virtual void WriteParagraphPlace() {}
+    /// Whether the container is a cell, or a note in a cell: then what stands in its paragraphs must leave the writers
+    /// of paragraphs and rows as it found them.
+    virtual bool StandsInCell() const { return false; }
 
 private:
     std::shared_ptr<Paragraph> currentParagraph_;

@@ -2,6 +2,7 @@
 #include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/TextItem.h>
+#include <draftwick/drawing/Shape.h>
 #include <draftwick/format/BackgroundWriter.h>
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
@@ -34,6 +35,20 @@ std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw
     return Add(currentTextItem_, text, raw);
 }
 
+std::shared_ptr<Shape> Paragraph::AddShape(dwShapeKind kind) {
+    Writing();
+    CheckNotFinished();
+    if (std::dynamic_pointer_cast<Shape>(RequireParent()) != nullptr) {
+        RaiseError(dwErrShapesCantContainShapes);
+    }
+    return Add(currentShape_, kind);
+}
+
+bool Paragraph::StandsInCell() const {
+    const std::shared_ptr<Object> container = Parent();
+    return container != nullptr && static_cast<const Container&>(*container).StandsInCell();
+}
+
 /// \par\pard\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
@@ -59,6 +74,7 @@ const Class& Paragraph::Describe() {
         "{3F3895CF-38AE-4BB8-A68D-6E8A0CAC9FD3}",
         "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
+            PropertyOf<&P::CurrentShape>("CurrentShape"),
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
             PropertyOf<&P::Emitted>("Emitted"),
             PropertyOf<&P::Finished>("Finished"),
@@ -70,6 +86,7 @@ const Class& Paragraph::Describe() {
             PropertyOf<&P::StyleName, &P::SetStyleName>("StyleName"),
         },
         {
+            MethodOf<&P::AddShape>("AddShape", {{"Kind"}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};
     return description;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <draftwick/content/Container.h>
+#include <draftwick/drawing/ShapeKind.h>
 #include <draftwick/format/Background.h>
 #include <draftwick/format/Border.h>
 #include <draftwick/format/FontFormat.h>
@@ -12,6 +13,7 @@
 
 namespace draftwick {
 
+class Shape;
 class TextItem;
 
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
@@ -37,6 +39,12 @@ public:
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
 
+    /// Adds a shape that is anchored in the paragraph. dwErrShapesCantContainShapes in the text box of a shape; in the
+    /// cells and notes of a text box there can be shapes.
+    std::shared_ptr<Shape> AddShape(dwShapeKind kind);
+
+    /// The shape that was added last; empty before the first.
+    std::shared_ptr<Shape> CurrentShape() const { return currentShape_; }
     /// The run that was added last; empty before the first.
     std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
 
@@ -46,6 +54,7 @@ public:
     // The rest is for the library.
 
     const draftwick::FontFormat* OwnFontFormat() const noexcept { return fontFormat_.Find(); }
+    bool StandsInCell() const;
 
 protected:
     void WriteStart() override;
@@ -57,6 +66,7 @@ private:
     Lazy<draftwick::Background> background_;
     Lazy<ParagraphBorders> borders_;
     Lazy<draftwick::TabStops> tabStops_;
+    std::shared_ptr<Shape> currentShape_;
     std::shared_ptr<TextItem> currentTextItem_;
 };
 

@@ -4,6 +4,7 @@
 #include <draftwick/content/TextItem.h>
 #include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
+#include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
@@ -34,6 +35,11 @@ std::span<const Class* const> Classes() {
         &ParagraphStyle::Describe(),
         &ParagraphStyles::Describe(),
         &Section::Describe(),
+        &Shape::Describe(),
+        &ShapeFill::Describe(),
+        &ShapeLine::Describe(),
+        &ShapeShadow::Describe(),
+        &ShapeTextFormat::Describe(),
         &Special::Describe(),
         &TabStop::Describe(),
         &TabStops::Describe(),

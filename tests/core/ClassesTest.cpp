@@ -57,6 +57,13 @@ Subject OfText(const std::function<ObjectPointer(TextItem&)>& make) {
         document, make(*item), [paragraph] { paragraph->AddTextItem("y"); }, "TextItem", {paragraph, item}};
 }
 
+/// A shape or a part of one.
+Subject OfShape(const std::function<ObjectPointer(Shape&)>& make) {
+    auto document = NewDocument();
+    auto shape = document->AddSection()->AddParagraph()->AddShape(dwSKRectangle);
+    return {document, make(*shape), [shape] { shape->AddParagraph(); }, "Shape", {shape}};
+}
+
 Subject OfSection(const std::function<ObjectPointer(Section&)>& make) {
     auto document = NewDocument();
     auto section = document->AddSection();
@@ -100,6 +107,11 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
          [] { return OfDocument([](Document& d) { return d.ParagraphStyles()->Add("A"); }); }},
         {"ParagraphStyles", [] { return OfDocument([](Document& d) { return d.ParagraphStyles(); }); }},
         {"Section", [] { return OfSection([](Section& s) { return s.Self(); }); }},
+        {"Shape", [] { return OfShape([](Shape& s) { return s.Self(); }); }},
+        {"ShapeFill", [] { return OfShape([](Shape& s) { return s.Fill(); }); }},
+        {"ShapeLine", [] { return OfShape([](Shape& s) { return s.Line(); }); }},
+        {"ShapeShadow", [] { return OfShape([](Shape& s) { return s.Shadow(); }); }},
+        {"ShapeTextFormat", [] { return OfShape([](Shape& s) { return s.TextFormat(); }); }},
         {"Special",
          [] {
              return Subject{NewDocument(), std::make_shared<Special>(), [] {}, ""};
