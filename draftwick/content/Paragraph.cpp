@@ -7,6 +7,8 @@
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/structure/Bookmark.h>
+#include <draftwick/structure/Footnote.h>
 
 namespace draftwick {
 
@@ -30,6 +32,12 @@ void Paragraph::SetStyleName(std::string_view name) {
     format_.CopyFrom(style.StoredFormat());
     style_ = index;
 }
+
+std::shared_ptr<Bookmark> Paragraph::AddBookmark(std::string_view name, bool isStart) {
+    return Add(currentBookmark_, name, isStart);
+}
+
+std::shared_ptr<Footnote> Paragraph::AddFootnote(bool isEndnote) { return Add(currentFootnote_, isEndnote); }
 
 std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw) {
     return Add(currentTextItem_, text, raw);
@@ -74,6 +82,8 @@ const Class& Paragraph::Describe() {
         "{3F3895CF-38AE-4BB8-A68D-6E8A0CAC9FD3}",
         "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
+            PropertyOf<&P::CurrentBookmark>("CurrentBookmark"),
+            PropertyOf<&P::CurrentFootnote>("CurrentFootnote"),
             PropertyOf<&P::CurrentShape>("CurrentShape"),
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
             PropertyOf<&P::Emitted>("Emitted"),
@@ -86,6 +96,8 @@ const Class& Paragraph::Describe() {
             PropertyOf<&P::StyleName, &P::SetStyleName>("StyleName"),
         },
         {
+            MethodOf<&P::AddBookmark>("AddBookmark", {{"Name"}, {"IsStart", Variant{true}}}),
+            MethodOf<&P::AddFootnote>("AddFootnote", {{"IsEndnote", Variant{false}}}),
             MethodOf<&P::AddShape>("AddShape", {{"Kind"}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};

@@ -13,6 +13,8 @@
 
 namespace draftwick {
 
+class Bookmark;
+class Footnote;
 class Shape;
 class TextItem;
 
@@ -39,13 +41,18 @@ public:
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
 
+    /// Adds the start, or the end, of a bookmark at this place of the text.
+    std::shared_ptr<Bookmark> AddBookmark(std::string_view name, bool isStart = true);
+    /// Adds a footnote, or an endnote, to this place of the text.
+    std::shared_ptr<Footnote> AddFootnote(bool isEndnote = false);
     /// Adds a shape that is anchored in the paragraph. dwErrShapesCantContainShapes in the text box of a shape; in the
     /// cells and notes of a text box there can be shapes.
     std::shared_ptr<Shape> AddShape(dwShapeKind kind);
 
-    /// The shape that was added last; empty before the first.
+    /// The children that were added last, by kind; empty before the first.
+    std::shared_ptr<Bookmark> CurrentBookmark() const { return currentBookmark_; }
+    std::shared_ptr<Footnote> CurrentFootnote() const { return currentFootnote_; }
     std::shared_ptr<Shape> CurrentShape() const { return currentShape_; }
-    /// The run that was added last; empty before the first.
     std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
 
     static const Class& Describe();
@@ -66,6 +73,8 @@ private:
     Lazy<draftwick::Background> background_;
     Lazy<ParagraphBorders> borders_;
     Lazy<draftwick::TabStops> tabStops_;
+    std::shared_ptr<Bookmark> currentBookmark_;
+    std::shared_ptr<Footnote> currentFootnote_;
     std::shared_ptr<Shape> currentShape_;
     std::shared_ptr<TextItem> currentTextItem_;
 };

@@ -86,14 +86,26 @@ Subject OfCell(const std::function<ObjectPointer(Cell&)>& make) {
 const std::map<std::string, std::function<Subject()>>& Makers() {
     static const std::map<std::string, std::function<Subject()>> makers{
         {"Background", [] { return OfParagraph([](Paragraph& p) { return p.Background(); }); }},
+        {"Bookmark",
+         [] {
+             auto document = NewDocument();
+             auto paragraph = document->AddSection()->AddParagraph();
+             auto bookmark = paragraph->AddBookmark("");
+             return Subject{
+                 document, bookmark, [paragraph] { paragraph->AddTextItem("x"); }, "Bookmark", {paragraph}};
+         }},
         {"Cell", [] { return OfCell([](Cell& c) { return c.Self(); }); }},
         {"CellBorder", [] { return OfCell([](Cell& c) { return c.Borders()->Items(dwCBorderTop); }); }},
         {"CellBorders", [] { return OfCell([](Cell& c) { return c.Borders(); }); }},
+        {"Column", [] { return OfSection([](Section& s) { return s.Columns()->Add(0, 0); }); }},
+        {"Columns", [] { return OfSection([](Section& s) { return s.Columns(); }); }},
         {"Document",
          [] { return OfDocument([](Document& d) { return std::static_pointer_cast<Document>(d.Self()); }); }},
         {"Font", [] { return OfDocument([](Document& d) { return d.Fonts()->Add("A"); }); }},
         {"FontFormat", [] { return OfText([](TextItem& t) { return t.FontFormat(); }); }},
         {"Fonts", [] { return OfDocument([](Document& d) { return d.Fonts(); }); }},
+        {"Footnote", [] { return OfParagraph([](Paragraph& p) { return p.AddFootnote(); }); }},
+        {"Header", [] { return OfSection([](Section& s) { return s.AddHeader(dwHeader); }); }},
         {"List", [] { return OfDocument([](Document& d) { return d.Lists()->Add("A"); }, ""); }},
         {"ListLevel",
          [] { return OfDocument([](Document& d) { return d.Lists()->Add("A")->Levels(1); }, ""); }},
