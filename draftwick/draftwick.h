@@ -12,6 +12,7 @@
 #include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
 #include <draftwick/core/Properties.h>
+#include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>

@@ -220,11 +220,19 @@ template <std::int32_t Factor, std::int32_t Divisor>
 Rule RuleOfField(const Real<Factor, Divisor>& field) {
     return {.kind = Kind::Real, .initial = static_cast<double>(field)};
 }
+inline Rule RuleOfField(const FixedPoint& field) {
+    return {.kind = Kind::Real, .initial = static_cast<double>(field)};
+}
 template <class Plain>
 Rule RuleOfField(const Plain& field) {
     Rule rule = RuleOfValue<Plain>();
     rule.initial = ToVariant(field);
     return rule;
+}
+
+template <class Owner, class Value>
+Rule RuleOfSetter(void (Owner::*)(Value)) {
+    return RuleOfValue<std::decay_t<Value>>();
 }
 
 template <class Values, class Field>
@@ -247,6 +255,12 @@ ClassProperty PropertyOf(std::string_view name) {
     }
     if constexpr (!std::is_null_pointer_v<decltype(Setter)>) property.set = detail::Write<Setter>;
     return property;
+}
+
+/// A row of a class's table: a property that can be set but not read.
+template <auto Setter>
+ClassProperty WriteOnlyPropertyOf(std::string_view name) {
+    return {.name = name, .rule = detail::RuleOfSetter(Setter), .get = nullptr, .set = detail::Write<Setter>};
 }
 
 /// A row of a class's table: a method with the names and defaults of its arguments.

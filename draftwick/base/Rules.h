@@ -110,6 +110,17 @@ private:
     double value_;
 };
 
+/// A real number that is stored as a whole number of 65536ths, ties to even. Error 6 when that does not fit 32 bits.
+class FixedPoint {
+public:
+    constexpr FixedPoint(std::int16_t value) noexcept : parts_(value * 65536) {}
+    constexpr operator double() const noexcept { return parts_ / 65536.0; }
+    void Set(double value) { parts_ = RoundHalfEven(value * 65536); }
+
+private:
+    std::int32_t parts_;
+};
+
 /// Points that are written in twips.
 using Points = Real<20>;
 

@@ -28,6 +28,9 @@ public:
     /// Writes what stands right after a paragraph's \pard: where the paragraph's own frame, if it has one, places
     /// it. A paragraph in a cell goes where its row does.
     virtual void WriteParagraphPlace(const Frame* frame);
+    /// Whether the container is a cell, or a note in a cell: then what stands in its paragraphs must leave the writers
+    /// of paragraphs and rows as it found them.
+    virtual bool StandsInCell() const { return false; }
 
 private:
     std::shared_ptr<Paragraph> currentParagraph_;

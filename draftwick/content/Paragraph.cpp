@@ -3,6 +3,7 @@
 #include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/TextItem.h>
+#include <draftwick/drawing/Shape.h>
 #include <draftwick/format/BackgroundWriter.h>
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
@@ -47,6 +48,20 @@ std::shared_ptr<Field> Paragraph::AddField(std::string_view code, std::string_vi
     return Add(currentField_, code, text);
 }
 
+std::shared_ptr<Shape> Paragraph::AddShape(dwShapeKind kind) {
+    Writing();
+    CheckNotFinished();
+    if (std::dynamic_pointer_cast<Shape>(RequireParent()) != nullptr) {
+        RaiseError(dwErrShapesCantContainShapes);
+    }
+    return Add(currentShape_, kind);
+}
+
+bool Paragraph::StandsInCell() const {
+    const std::shared_ptr<Object> container = Parent();
+    return container != nullptr && static_cast<const Container&>(*container).StandsInCell();
+}
+
 /// \par\pard\phcol...\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
@@ -75,6 +90,7 @@ const Class& Paragraph::Describe() {
             PropertyOf<&P::CurrentBookmark>("CurrentBookmark"),
             PropertyOf<&P::CurrentField>("CurrentField"),
             PropertyOf<&P::CurrentFootnote>("CurrentFootnote"),
+            PropertyOf<&P::CurrentShape>("CurrentShape"),
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
             PropertyOf<&P::Emitted>("Emitted"),
             PropertyOf<&P::Finished>("Finished"),
@@ -91,6 +107,7 @@ const Class& Paragraph::Describe() {
             MethodOf<&P::AddField>("AddField",
                                    {{"Code", Variant{std::string{}}}, {"Text", Variant{std::string{}}}}),
             MethodOf<&P::AddFootnote>("AddFootnote", {{"IsEndnote", Variant{false}}}),
+            MethodOf<&P::AddShape>("AddShape", {{"Kind"}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};
     return description;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <draftwick/content/Container.h>
+#include <draftwick/drawing/ShapeKind.h>
 #include <draftwick/format/Background.h>
 #include <draftwick/format/Border.h>
 #include <draftwick/format/FontFormat.h>
@@ -16,6 +17,7 @@ namespace draftwick {
 class Bookmark;
 class Field;
 class Footnote;
+class Shape;
 class TextItem;
 
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
@@ -49,11 +51,15 @@ public:
     std::shared_ptr<Field> AddField(std::string_view code = {}, std::string_view text = {});
     /// Adds a footnote, or an endnote, to this place of the text.
     std::shared_ptr<Footnote> AddFootnote(bool isEndnote = false);
+    /// Adds a shape that is anchored in the paragraph. dwErrShapesCantContainShapes in the text box of a shape; in the
+    /// cells and notes of a text box there can be shapes.
+    std::shared_ptr<Shape> AddShape(dwShapeKind kind);
 
     /// The children that were added last, by kind; empty before the first.
     std::shared_ptr<Bookmark> CurrentBookmark() const { return currentBookmark_; }
     std::shared_ptr<Field> CurrentField() const { return currentField_; }
     std::shared_ptr<Footnote> CurrentFootnote() const { return currentFootnote_; }
+    std::shared_ptr<Shape> CurrentShape() const { return currentShape_; }
     std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
 
     static const Class& Describe();
@@ -62,6 +68,7 @@ public:
     // The rest is for the library.
 
     const draftwick::FontFormat* OwnFontFormat() const noexcept { return fontFormat_.Find(); }
+    bool StandsInCell() const;
 
 protected:
     void WriteStart() override;
@@ -77,6 +84,7 @@ private:
     std::shared_ptr<Bookmark> currentBookmark_;
     std::shared_ptr<Field> currentField_;
     std::shared_ptr<Footnote> currentFootnote_;
+    std::shared_ptr<Shape> currentShape_;
     std::shared_ptr<TextItem> currentTextItem_;
 };
 

@@ -6,6 +6,7 @@
 #include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
 #include <draftwick/core/Properties.h>
+#include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
@@ -51,6 +52,11 @@ std::span<const Class* const> Classes() {
         &Properties::Describe(),
         &Property::Describe(),
         &Section::Describe(),
+        &Shape::Describe(),
+        &ShapeFill::Describe(),
+        &ShapeLine::Describe(),
+        &ShapeShadow::Describe(),
+        &ShapeTextFormat::Describe(),
         &Special::Describe(),
         &TabStop::Describe(),
         &TabStops::Describe(),

@@ -3,6 +3,7 @@
 #include <draftwick/platform/Environment.h>
 #include <draftwick/platform/EventLog.h>
 #include <draftwick/platform/FileSystem.h>
+#include <draftwick/platform/Pictures.h>
 
 #include <ctime>
 #include <memory>
@@ -15,6 +16,7 @@ namespace draftwick::platform {
 struct Platform {
     std::shared_ptr<FileSystem> files;
     std::shared_ptr<Environment> environment;
+    std::shared_ptr<Pictures> pictures;
 };
 
 /// The system's own services. They hold no state and can be used from any thread.

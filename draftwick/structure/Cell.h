@@ -62,6 +62,7 @@ public:
 
     void WriteParagraphMark() override;
     void WriteParagraphPlace(const Frame* frame) override;
+    bool StandsInCell() const override { return true; }
 
 protected:
     void WriteStart() override;

@@ -16,6 +16,11 @@ void Footnote::WriteStart() {
 
 void Footnote::WriteEnd() { Writing().output.WriteGroupEnd(); }
 
+bool Footnote::StandsInCell() const {
+    const std::shared_ptr<Object> paragraph = Parent();
+    return paragraph != nullptr && static_cast<const Paragraph&>(*paragraph).StandsInCell();
+}
+
 const Class& Footnote::Describe() {
     using F = Footnote;
     static const Class description{"Footnote",

@@ -24,6 +24,7 @@ public:
 
     void WriteParagraphMark() override {}
     void WriteRowMark() override {}
+    bool StandsInCell() const override;
 
 protected:
     void WriteStart() override;

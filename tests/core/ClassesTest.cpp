@@ -65,6 +65,13 @@ Subject OfField(const std::function<ObjectPointer(Field&)>& make) {
         document, make(*field), [paragraph] { paragraph->AddTextItem("y"); }, "Field", {paragraph, field}};
 }
 
+/// A shape or a part of one.
+Subject OfShape(const std::function<ObjectPointer(Shape&)>& make) {
+    auto document = NewDocument();
+    auto shape = document->AddSection()->AddParagraph()->AddShape(dwSKRectangle);
+    return {document, make(*shape), [shape] { shape->AddParagraph(); }, "Shape", {shape}};
+}
+
 Subject OfSection(const std::function<ObjectPointer(Section&)>& make) {
     auto document = NewDocument();
     auto section = document->AddSection();
@@ -127,6 +134,11 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
         {"Properties", [] { return OfDocument([](Document& d) { return d.Properties(); }); }},
         {"Property", [] { return OfDocument([](Document& d) { return d.Properties()->Add("A", 1); }); }},
         {"Section", [] { return OfSection([](Section& s) { return s.Self(); }); }},
+        {"Shape", [] { return OfShape([](Shape& s) { return s.Self(); }); }},
+        {"ShapeFill", [] { return OfShape([](Shape& s) { return s.Fill(); }); }},
+        {"ShapeLine", [] { return OfShape([](Shape& s) { return s.Line(); }); }},
+        {"ShapeShadow", [] { return OfShape([](Shape& s) { return s.Shadow(); }); }},
+        {"ShapeTextFormat", [] { return OfShape([](Shape& s) { return s.TextFormat(); }); }},
         {"Special",
          [] {
              return Subject{NewDocument(), std::make_shared<Special>(), [] {}, ""};

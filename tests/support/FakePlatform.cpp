@@ -121,7 +121,7 @@ platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files) {
 
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
                                     std::shared_ptr<FakeEnvironment> environment) {
-    return {std::move(files), std::move(environment)};
+    return {std::move(files), std::move(environment), platform::SystemPictures()};
 }
 
 }  // namespace draftwick::test

@@ -66,7 +66,7 @@ public:
     std::string TempFolder() override { return tempFolder; }
 };
 
-/// A platform with these files and a FakeEnvironment.
+/// A platform with these files, a FakeEnvironment and the system's pictures service.
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files);
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
                                     std::shared_ptr<FakeEnvironment> environment);

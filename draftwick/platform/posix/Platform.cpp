@@ -32,7 +32,8 @@ std::atomic<EventLog*> replacement{nullptr};
 }  // namespace
 
 Platform SystemPlatform() {
-    static const Platform system{posix::MakeFileSystem(), std::make_shared<PosixEnvironment>()};
+    static const Platform system{posix::MakeFileSystem(), std::make_shared<PosixEnvironment>(),
+                                 SystemPictures()};
     return system;
 }
 
