@@ -57,6 +57,8 @@ std::span<const Class* const> Classes() {
         &ShapeLine::Describe(),
         &ShapeShadow::Describe(),
         &ShapeTextFormat::Describe(),
+        &ShapeThreeD::Describe(),
+        &ShapeWordArt::Describe(),
         &Special::Describe(),
         &TabStop::Describe(),
         &TabStops::Describe(),

@@ -139,6 +139,8 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
         {"ShapeLine", [] { return OfShape([](Shape& s) { return s.Line(); }); }},
         {"ShapeShadow", [] { return OfShape([](Shape& s) { return s.Shadow(); }); }},
         {"ShapeTextFormat", [] { return OfShape([](Shape& s) { return s.TextFormat(); }); }},
+        {"ShapeThreeD", [] { return OfShape([](Shape& s) { return s.ThreeD(); }); }},
+        {"ShapeWordArt", [] { return OfShape([](Shape& s) { return s.WordArt(); }); }},
         {"Special",
          [] {
              return Subject{NewDocument(), std::make_shared<Special>(), [] {}, ""};
