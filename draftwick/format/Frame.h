@@ -107,7 +107,8 @@ public:
     bool Wrap() const { return values_.wrap; }
     void SetWrap(bool on) { Change(values_.wrap, on); }
 
-    /// The lines of the next paragraph that this one reaches down as a drop cap, 1..10; 0 (default) for no drop cap.
+    /// The lines of the next paragraph that this one reaches down as a drop cap, 1..10; 0 (default) for no drop cap. A drop
+    /// cap has dwFRYParagraph as its ReferenceY and a larger font, which is set as for any paragraph.
     std::int32_t DropCapLines() const { return values_.dropCapLines; }
     void SetDropCapLines(std::int32_t lines) { Change(values_.dropCapLines, lines); }
 
