@@ -223,11 +223,11 @@ TEST(ShapeFill, JudgesAShadeArrayWhenItIsSet) {
     };
     std::string last;
     for (const auto& [text, written, refusal] : cases) {
-        EXPECT_EQ(RefusalNumber([&] { fill->SetShadeArray(text); }), refusal) << text;
+        EXPECT_EQ(RefusalNumber([&, &text = text] { fill->SetShadeArray(text); }), refusal) << text;
         if (refusal == 0) last = text;
         EXPECT_EQ(fill->ShadeArray(), last);
         if (*written == '\0') continue;
-        const std::string body = BodyWith([&](Shape& s) {
+        const std::string body = BodyWith([&text = text](Shape& s) {
             s.Fill()->SetStyle(dwSFSSolid);
             s.Fill()->SetShadeArray(text);
         });
