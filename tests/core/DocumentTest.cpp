@@ -273,6 +273,18 @@ TEST_F(Documents, SurviveEveryFailureOfTheFileSystem) {
     }
 }
 
+TEST_F(Documents, KeepNoMoreThanABlockOfTheirBodyInMemory) {
+    auto document = NewDocument();
+    auto section = document->AddSection();
+    constexpr std::size_t Run = 1000;
+    for (std::size_t written = 0; written < 1 << 20; written += Run) {
+        section->AddParagraph()->AddTextItem(std::string(Run, 'a'));
+        const std::size_t onDisk = files->Bytes("/temp/~dw1.tmp").size();
+        ASSERT_LT(written, onDisk + 64 * 1024 + 2 * Run);
+    }
+    document->Finish();
+}
+
 TEST_F(Documents, ThatAreLetGoLeaveNothingThatCrashes) {
     auto document = NewDocument();
     auto section = document->AddSection();

@@ -1,0 +1,475 @@
+#include "tests/drawing/Drawn.h"
+#include "tests/support/Errors.h"
+
+namespace draftwick::test {
+
+namespace {
+
+/// The body of a document with one paragraph that has one shape. The unit is twips.
+std::string BodyWith(const std::function<void(Shape&)>& set, dwShapeKind kind = dwSKRectangle) {
+    Built built;
+    built.document->SetScaleMode(dwTwips);
+    set(*built.document->AddSection()->AddParagraph()->AddShape(kind));
+    return Pairs(built.Body());
+}
+
+struct Case {
+    const char* name;
+    std::function<void(Shape&)> set;
+    Drawn expected;
+};
+
+void ExpectAll(std::initializer_list<Case> cases) {
+    for (const auto& [name, set, expected] : cases) {
+        EXPECT_EQ(BodyWith(set), "\\pard~" + expected.All()) << name;
+    }
+}
+
+/// What stays of a body when a shape's settings are left out, so that its braces and texts can be seen.
+std::string Skeleton(std::string body) {
+    static const std::regex settings(R"(<\w+=[^>]*>|\\shp(lid|left|top|bottom|right|wrk?)-?\d+|\\shpb[xy]\w+)"
+                                     R"(|\\tr(gaph|left|rh)-?\d+|\\trql|\\clvertalt)");
+    body = std::regex_replace(Pairs(body), settings, "");
+    ReplaceAll(body, R"({\*\shpinst{}})", "<>");
+    return body;
+}
+
+}  // namespace
+
+TEST(Shape, WritesAllOfItsFirstHalf) {
+    Built built;
+    built.document->AddSection()->AddParagraph()->AddShape(dwSKRectangle);
+    EXPECT_EQ(
+        built.Body(),
+        R"(\pard~{\shp{\*\shpinst{\shplid1{\sp{\sn ShapeType}{\sv 1}}\shpleft0\shptop0\shpbottom1440\shpright1440)"
+        R"(\shpbxmargin\shpbymargin\shpwr3\shpwrk0{\sp{\sn dxWrapDistLeft}{\sv 0}}{\sp{\sn dxWrapDistRight}{\sv 0}})"
+        R"({\sp{\sn dxWrapDistTop}{\sv 0}}{\sp{\sn dxWrapDistBottom}{\sv 0}}{\sp{\sn lineColor}{\sv 0}})"
+        R"({\sp{\sn lineBackColor}{\sv 0}}{\sp{\sn lineType}{\sv 0}}{\sp{\sn lineWidth}{\sv 12700}})"
+        R"({\sp{\sn lineStyle}{\sv 0}}{\sp{\sn fLine}{\sv 1}}}{\sp{\sn lTxid}{\sv 1}})"
+        R"({\sp{\sn dxTextLeft}{\sv 91440}}{\sp{\sn dxTextRight}{\sv 91440}}{\sp{\sn dxTextTop}{\sv 45720}})"
+        R"({\sp{\sn dxTextBottom}{\sv 45720}}{\sp{\sn txflTextFlow}{\sv 0}}}})");
+}
+
+TEST(Shape, WritesItsPlaceAndGeometry) {
+    const auto placed = [](const std::string& words) { return Drawn{.position = words}; };
+    const Drawn plain;
+    ExpectAll({
+        {"page",
+         [](Shape& s) {
+             s.SetReferenceX(dwSRXPage);
+             s.SetReferenceY(dwSRYPage);
+             s.SetWrap(dwSWTopBottom);
+             s.SetWrapSides(dwSWSLeft);
+             s.SetLeft(-720);
+             s.SetTop(-360.5);  // -360: ties go to the even number
+         },
+         placed(R"(\shpleft-720\shptop-360\shpbottom1080\shpright720\shpbxpage\shpbypage\shpwr1\shpwrk1)")},
+        {"column and paragraph, sums beyond 16 bits",
+         [](Shape& s) {
+             s.SetReferenceX(dwSRXColumn);
+             s.SetReferenceY(dwSRYParagraph);
+             s.SetWrap(dwSWAround);
+             s.SetWrapSides(dwSWSRight);
+             s.SetLockAnchor(true);
+             s.SetLeft(32767);
+             s.SetWidth(32767);
+             s.SetTop(-32768);
+             s.SetHeight(-32768);
+         },
+         placed(
+             R"(\shpleft32767\shptop-32768\shpbottom-65536\shpright65534\shpbxcolumn\shpbypara\shpwr2\shpwrk2)"
+             R"(\shplockanchor)")},
+        {"tightly",
+         [](Shape& s) {
+             s.SetWrap(dwSWTightly);
+             s.SetWrapSides(dwSWSLargest);
+         },
+         placed(R"(\shpleft0\shptop0\shpbottom1440\shpright1440\shpbxmargin\shpbymargin\shpwr4\shpwrk3)")},
+        {"behind the text, distances",
+         [](Shape& s) {
+             s.SetWrap(dwSWThrough);
+             s.SetBehindText(true);
+             s.SetWrapLeft(1);
+             s.SetWrapRight(-2);
+             s.SetWrapTop(32767);
+             s.SetWrapBottom(-32768);
+         },
+         {.position = R"(\shpleft0\shptop0\shpbottom1440\shpright1440\shpfblwtxt1\shpbxmargin\shpbymargin)"
+                      R"(\shpwr5\shpwrk0)",
+          .wrap = "<dxWrapDistLeft=635><dxWrapDistRight=-1270><dxWrapDistTop=20807045>"
+                  "<dxWrapDistBottom=-20807680><fBehindDocument=1>"}},
+        {"turned by 45 degrees",
+         [](Shape& s) { s.SetRotation(45); },
+         {.wrap = "<Rotation=2851020>" + plain.wrap}},
+        {"turned by 90 degrees",
+         [](Shape& s) { s.SetRotation(90); },
+         {.wrap = "<Rotation=5702040>" + plain.wrap}},
+        {"turned by a part that 65536 divides: 63356 / 256",
+         [](Shape& s) { s.SetRotation(1.0 / 256); },
+         {.wrap = "<Rotation=247.484375>" + plain.wrap}},
+        {"turned back", [](Shape& s) { s.SetRotation(-30); }, plain},
+        {"not turned", [](Shape& s) { s.SetRotation(0); }, plain},
+        {"flipped",
+         [](Shape& s) {
+             s.SetFlipV(true);
+             s.SetFlipH(true);
+         },
+         {.head = plain.head + "<FFlipH=1><FFlipV=1>"}},
+        {"adjusted",
+         [](Shape& s) {
+             s.SetAdjustValues(10, 7);
+             s.SetAdjustValues(2, -1);
+             s.SetAdjustValues(1, 5400);
+         },
+         {.wrap = plain.wrap + "<adjustValue=5400><adjust2Value=-1><adjust10Value=7>"}},
+        {"another kind, one without a name",
+         [](Shape& s) { s.SetKind(static_cast<dwShapeKind>(-40)); },
+         {.head = R"({\shp{\*\shpinst{\shplid1<ShapeType=-40>)"}},
+    });
+}
+
+TEST(Shape, KeepsItsAngleInWholeParts) {
+    Built built;
+    auto shape = built.document->AddSection()->AddParagraph()->AddShape(dwSKRectangle);
+    shape->SetRotation(0.1);  // 6553.6 parts of 65536
+    EXPECT_EQ(shape->Rotation(), 6554 / 65536.0);
+    EXPECT_EQ(RefusalNumber([&] { shape->SetRotation(32768); }), dwRunOverflow);
+    shape->SetAdjustValues(10, 7);
+    EXPECT_EQ(shape->AdjustValues(10), 7);
+    const std::string refused = "X101 Property Shape.AdjustValues.Index set to out of range value.";
+    for (const int index : {0, 11, -1}) {
+        EXPECT_EQ(Refusal([&] { shape->AdjustValues(index); }), refused);
+        EXPECT_EQ(Refusal([&] { shape->SetAdjustValues(index, 1); }), refused);
+    }
+}
+
+TEST(ShapeFill, WritesEveryStyle) {
+    const auto to = std::string{"<fillToTop=65536><fillToLeft=65536><fillToRight=0><fillToBottom=0>"};
+    const auto styled = [&](const std::string& types) {
+        return Drawn{.fill = "<fFilled=1>" + types + "<fillColor=0><fillBackColor=0>" + to};
+    };
+    ExpectAll({
+        {"none, whatever else", [](Shape& s) { s.Fill()->SetOpacity(50); }, {}},
+        {"solid", [](Shape& s) { s.Fill()->SetStyle(dwSFSSolid); }, styled("<fillType=0><fillType=0>")},
+        {"pattern", [](Shape& s) { s.Fill()->SetStyle(dwSFSPattern); }, styled("<fillType=1><fillType=1>")},
+        {"tiles", [](Shape& s) { s.Fill()->SetStyle(dwSFSPicTile); }, styled("<fillType=2><fillType=2>")},
+        {"picture", [](Shape& s) { s.Fill()->SetStyle(dwSFSPicStretch); },
+         styled("<fillType=3><fillType=3>")},
+        {"shade: an angle is written for it alone, a focus only if there is one",
+         [](Shape& s) { s.Fill()->SetStyle(dwSFSShade); },
+         {.fill = "<fFilled=1><fillType=7><fillType=4><fillColor=0><fillBackColor=0><fillAngle=0>" + to}},
+        {"rectangle",
+         [](Shape& s) {
+             s.Fill()->SetStyle(dwSFSShadeRect);
+             s.Fill()->SetShadeAngle(45);
+             s.Fill()->SetShadeFocus(true);
+             s.Fill()->SetShadeToTop(50);
+             s.Fill()->SetShadeToLeft(150);
+             s.Fill()->SetShadeToRight(25);
+             s.Fill()->SetShadeToBottom(-25);
+         },
+         {.fill = "<fFilled=1><fillType=6><fillType=5><fillColor=0><fillBackColor=0><fillToTop=32768>"
+                  "<fillToLeft=32768><fillToRight=16384><fillToBottom=-16384>"}},
+        {"shade in colours",
+         [](Shape& s) {
+             s.Fill()->SetStyle(dwSFSShade);
+             s.Fill()->SetColor(255);
+             s.Fill()->SetOpacity(50);
+             s.Fill()->SetBackColor(-1);
+             s.Fill()->SetBackOpacity(0);
+             s.Fill()->SetShadeAngle(-45);
+             s.Fill()->SetShadeFocus(true);
+             s.Fill()->SetShadeArray("255,0,16711680,100");
+         },
+         {.fill = "<fFilled=1><fillType=7><fillType=4><fillColor=255><fillOpacity=32768><fillBackColor=-1>"
+                  "<fillBackOpacity=0><fillAngle=-2949120><fillFocus=50>"
+                  + to + "<fillShadeColors=8;2;(255,0);(16711680,65536)>"}},
+        {"numbers that are not whole: no exponent, however small",
+         [](Shape& s) {
+             s.Fill()->SetStyle(dwSFSShade);
+             s.Fill()->SetOpacity(100 / 1048576.0);
+             s.Fill()->SetShadeAngle(1 / 1099511627776.0);  // 2^-40, so 2^-24 is written
+             s.Fill()->SetShadeToRight(-0.0);
+         },
+         {.fill = "<fFilled=1><fillType=7><fillType=4><fillColor=0><fillOpacity=0.0625><fillBackColor=0>"
+                  "<fillAngle=0.00000005960464477539063>"
+                  + to}},
+    });
+}
+
+TEST(ShapeFill, JudgesAShadeArrayWhenItIsSet) {
+    Built built;
+    auto fill = built.document->AddSection()->AddParagraph()->AddShape(dwSKRectangle)->Fill();
+    fill->SetStyle(dwSFSSolid);
+    struct {
+        const char* text;
+        const char* written;  // empty: refused
+        int refusal = 0;
+    } const cases[]{
+        {"", ""},
+        {"1,2,3", "", dwRunInvalidCall},
+        {"1", "", dwRunInvalidCall},
+        {" ", "", dwRunInvalidCall},
+        {"1,", "", dwRunInvalidCall},
+        {",", "", dwRunInvalidCall},
+        {"1,2,", "", dwRunInvalidCall},
+        {"1.5,2", "", dwRunInvalidCall},
+        {"+1,2", "", dwRunInvalidCall},
+        {"1 2,3", "", dwRunInvalidCall},
+        {"2147483648,0", "", dwRunInvalidCall},
+        {"1,3276800", "", dwRunOverflow},  // 2^31 as a fraction of 65536
+        {"-2147483648 , 3276799", "8;1;(-2147483648,2147482992)"},
+        {"\t007,-0 ,0,33,0,-1", "8;3;(7,0);(0,21626);(0,-656)"},  // 21626.88 and -655.36, rounded down
+    };
+    std::string last;
+    for (const auto& [text, written, refusal] : cases) {
+        EXPECT_EQ(RefusalNumber([&, &text = text] { fill->SetShadeArray(text); }), refusal) << text;
+        if (refusal == 0) last = text;
+        EXPECT_EQ(fill->ShadeArray(), last);
+        if (*written == '\0') continue;
+        const std::string body = BodyWith([&text = text](Shape& s) {
+            s.Fill()->SetStyle(dwSFSSolid);
+            s.Fill()->SetShadeArray(text);
+        });
+        EXPECT_NE(body.find("<fillShadeColors=" + std::string{written} + ">"), body.npos) << body;
+    }
+}
+
+TEST(ShapeLine, WritesEveryBranch) {
+    ExpectAll({
+        {"none: not even that there is none",
+         [](Shape& s) {
+             s.Line()->SetStyle(dwSLSNone);
+             s.Line()->SetDash(dwSLDDot);
+         },
+         {.line = ""}},
+        {"all of it",
+         [](Shape& s) {
+             auto line = s.Line();
+             line->SetStyle(dwSLSThinThickThin);
+             line->SetTexture(dwSLTPicture);
+             line->SetDash(dwSLDLongDashDotDot);
+             line->SetColor(255);
+             line->SetBackColor(0xFFFFFF);
+             line->SetWidth(2.125);  // 42.5 twips: 42
+             line->SetStartArrow(dwSLAOpen);
+             line->SetStartArrowWidth(dwSLAWNarrow);
+             line->SetStartArrowLength(dwSLALLong);
+             line->SetEndArrow(static_cast<dwShapeLineArrow>(8));  // readers may know two more
+         },
+         {.line = "<lineColor=255><lineBackColor=16777215><lineType=2><lineWidth=26670><lineStyle=4>"
+                  "<lineDashing=10><lineStartArrowhead=5><lineStartArrowWidth=0><lineStartArrowLength=2>"
+                  "<lineEndArrowhead=7><lineEndArrowWidth=1><lineEndArrowLength=1><fLine=1>"}},
+        {"an arrow without a head has no width",
+         [](Shape& s) {
+             s.Line()->SetStyle(dwSLSDouble);
+             s.Line()->SetTexture(dwSLTPattern);
+             s.Line()->SetDash(dwSLDDashWin);
+             s.Line()->SetEndArrowWidth(dwSLAWWide);
+             s.Line()->SetWidth(169093.2);  // the widest of 32 bits
+         },
+         {.line = "<lineColor=0><lineBackColor=0><lineType=1><lineWidth=2147483640><lineStyle=1>"
+                  "<lineDashing=1><fLine=1>"}},
+    });
+    BodyWith([](Shape& s) {
+        EXPECT_EQ(RefusalNumber([&] { s.Line()->SetWidth(169093.25); }), dwRunOverflow);
+        EXPECT_EQ(s.Line()->Width(), 1);
+    });
+}
+
+TEST(ShapeShadow, WritesEveryBranch) {
+    const auto unknown = [](int style) {
+        return [style](Shape& s) { s.Shadow()->SetStyle(static_cast<dwShapeShadowStyle>(style)); };
+    };
+    const std::string rest = "<shadowColor=0><shadowOffsetX=28575><shadowoffsetY=28575>";
+    ExpectAll({
+        {"none, whatever else", [](Shape& s) { s.Shadow()->SetColor(1); }, {}},
+        {"single",
+         [](Shape& s) { s.Shadow()->SetStyle(dwSSSSingle); },
+         {.shadow = "<fShadow=1><shadowType=0>" + rest}},
+        {"double",
+         [](Shape& s) {
+             s.Shadow()->SetStyle(dwSSSDouble);
+             s.Shadow()->SetColor(255);
+             s.Shadow()->SetColor2(256);
+             s.Shadow()->SetOpacity(25);
+             s.Shadow()->SetOffsetX(10);
+             s.Shadow()->SetOffsetY(-10);
+             s.Shadow()->SetOffsetY2(0);
+         },
+         {.shadow = "<fShadow=1><shadowType=1><shadowColor=255><shadowOpacity=16384><shadowOffsetX=6350>"
+                    "<shadowoffsetY=-6350><shadowHighlight=256><shadowSecondOffsetX=-28575>"
+                    "<shadowSecondOffsetY=0>"}},
+        {"unknown", unknown(4), {.shadow = "<fShadow=1><shadowType=>" + rest}},
+        {"unknown below", unknown(0), {.shadow = "<fShadow=1><shadowType=>" + rest}},
+    });
+}
+
+TEST(ShapeTextFormat, WritesMarginsAndDirection) {
+    const auto flowing = [](int flow) {
+        return [flow](Shape& s) { s.TextFormat()->SetFlow(static_cast<dwShapeTextFlow>(flow)); };
+    };
+    ExpectAll({
+        {"margins",
+         [](Shape& s) {
+             s.SetNextIndex(-7);
+             s.TextFormat()->SetSpacingTop(1);
+             s.TextFormat()->SetSpacingBottom(2);
+             s.TextFormat()->SetSpacingLeft(-3);
+             s.TextFormat()->SetSpacingRight(4);
+         },
+         {.text = "<dxTextLeft=-1905><dxTextRight=2540><dxTextTop=635><dxTextBottom=1270>",
+          .flow = "<txflTextFlow=0><hspNext=-7>}"}},
+        {"downwards", flowing(2), {.flow = "<txflTextFlow=2>}"}},
+        {"upwards", flowing(3), {.flow = "<txflTextFlow=2>}"}},
+        {"unknown", flowing(4), {.flow = "<txflTextFlow=>}"}},
+    });
+}
+
+TEST(Shape, WritesTheSameWhereverTheUnitIs) {
+    for (const auto& [scale, inch] : {std::pair{dwInches, 1.0}, {dwTwips, 1440.0}, {dwPoints, 72.0}}) {
+        Built built;
+        built.document->SetScaleMode(scale);
+        auto shape = built.document->AddSection()->AddParagraph()->AddShape(dwSKRectangle);
+        shape->SetLeft(inch / 3);
+        shape->SetTop(inch / 7);  // 205.71 twips
+        shape->SetWrapLeft(inch);
+        const Drawn expected{.position = R"(\shpleft480\shptop206\shpbottom1646\shpright1920)"
+                                         R"(\shpbxmargin\shpbymargin\shpwr3\shpwrk0)",
+                             .wrap = "<dxWrapDistLeft=914400><dxWrapDistRight=0><dxWrapDistTop=0>"
+                                     "<dxWrapDistBottom=0>"};
+        EXPECT_EQ(Pairs(built.Body()), "\\pard~" + expected.All());
+    }
+}
+
+TEST(Shape, IsNumberedThroughTheDocument) {
+    Built built;
+    auto paragraph = built.document->AddSection()->AddParagraph();
+    EXPECT_EQ(paragraph->AddShape(dwSKLine)->Index(), 1);
+    auto box = paragraph->AddShape(dwSKTextBox);
+    auto inside = box->AddParagraph();
+    EXPECT_EQ(Refusal([&] { inside->AddShape(dwSKSun); }), "X104 Shapes cannot contain shapes.");
+    EXPECT_EQ(box->AddTable()->AddCell()->AddParagraph()->AddShape(dwSKSun)->Index(), 3);
+    auto second = built.document->AddSection();
+    EXPECT_EQ(Refusal([&] { paragraph->AddShape(dwSKSun); }),
+              "X109 Invalid operation.  Target already emitted Paragraph.");
+    EXPECT_EQ(Refusal([&] { box->SetKind(dwSKSun); }),
+              "X109 Invalid operation.  Target already emitted Shape.");
+    EXPECT_EQ(Refusal([&] { box->AddTable(); }), "X109 Invalid operation.  Target already emitted Shape.");
+    EXPECT_EQ(second->AddParagraph()->AddShape(dwSKLine)->Index(), 4);
+    EXPECT_NE(built.Body().find("\\shplid4{\\sp{\\sn ShapeType}{\\sv 20}}"), std::string::npos);
+}
+
+TEST(TextBox, HoldsParagraphsAndRows) {
+    struct {
+        const char* name;
+        std::function<void(Shape&)> fill;
+        const char* expected;
+    } const cases[]{
+        {"empty: the mark of the next paragraph is swallowed", [](Shape&) {}, R"({\shp<>}\pard~{z})"},
+        {"a paragraph", [](Shape& s) { AddText(s, "a"); }, R"({\shp<>{\shptxt\pard~{a}}}\par\pard~{z})"},
+        {"two paragraphs",
+         [](Shape& s) {
+             AddText(s, "a");
+             AddText(s, "b");
+         },
+         R"({\shp<>{\shptxt\pard~{a}\par\pard~{b}}}\par\pard~{z})"},
+        {"a row last: its mark stands behind the text",
+         [](Shape& s) {
+             AddText(s, "a");
+             s.AddTable()->AddCell();
+         },
+         R"({\shp<>{\shptxt\pard~{a}\par\trowd\cellx1440\intbl\cell\intbl\row\pard}\par}\pard~{z})"},
+        {"a row first",
+         [](Shape& s) {
+             s.AddTable();
+             AddText(s, "a");
+         },
+         R"({\shp<>{\shptxt\trowd\intbl\row\pard\pard~{a}}}\par\pard~{z})"},
+        {"a note with a row and a shape, whose text is another one",
+         [](Shape& s) {
+             auto note = s.AddParagraph()->AddFootnote();
+             note->AddTable();
+             AddText(*note->AddParagraph()->AddShape(dwSKTextBox), "a");
+             AddText(s, "b");
+         },
+         R"({\shp<>{\shptxt\pard~{\footnote\trowd\intbl\row\pard\pard~{\shp<>{\shptxt\pard~{a}}}})"
+         R"(\par\pard~{b}}}\par\pard~{z})"},
+    };
+    for (const auto& [name, fill, expected] : cases) {
+        const std::string body = BodyOf([&fill = fill](Section& section) {
+            auto shape = section.AddParagraph()->AddShape(dwSKTextBox);
+            fill(*shape);
+            AddText(section, "z");
+            EXPECT_EQ(Refusal([&] { shape->AddParagraph(); }),
+                      "X109 Invalid operation.  Target already emitted Shape.");
+        });
+        EXPECT_EQ(Skeleton(body), "\\pard~" + std::string{expected}) << name;
+    }
+}
+
+// Whatever a shape in a cell holds, the rows and paragraphs around it come out as without it.
+TEST(Shape, LeavesTheRowAroundItAlone) {
+    struct {
+        const char* name;
+        std::function<void(Paragraph&)> add;
+        const char* drawn;
+    } const cases[]{
+        {"nothing", [](Paragraph&) {}, ""},
+        {"empty", [](Paragraph& p) { p.AddShape(dwSKSun); }, R"({\shp<>})"},
+        {"with text", [](Paragraph& p) { AddText(*p.AddShape(dwSKTextBox), "a"); },
+         R"({\shp<>{\shptxt\pard~{a}}})"},
+        {"with a row that holds such a shape",
+         [](Paragraph& p) {
+             auto row = p.AddShape(dwSKTextBox)->AddTable();
+             row->AddCell()->AddParagraph()->AddShape(dwSKSun);
+             AddText(*row->AddCell(), "a");
+         },
+         R"({\shp<>{\shptxt\trowd\cellx1440\intbl\pard\intbl~{\shp<>}\cell\cellx2880\intbl\pard\intbl~{a})"
+         R"(\cell\intbl\row\pard}\par})"},
+        {"in a note", [](Paragraph& p) { p.AddFootnote()->AddParagraph()->AddShape(dwSKSun); },
+         R"({\footnote\pard~{\shp<>}})"},
+    };
+    for (const auto& [name, add, drawn] : cases) {
+        const std::string body = BodyOf([&add = add](Section& section) {
+            auto box = section.AddParagraph()->AddShape(dwSKTextBox);
+            AddText(*box, "x");
+            auto row = box->AddTable();
+            auto cell = row->AddCell();
+            add(*cell->AddParagraph());
+            AddText(*cell, "y");
+            row->AddCell();
+            AddText(*box, "z");
+        });
+        EXPECT_EQ(Skeleton(body),
+                  R"(\pard~{\shp<>{\shptxt\pard~{x}\par\trowd\cellx1440\intbl\pard\intbl~)"
+                      + std::string{drawn}
+                      + R"(\intbl\par\pard\intbl~{y}\cell\cellx2880\intbl\cell\intbl\row\pard)"
+                        R"(\pard~{z}}})")
+            << name;
+    }
+}
+
+TEST(Shape, EndsASectionAfterItsRow) {
+    EXPECT_EQ(
+        Skeleton(BodyOf([](Section& section) { section.AddParagraph()->AddShape(dwSKTextBox)->AddTable(); })),
+        R"(\pard~{\shp<>{\shptxt\trowd\intbl\row\pard}\par}\par)");
+}
+
+TEST(ShapeSettings, RefuseWhatCannotBeWritten) {
+    BodyWith([](Shape& s) {
+        const std::function<void(double)> setters[]{
+            [&](double v) { s.Fill()->SetShadeToTop(v); },
+            [&](double v) { s.Fill()->SetOpacity(v); },
+            [&](double v) { s.Shadow()->SetOpacity(v); },
+            [&](double v) { s.Fill()->SetShadeToLeft(v); },
+        };
+        for (const auto& set : setters) {
+            for (const double value : {3276800.0, -3276801.0}) {
+                EXPECT_EQ(RefusalNumber([&] { set(value); }), dwRunOverflow) << value;
+            }
+        }
+    });
+}
+
+}  // namespace draftwick::test
