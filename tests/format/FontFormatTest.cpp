@@ -76,25 +76,26 @@ TEST(FontFormat, RoundsHalfPointsDown) {
 }
 
 TEST(FontFormat, HasAWordForEveryUnderlineAndAnimation) {
-    const std::string underlines[] = {"ulnone", "ul",      "uld",      "uldb",  "ulw",
-                                      "ulth",   "uldashd", "uldashdd", "ulwave"};
-    for (std::int32_t i = 1; i <= 9; ++i) {
-        Values format, reference;
-        format.underline.Set(static_cast<dwUnderlineStyle>(i));
-        reference.underline.Set(i == 9 ? dwUnderlineNone : dwUnderlineWave);
-        const std::string word = "\\" + underlines[i - 1];
-        EXPECT_EQ(Changes(format, reference), word);
-        EXPECT_EQ(Full(format), "\\fs24" + (i == 1 ? "" : word) + "\\cf0");
-    }
-    const int effects[] = {0, 2, 1, 4, 5, 6, 3};
-    for (std::int32_t i = 1; i <= 7; ++i) {
-        Values format, reference;
-        format.animation.Set(static_cast<dwTextAnimation>(i));
-        reference.animation.Set(i == 7 ? dwTxAnimNone : dwTxAnimSparkle);
-        const std::string word = "\\animtext" + std::to_string(effects[i - 1]);
-        EXPECT_EQ(Changes(format, reference), word);
-        EXPECT_EQ(Full(format), "\\fs24\\cf0" + (i == 1 ? "" : word));
-    }
+    ExpectWords<dwUnderlineStyle>(
+        {"\\ulnone", "\\ul", "\\uld", "\\uldb", "\\ulw", "\\ulth", "\\uldashd", "\\uldashdd", "\\ulwave"},
+        [](dwUnderlineStyle style) {
+            Values format, other;
+            format.underline.Set(style);
+            other.underline = static_cast<dwUnderlineStyle>(0);
+            const std::string word = Changes(format, other);
+            EXPECT_EQ(Full(format), "\\fs24" + (style == 1 ? "" : word) + "\\cf0");
+            return word;
+        });
+    ExpectWords<dwTextAnimation>({"\\animtext0", "\\animtext2", "\\animtext1", "\\animtext4", "\\animtext5",
+                                  "\\animtext6", "\\animtext3"},
+                                 [](dwTextAnimation effect) {
+                                     Values format, other;
+                                     format.animation.Set(effect);
+                                     other.animation = static_cast<dwTextAnimation>(0);
+                                     const std::string word = Changes(format, other);
+                                     EXPECT_EQ(Full(format), "\\fs24\\cf0" + (effect == 1 ? "" : word));
+                                     return word;
+                                 });
 }
 
 TEST(FontFormat, DiffersFromTheBlankReferenceInWhatHasAValue) {
@@ -164,24 +165,19 @@ TEST(FontFormat, KnowsOnlyFontsOfTheDocument) {
     paragraph->AddTextItem("other")->FontFormat()->SetFontName("Éclair");
     EXPECT_EQ(Refusal([&] { none->SetFontName("Arial"); }),
               "X109 Invalid operation.  Target already emitted TextItem.");
-    EXPECT_EQ(document.FinishBody(),
-              "\\pard\\plain\\f0\\fs24\\cf0\\sb0\\sa0\\sl240\\slmult1{\\b1 none}{\\f1 other}");
+    EXPECT_EQ(document.FinishBody(), "\\pard\\plain\\f0\\fs24\\cf0" + Spacing + "{\\b1 none}{\\f1 other}");
 }
 
-TEST(FontTable, IsWrittenInTheOrderOfAddition) {
-    TestDocument document;
-    const std::string families[] = {"fnil", "froman", "fswiss", "fmodern", "fscript", "fdecor", "ftech"};
-    std::string expected = "{\\rtf1\\deff6{\\fonttbl";
-    for (std::int32_t i = 0; i < 7; ++i) {
-        const std::string name = "F" + std::to_string(i);
-        document->Fonts()->Add(name)->SetFamily(static_cast<dwFontFamily>(i + 1));
-        expected += "{\\f" + std::to_string(i) + "\\" + families[i] + " " + name + ";}";
-    }
-    document->SetDefaultFontName("f6");
-    EXPECT_EQ(document.FinishHeader(), expected + "}");
-}
-
-TEST(FontTable, HasNamesAsTheyAre) {
+TEST(FontTable, IsWrittenInTheOrderOfAdditionWithNamesAsTheyAre) {
+    ExpectWords<dwFontFamily>({"{\\rtf1{\\fonttbl{\\f0\\fnil F;}}", "{\\rtf1{\\fonttbl{\\f0\\froman F;}}",
+                               "{\\rtf1{\\fonttbl{\\f0\\fswiss F;}}", "{\\rtf1{\\fonttbl{\\f0\\fmodern F;}}",
+                               "{\\rtf1{\\fonttbl{\\f0\\fscript F;}}", "{\\rtf1{\\fonttbl{\\f0\\fdecor F;}}",
+                               "{\\rtf1{\\fonttbl{\\f0\\ftech F;}}"},
+                              [](dwFontFamily family) {
+                                  TestDocument document;
+                                  document->Fonts()->Add("F")->SetFamily(family);
+                                  return document.FinishHeader();
+                              });
     TestDocument document;
     document->Fonts()->Add("Times New Roman")->SetFamily(dwRoman);
     const auto sans = document->Fonts()->Add("Arial");
@@ -189,9 +185,10 @@ TEST(FontTable, HasNamesAsTheyAre) {
     sans->SetAltName("Helvetica");
     document->Fonts()->Add("Ä\\{\\}")->SetAltName("x");
     document->Fonts()->Items(3)->SetAltName("");
-    EXPECT_TRUE(
-        document.Finish().starts_with("{\\rtf1{\\fonttbl{\\f0\\froman Times New Roman;}"
-                                      "{\\f1\\fswiss{\\*\\falt Helvetica}Arial;}{\\f2\\fnil \xC4\\{\\};}}"));
+    document->SetDefaultFontName("ARIAL");
+    EXPECT_TRUE(document.Finish().starts_with(
+        "{\\rtf1\\deff1{\\fonttbl{\\f0\\froman Times New Roman;}"
+        "{\\f1\\fswiss{\\*\\falt Helvetica}Arial;}{\\f2\\fnil \xC4\\{\\};}}\r\n"));
 }
 
 }  // namespace draftwick::test

@@ -36,7 +36,7 @@ TEST(Run, WritesWhatDiffersFromItsStyleItsParagraphOrTheDefault) {
         if (c.own) item->FontFormat()->SetItalic(true);
         if (c.style) item->SetStyleName("t");
         const std::string start = c.ofParagraph ? "\\pard\\plain\\b\\fs28\\cf0" : "\\pard\\plain\\fs24\\cf0";
-        EXPECT_EQ(document.FinishBody(), start + "\\sb0\\sa0\\sl240\\slmult1" + c.words);
+        EXPECT_EQ(document.FinishBody(), start + Spacing + c.words);
     }
 }
 
@@ -49,8 +49,7 @@ TEST(Run, IsChangedByTheFirstReadOfAFormatUnderATextStyle) {
     const auto read = paragraph->AddTextItem("read");
     read->SetStyleName("T");
     EXPECT_FALSE(read->FontFormat()->Bold());
-    EXPECT_EQ(document.FinishBody(),
-              "\\pard\\plain\\fs24\\cf0\\sb0\\sa0\\sl240\\slmult1{\\cs0 unread}{\\cs0\\ulnone read}");
+    EXPECT_EQ(document.FinishBody(), "\\pard" + Plain + Spacing + "{\\cs0 unread}{\\cs0\\ulnone read}");
 }
 
 TEST(Run, StartsFromTheFormatOfTheParagraphAtThatMoment) {
@@ -66,8 +65,10 @@ TEST(Run, StartsFromTheFormatOfTheParagraphAtThatMoment) {
     const auto late = styled->AddTextItem("late");
     EXPECT_EQ(late->FontFormat()->Size(), 30);
     late->FontFormat()->SetSize(12);
-    EXPECT_EQ(document.FinishBody(), "\\pard\\plain\\fs24\\cf0\\sb0\\sa0\\sl240\\slmult1{\\i1 early}"
-                                     "\\par\\pard\\plain\\fs60\\cf0\\sb0\\sa0\\sl240\\slmult1{\\fs24 late}");
+    EXPECT_EQ(document.FinishBody(),
+              "\\pard" + Plain + Spacing
+                  + "{\\i1 early}"
+                    "\\par\\pard\\plain\\fs60\\cf0\\sb0\\sa0\\sl240\\slmult1{\\fs24 late}");
 }
 
 TEST(Run, WritesStyleFormatBackgroundAndBorderInThisOrder) {
@@ -80,9 +81,10 @@ TEST(Run, WritesStyleFormatBackgroundAndBorderInThisOrder) {
     item->FontFormat()->SetBold(true);
     item->SetStyleName("T");
     EXPECT_EQ(document.FinishBody(),
-              "\\pard\\plain\\fs24\\cf0\\sb0\\sa0\\sl240\\slmult1"
-              "{\\cs0\\b1\\chbgcross\\chcbpat1\\chfpat0\\chbrdr\\brdrwavy\\brdrw20\\brdrref2 "
-              "a\\{b\\}}");
+              "\\pard" + Plain + Spacing
+                  + ""
+                    "{\\cs0\\b1\\chbgcross\\chcbpat1\\chfpat0\\chbrdr\\brdrwavy\\brdrw20\\brdrref2 "
+                    "a\\{b\\}}");
 }
 
 TEST(Run, NamesAStyleThatMustExistWhenItIsWritten) {
@@ -97,7 +99,7 @@ TEST(Run, NamesAStyleThatMustExistWhenItIsWritten) {
     EXPECT_FALSE(item->Emitted());
     item->SetStyleName("T");
     paragraph->AddTextItem("y");
-    EXPECT_EQ(document.FinishBody(), "\\pard\\plain\\fs24\\cf0\\sb0\\sa0\\sl240\\slmult1{\\cs0 x}{y}");
+    EXPECT_EQ(document.FinishBody(), "\\pard" + Plain + Spacing + "{\\cs0 x}{y}");
 }
 
 TEST(TextBorder, IsWrittenUnlessItsStyleIsNone) {

@@ -16,6 +16,10 @@
 
 namespace draftwick::test {
 
+/// The words of the characters and of the layout of a paragraph in which nothing is set.
+inline const std::string Plain = "\\plain\\fs24\\cf0";
+inline const std::string Spacing = "\\sb0\\sa0\\sl240\\slmult1";
+
 /// A document whose files stay in memory.
 class TestDocument {
 public:
@@ -63,6 +67,15 @@ inline std::string WordsOf(const std::function<void(WritingContext&)>& write) {
     context.output.FlushLine();
     stream.Close();
     return Words(files->Bytes("words"));
+}
+
+/// Checks what is written for each value of an enumeration, from 1 on.
+template <class Enumeration>
+void ExpectWords(const std::vector<std::string>& words,
+                 const std::function<std::string(Enumeration)>& write) {
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        EXPECT_EQ(write(static_cast<Enumeration>(i + 1)), words[i]) << "value " << i + 1;
+    }
 }
 
 }  // namespace draftwick::test
