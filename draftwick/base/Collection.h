@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace draftwick {
@@ -82,7 +83,8 @@ public:
 protected:
     bool Contains(std::string_view name) const { return positions_.contains(FoldCase(name)); }
 
-    /// An empty name is dwErrZeroLengthName with the collection's name, one that is taken error 457.
+    /// An empty name is dwErrZeroLengthName with the collection's name, one that is taken error 457. The item's
+    /// parent is the collection's: a font belongs to the document.
     std::shared_ptr<Item> AddItem(std::string_view name, std::string_view collection) {
         if (name.empty()) RaiseError(dwErrZeroLengthName, {std::string{collection}});
         std::string spelling = ToValidUtf8(name);
@@ -120,7 +122,7 @@ private:
     std::unordered_map<std::string, std::size_t> positions_;
 };
 
-/// Items have the document as their parent: a font belongs to the document, not to its collection.
+/// The row of Items, by position or by name, in the class table of a named collection.
 template <class Collection>
 ClassMethod ItemsMethod() {
     return MethodOf<&Collection::ItemOf>("Items", {{"Index"}});

@@ -29,10 +29,12 @@ public:
 
     /// The name of a paragraph style; empty (default) for none. Setting it looks the style up (dwErrItemNotFound),
     /// takes its spelling and copies everything that the style has into the paragraph, over what was set before;
-    /// what is set afterwards counts. An empty name copies nothing.
+    /// only borders on sides that the style does not have stay. What is set afterwards counts. An empty name copies
+    /// nothing.
     std::string StyleName() const;
     void SetStyleName(std::string_view name);
 
+    /// Alignment, indents, spacing, page breaks, outline level and list.
     std::shared_ptr<ParagraphFormat> Format() { return Share(format_); }
     /// The look of the paragraph's runs unless they say otherwise. Reading it once makes it the paragraph's own.
     std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_.Get(*this)); }

@@ -1,5 +1,5 @@
+#include "tests/support/Documents.h"
 #include "tests/support/Errors.h"
-#include "tests/support/Written.h"
 
 namespace draftwick::test {
 
