@@ -85,19 +85,19 @@ public:
     bool CharFormat() const { return values_.charFormat; }
     void SetCharFormat(bool on) { Change(values_.charFormat, on); }
 
-    /// The result is out of date: readers are asked to update it. Default false.
+    /// The look of the result was changed since the field was last updated (RTF \flddirty). Default false.
     bool Dirty() const { return values_.dirty; }
     void SetDirty(bool on) { Change(values_.dirty, on); }
 
-    /// The result was changed by hand. Default false.
+    /// The text of the result was changed since the field was last updated (RTF \fldedit). Default false.
     bool Edited() const { return values_.edited; }
     void SetEdited(bool on) { Change(values_.edited, on); }
 
-    /// The result is not to be updated. Default false.
+    /// The result stays as it is: readers do not update the field (RTF \fldlock). Default false.
     bool Locked() const { return values_.locked; }
     void SetLocked(bool on) { Change(values_.locked, on); }
 
-    /// The field is not to be shown at all. Default false.
+    /// The result is not fit to be shown: it is data for the field (RTF \fldpriv). Default false.
     bool Private() const { return values_.isPrivate; }
     void SetPrivate(bool on) { Change(values_.isPrivate, on); }
 
