@@ -1,0 +1,242 @@
+// A styled report: fonts, paragraph and text styles based on each other, headings with outline levels, quotes,
+// shaded boxes, borders and tab leaders.
+//
+// usage: report OUTPUT.rtf
+#include <draftwick/draftwick.h>
+
+#include <exception>
+#include <iostream>
+
+using namespace draftwick;
+
+namespace {
+
+// Colours are 32-bit integers with red in the lowest byte.
+constexpr std::int32_t Rgb(int red, int green, int blue) { return red + green * 0x100 + blue * 0x10000; }
+constexpr std::int32_t Pine = Rgb(20, 83, 72);
+constexpr std::int32_t Sand = Rgb(243, 237, 222);
+constexpr std::int32_t Reed = Rgb(228, 219, 196);
+constexpr std::int32_t Gray = Rgb(95, 95, 95);
+
+// A font must be known to the document before its name can be used. Family and alternate name help readers that do
+// not have it.
+void AddFonts(Document& document) {
+    auto serif = document.Fonts()->Add("Georgia");
+    serif->SetFamily(dwRoman);
+    serif->SetAltName("Liberation Serif");
+    auto sans = document.Fonts()->Add("Verdana");
+    sans->SetFamily(dwSwiss);
+    sans->SetAltName("DejaVu Sans");
+    // Everything that is made from here on starts with this font.
+    document.SetDefaultFontName("Georgia");
+}
+
+// SetBasedOn copies the other style as it is at that moment; what is set afterwards counts. A style can add to its
+// base, but readers that follow the base themselves keep what it has: what not all styles share is not in it.
+void AddParagraphStyles(Document& document) {
+    auto styles = document.ParagraphStyles();
+
+    auto normal = styles->Add("Normal");
+    normal->FontFormat()->SetSize(11);
+    normal->Format()->SetSpaceAfter(7);              // points
+    normal->Format()->SetLineSpacingMultiple(1.15);  // lines
+
+    auto body = styles->Add("Body");
+    body->SetBasedOn("Normal");
+    body->Format()->SetAlign(dwAlignJustify);
+
+    auto quote = styles->Add("Quote");
+    quote->SetBasedOn("Body");
+    quote->FontFormat()->SetItalic(true);
+    quote->FontFormat()->SetColor(Gray);
+    quote->Format()->SetIndentLeft(0.5);  // inches: the document's unit of length
+    quote->Format()->SetIndentRight(0.5);
+    auto bar = quote->Borders()->Items(dwPBorderLeft);
+    bar->SetStyle(dwBSSingle);
+    bar->SetWidth(2.25);
+    bar->SetSpacing(8);
+    bar->SetColor(Pine);
+
+    auto heading = styles->Add("Heading 2");
+    heading->SetBasedOn("Normal");
+    heading->SetNextStyle("Body");  // what an editor gives to the paragraph after it
+    heading->FontFormat()->SetFontName("Verdana");
+    heading->FontFormat()->SetSize(11.5);
+    heading->FontFormat()->SetBold(true);
+    heading->FontFormat()->SetColor(Pine);
+    heading->Format()->SetSpaceBefore(10);
+    heading->Format()->SetKeepWithNext(true);
+    heading->Format()->SetOutlineLevel(2);
+
+    auto chapter = styles->Add("Heading 1");
+    chapter->SetBasedOn("Heading 2");
+    chapter->FontFormat()->SetSize(15);
+    chapter->Format()->SetSpaceBefore(16);
+    chapter->Format()->SetOutlineLevel(1);
+    auto line = chapter->Borders()->Items(dwPBorderBottom);
+    line->SetStyle(dwBSSingle);
+    line->SetWidth(0.75);
+    line->SetSpacing(3);
+    line->SetColor(Pine);
+
+    auto title = styles->Add("Title");
+    title->SetBasedOn("Heading 1");
+    title->FontFormat()->SetSize(26);
+    title->FontFormat()->SetSmallCaps(true);
+    title->Format()->SetAlign(dwAlignCenter);
+    title->Format()->SetSpaceBefore(0);
+    title->Borders()->Items(dwPBorderBottom)->SetStyle(dwBSThinThickMediumGap);
+    title->Borders()->Items(dwPBorderBottom)->SetWidth(3);
+
+    // A box has a border on all four sides; consecutive paragraphs with the same borders share it. Behind a pattern
+    // lies a colour; readers that draw no patterns show that alone.
+    auto box = styles->Add("Box");
+    box->SetBasedOn("Normal");
+    box->Format()->SetIndentLeft(0.1);
+    box->Format()->SetIndentRight(0.1);
+    box->Format()->SetKeepIntact(true);
+    box->Background()->SetTexture(dwTextureDiagonalUp);
+    box->Background()->SetColor(Reed);
+    box->Background()->SetBackColor(Sand);
+    for (auto side : {dwPBorderTop, dwPBorderLeft, dwPBorderRight, dwPBorderBottom}) {
+        box->Borders()->Items(side)->SetStyle(dwBSSingle);
+        box->Borders()->Items(side)->SetSpacing(5);
+    }
+
+    // Dots up to a number at the right margin: the text area is 6.5 inches wide.
+    auto figure = styles->Add("Figure");
+    figure->SetBasedOn("Normal");
+    figure->Format()->SetSpaceAfter(1);
+    figure->TabStops()->Add(6.5, dwTabRight, dwTabLeaderDots);
+
+    // Hours stand with their decimal points below each other; a remark follows, and a line to write on.
+    auto hours = styles->Add("Hours");
+    hours->SetBasedOn("Figure");
+    hours->TabStops()->Clear();
+    hours->TabStops()->Add(2, dwTabDecimal, dwTabLeaderNone);
+    hours->TabStops()->Add(2.75, dwTabLeft, dwTabLeaderNone);
+    hours->TabStops()->Add(6.5, dwTabRight, dwTabLeaderUnderline);
+}
+
+// Text styles are for runs within a paragraph. They start from the default font, not from the paragraph's: give
+// them the size of the text they are meant for.
+void AddTextStyles(Document& document) {
+    auto marked = document.TextStyles()->Add("Marked");
+    marked->FontFormat()->SetSize(11);
+    marked->Background()->SetTexture(dwTextureSolid);
+    marked->Background()->SetBackColor(Rgb(255, 236, 150));  // behind text, solid is the back colour
+
+    auto number = document.TextStyles()->Add("Call number");
+    number->SetBasedOn("Marked");
+    number->Background()->SetBackColor(Sand);
+    number->Border()->SetStyle(dwBSSingle);
+    number->Border()->SetWidth(0.5);
+}
+
+std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, const char* text) {
+    auto paragraph = section.AddParagraph();
+    paragraph->SetStyleName(style);
+    paragraph->AddTextItem(text);
+    return paragraph;
+}
+
+void WriteYear(Section& section) {
+    AddParagraph(section, "Title", "The library’s year");
+    auto summary =
+        AddParagraph(section, "Body",
+                     "The town library was open on 287 days. It lent more than in any year since the "
+                     "move to the old granary, and for the first time the children’s room lent more "
+                     "than the reading room. The most borrowed book was ");
+    summary->AddTextItem("A Field Guide to Hedges")->FontFormat()->SetItalic(true);
+    summary->AddTextItem(", shelved under ");
+    summary->AddTextItem(" 582.17 HED ")->SetStyleName("Call number");
+    summary->AddTextItem("; it was never in for ");
+    summary->AddTextItem("longer than a day")->SetStyleName("Marked");
+    summary->AddTextItem(".");
+
+    AddParagraph(section, "Heading 1", "What was lent");
+    AddParagraph(section, "Figure", "Books for adults\t41,860");
+    AddParagraph(section, "Figure", "Books for children\t44,215");
+    AddParagraph(section, "Figure", "Maps, music and games\t9,730");
+    auto total = section.AddParagraph();
+    total->SetStyleName("Figure");
+    total->AddTextItem("Altogether\t95,805")->FontFormat()->SetBold(true);
+
+    AddParagraph(section, "Heading 2", "The night of the long shelf");
+    AddParagraph(
+        section, "Body",
+        "In March, sixty readers formed a line from the granary to the mill and passed four thousand "
+        "volumes from hand to hand, because the lift had failed on the day before the inspection.");
+    AddParagraph(section, "Quote",
+                 "I had Dickens on my left and the fire brigade on my right, and not one book touched the "
+                 "floor.");
+}
+
+void WriteHouse(Section& section) {
+    AddParagraph(section, "Heading 1", "The house");
+    AddParagraph(section, "Heading 2", "Opening hours");
+    AddParagraph(section, "Hours", "Monday\t7.5\tquiet in the morning\t");
+    AddParagraph(section, "Hours", "Wednesday\t10.25\tstories at four\t");
+    AddParagraph(section, "Hours", "Saturday\t5\tchess in the cellar\t");
+
+    AddParagraph(section, "Heading 2", "Repairs");
+    // A paragraph can go its own way after it has taken its style, until it gets its first text.
+    auto repairs = section.AddParagraph();
+    repairs->SetStyleName("Body");
+    repairs->Format()->SetIndentFirst(0.25);
+    repairs->FontFormat()->SetSize(10);
+    repairs->AddTextItem("The roof was tight, the heating was not. Of the two boilers ");
+    auto one = repairs->AddTextItem("one");
+    one->FontFormat()->SetUnderline(dwUnderlineWave);
+    repairs->AddTextItem(" was replaced in May; water use fell from 410 to 268 m³ a year. The ");
+    auto old = repairs->AddTextItem("sliding");
+    old->FontFormat()->SetStrikethrough(true);
+    repairs->AddTextItem(" revolving door still sticks.");
+
+    auto box = section.AddParagraph();
+    box->SetStyleName("Box");
+    box->AddTextItem("For the year to come")->FontFormat()->SetBold(true);
+    AddParagraph(section, "Box",
+                 "A second evening each week, a lift that lifts, and a bench under the lime tree: we ask the "
+                 "council for 18,400 altogether.");
+
+    auto imprint = section.AddParagraph();
+    imprint->SetStyleName("Body");
+    imprint->Format()->SetAlign(dwAlignCenter);
+    imprint->Format()->SetSpaceBefore(10);
+    imprint->FontFormat()->SetColor(Pine);
+    imprint->AddTextItem("Printed for the readers’ meeting on 12 January");
+}
+
+void WriteReport(const char* filename) {
+    auto document = Document::Create();
+    document->SetFilename(filename);
+    document->SetMarginTop(0.9);  // inches, unless ScaleMode says otherwise
+    document->SetMarginLeft(1);
+    document->SetMarginRight(1);
+    AddFonts(*document);
+    AddParagraphStyles(*document);
+    AddTextStyles(*document);
+
+    // The first section writes the document's settings: fonts and styles must be there before.
+    auto section = document->AddSection();
+    WriteYear(*section);
+    WriteHouse(*section);
+    document->Finish();
+    std::cout << "written: " << document->ActualFileName() << '\n';
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: report OUTPUT.rtf\n";
+        return 2;
+    }
+    try {
+        WriteReport(argv[1]);
+    } catch (const std::exception& error) {
+        std::cerr << "report: " << error.what() << '\n';
+        return 1;
+    }
+}
