@@ -1,11 +1,13 @@
-// A styled report: fonts, paragraph and text styles based on each other, headings with outline levels, quotes,
-// shaded boxes, borders and tab leaders.
+// A styled report: fonts, paragraph and text styles based on each other, headings with outline levels, a table of
+// contents, references to headings, page numbers, document properties, a page border, quotes, shaded boxes, borders
+// and tab leaders.
 //
 // usage: report OUTPUT.rtf
 #include <draftwick/draftwick.h>
 
 #include <exception>
 #include <iostream>
+#include <string>
 
 using namespace draftwick;
 
@@ -17,6 +19,28 @@ constexpr std::int32_t Pine = Rgb(20, 83, 72);
 constexpr std::int32_t Sand = Rgb(243, 237, 222);
 constexpr std::int32_t Reed = Rgb(228, 219, 196);
 constexpr std::int32_t Gray = Rgb(95, 95, 95);
+
+// The headings, each with a bookmark around it that references name, and its page: chapters begin on new pages.
+struct Heading {
+    const char* style;
+    const char* text;
+    const char* bookmark;
+    int page;
+};
+constexpr Heading Lent{"Heading 1", "What was lent", "lent", 2};
+constexpr Heading Shelf{"Heading 2", "The night of the long shelf", "shelf", 2};
+constexpr Heading House{"Heading 1", "The house", "house", 3};
+constexpr Heading Hours{"Heading 2", "Opening hours", "hours", 3};
+constexpr Heading Repairs{"Heading 2", "Repairs", "repairs", 3};
+
+// What readers show as information about the file, in catalogues and in searches.
+void AddProperties(Document& document) {
+    auto properties = document.Properties();
+    properties->Items(dwBIPTitle)->SetValue("The library’s year");
+    properties->Items(dwBIPAuthor)->SetValue("The town library");
+    properties->Items(dwBIPKeywords)->SetValue("library, lending, annual report");
+    properties->Add("Volumes lent", 95805);
+}
 
 // A font must be known to the document before its name can be used. Family and alternate name help readers that do
 // not have it.
@@ -109,6 +133,12 @@ void AddParagraphStyles(Document& document) {
     figure->Format()->SetSpaceAfter(1);
     figure->TabStops()->Add(6.5, dwTabRight, dwTabLeaderDots);
 
+    auto footer = styles->Add("Footer");
+    footer->SetBasedOn("Figure");
+    footer->FontFormat()->SetSize(9);
+    footer->TabStops()->Clear();
+    footer->TabStops()->Add(6.5, dwTabRight, dwTabLeaderNone);
+
     // Hours stand with their decimal points below each other; a remark follows, and a line to write on.
     auto hours = styles->Add("Hours");
     hours->SetBasedOn("Figure");
@@ -140,7 +170,62 @@ std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, con
     return paragraph;
 }
 
-void WriteYear(Section& section) {
+void AddHeading(Section& section, const Heading& heading) {
+    auto paragraph = section.AddParagraph();
+    paragraph->SetStyleName(heading.style);
+    paragraph->Format()->SetPageBreakBefore(paragraph->Format()->OutlineLevel() == 1);
+    paragraph->AddBookmark(heading.bookmark);
+    paragraph->AddTextItem(heading.text);
+    paragraph->AddBookmark(heading.bookmark, false);
+}
+
+// A field is an instruction and the text that is shown until a reader carries it out; a reader that knows how builds
+// the table of contents anew from the headings' outline levels.
+void AddContents(Section& section) {
+    std::string text;
+    for (const Heading& heading : {Lent, Shelf, House, Hours, Repairs}) {
+        if (!text.empty()) text += "\r\n ";
+        text += heading.text + ("\t" + std::to_string(heading.page));
+    }
+    auto contents = section.AddParagraph();
+    contents->SetStyleName("Figure");
+    contents->Format()->SetSpaceBefore(16);
+    contents->AddField("TOC \\o \"1-2\" \\h", text);
+}
+
+// "The house" on page 3
+void AddReference(Paragraph& paragraph, const Heading& heading) {
+    const std::string bookmark = heading.bookmark;
+    paragraph.AddTextItem("“");
+    paragraph.AddField("REF " + bookmark + " \\h", heading.text);
+    paragraph.AddTextItem("” on page ");
+    paragraph.AddField("PAGEREF " + bookmark + " \\h", std::to_string(heading.page));
+}
+
+void AddFooter(Section& section) {
+    auto footer = section.AddHeader(dwFooter)->AddParagraph();
+    footer->SetStyleName("Footer");
+    footer->AddField("TITLE", "The library’s year");
+    footer->AddTextItem(", printed on ");
+    footer->AddField("DATE", "12 January 2027")->SetDatePicture("d MMMM yyyy");
+    footer->AddTextItem("\tPage ");
+    footer->AddField("PAGE", "1");
+    footer->AddTextItem(" of ");
+    footer->AddField("NUMPAGES", "3");
+}
+
+// A line around the pages of a section, a third of an inch from the edge of the paper.
+void SetPageBorder(PageBorders& borders) {
+    borders.SetOffset(dwPBOPage);
+    for (const auto& side : borders) {
+        side->SetStyle(dwBSThinThickSmallGap);
+        side->SetWidth(3);     // points
+        side->SetSpacing(24);  // points
+        side->SetColor(Pine);
+    }
+}
+
+void WriteCover(Section& section) {
     AddParagraph(section, "Title", "The library’s year");
     auto summary =
         AddParagraph(section, "Body",
@@ -152,9 +237,14 @@ void WriteYear(Section& section) {
     summary->AddTextItem(" 582.17 HED ")->SetStyleName("Call number");
     summary->AddTextItem("; it was never in for ");
     summary->AddTextItem("longer than a day")->SetStyleName("Marked");
+    summary->AddTextItem(". What became of the boilers stands in ");
+    AddReference(*summary, Repairs);
     summary->AddTextItem(".");
+    AddContents(section);
+}
 
-    AddParagraph(section, "Heading 1", "What was lent");
+void WriteYear(Section& section) {
+    AddHeading(section, Lent);
     AddParagraph(section, "Figure", "Books for adults\t41,860");
     AddParagraph(section, "Figure", "Books for children\t44,215");
     AddParagraph(section, "Figure", "Maps, music and games\t9,730");
@@ -162,7 +252,7 @@ void WriteYear(Section& section) {
     total->SetStyleName("Figure");
     total->AddTextItem("Altogether\t95,805")->FontFormat()->SetBold(true);
 
-    AddParagraph(section, "Heading 2", "The night of the long shelf");
+    AddHeading(section, Shelf);
     AddParagraph(
         section, "Body",
         "In March, sixty readers formed a line from the granary to the mill and passed four thousand "
@@ -173,13 +263,13 @@ void WriteYear(Section& section) {
 }
 
 void WriteHouse(Section& section) {
-    AddParagraph(section, "Heading 1", "The house");
-    AddParagraph(section, "Heading 2", "Opening hours");
+    AddHeading(section, House);
+    AddHeading(section, Hours);
     AddParagraph(section, "Hours", "Monday\t7.5\tquiet in the morning\t");
     AddParagraph(section, "Hours", "Wednesday\t10.25\tstories at four\t");
     AddParagraph(section, "Hours", "Saturday\t5\tchess in the cellar\t");
 
-    AddParagraph(section, "Heading 2", "Repairs");
+    AddHeading(section, Repairs);
     // A paragraph can go its own way after it has taken its style, until it gets its first text.
     auto repairs = section.AddParagraph();
     repairs->SetStyleName("Body");
@@ -214,12 +304,19 @@ void WriteReport(const char* filename) {
     document->SetMarginTop(0.9);  // inches, unless ScaleMode says otherwise
     document->SetMarginLeft(1);
     document->SetMarginRight(1);
+    AddProperties(*document);
     AddFonts(*document);
     AddParagraphStyles(*document);
     AddTextStyles(*document);
 
-    // The first section writes the document's settings: fonts and styles must be there before.
+    // The first section writes the document's settings: fonts, styles and properties must be there before.
+    auto cover = document->AddSection();
+    SetPageBorder(*cover->PageBorders());
+    AddFooter(*cover);
+    WriteCover(*cover);
+
     auto section = document->AddSection();
+    AddFooter(*section);
     WriteYear(*section);
     WriteHouse(*section);
     document->Finish();
