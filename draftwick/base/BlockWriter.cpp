@@ -30,6 +30,7 @@ void BlockWriter::AppendLarge(const char* bytes, std::size_t size) {
     if (used_ == 0 && size >= capacity_) {
         // A text longer than a block goes straight to the file.
         const std::size_t done = file_->Write(bytes, size, failure_);
+        written_ += done;
         bytes += done;
         size -= done;
     }
@@ -45,7 +46,9 @@ void BlockWriter::AppendLarge(const char* bytes, std::size_t size) {
     used_ += size;
 }
 
-void BlockWriter::AppendFile(platform::File& source, const std::string& sourceName) {
+void BlockWriter::AppendFile(platform::File& source, const std::string& sourceName,
+                             std::uint64_t expectedSize) {
+    std::uint64_t total = 0;
     for (;;) {
         if (used_ == capacity_) {
             Flush();
@@ -54,8 +57,12 @@ void BlockWriter::AppendFile(platform::File& source, const std::string& sourceNa
         std::error_code error;
         const std::size_t size = source.Read(block_.get() + used_, capacity_ - used_, error);
         if (error) RaiseFileError(error, "read", sourceName);
-        if (size == 0) return;
+        if (size == 0) break;
         used_ += size;
+        total += size;
+    }
+    if (total != expectedSize) {
+        RaiseFileError(std::make_error_code(std::errc::io_error), "read all of", sourceName);
     }
 }
 
@@ -64,6 +71,7 @@ void BlockWriter::Flush() noexcept {
     const std::size_t done = file_->Write(block_.get(), used_, error);
     std::memmove(block_.get(), block_.get() + done, used_ - done);
     used_ -= done;
+    written_ += done;
     if (error) failure_ = error;
 }
 

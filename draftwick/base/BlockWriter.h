@@ -3,6 +3,7 @@
 #include <draftwick/platform/FileSystem.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -22,6 +23,8 @@ public:
     BlockWriter(std::unique_ptr<platform::File> file, std::string name);
 
     const std::string& Name() const noexcept { return name_; }
+    /// How many bytes the file has taken.
+    std::uint64_t Written() const noexcept { return written_; }
 
     void Append(const char* bytes, std::size_t size) {
         if (size > capacity_ - used_) {
@@ -32,8 +35,9 @@ public:
         used_ += size;
     }
 
-    /// Appends all that can be read from another file, through this one's block. Failures are reported at once.
-    void AppendFile(platform::File& source, const std::string& sourceName);
+    /// Appends all that can be read from another file, through this one's block. Failures are reported at once, and
+    /// so is a file of another size.
+    void AppendFile(platform::File& source, const std::string& sourceName, std::uint64_t expectedSize);
 
     /// Reports the failure of a write since the last Checkpoint, or one that still goes on.
     void Checkpoint();
@@ -50,6 +54,7 @@ private:
     std::unique_ptr<char[]> block_;
     std::size_t capacity_;
     std::size_t used_ = 0;
+    std::uint64_t written_ = 0;
     std::error_code failure_;
 };
 

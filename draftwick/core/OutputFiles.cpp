@@ -79,7 +79,7 @@ void OutputFiles::AssembleOutputFile(WritingContext& context) {
                 WriteHeader(context);
             }
             result->Checkpoint();
-            result->AppendFile(*body, bodyFileName_);
+            result->AppendFile(*body, bodyFileName_, body_->Written());
             result->Close();
         } catch (...) {
             // Half a document under the final name would look like a whole one.

@@ -1,0 +1,101 @@
+// A business letter, built through the object model.
+//
+// usage: letter OUTPUT.rtf
+#include <draftwick/draftwick.h>
+
+#include <exception>
+#include <iostream>
+
+using namespace draftwick;
+
+namespace {
+
+// The look of the letter, said once: paragraphs refer to these styles by name.
+void AddStyles(Document& document) {
+    document.Fonts()->Add("Georgia")->SetFamily(dwRoman);
+    document.SetDefaultFontName("Georgia");
+
+    auto body = document.ParagraphStyles()->Add("Letter");
+    body->FontFormat()->SetSize(11);
+    body->Format()->SetSpaceAfter(8);
+    body->Format()->SetLineSpacingMultiple(1.15);
+
+    auto address = document.ParagraphStyles()->Add("Address");
+    address->SetBasedOn("Letter");
+    address->Format()->SetSpaceAfter(0);
+
+    auto subject = document.ParagraphStyles()->Add("Subject");
+    subject->SetBasedOn("Letter");
+    subject->FontFormat()->SetBold(true);
+    subject->Format()->SetSpaceBefore(18);
+
+    document.TextStyles()->Add("Title")->FontFormat()->SetItalic(true);
+}
+
+std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, const char* text) {
+    auto paragraph = section.AddParagraph();
+    paragraph->SetStyleName(style);
+    paragraph->AddTextItem(text);
+    return paragraph;
+}
+
+void WriteLetter(const char* filename) {
+    auto document = Document::Create();
+    document->SetFilename(filename);
+    document->SetScaleMode(dwInches);
+    document->SetMarginLeft(1.1);
+    document->SetMarginRight(1.1);
+    document->SetMarginTop(1);
+    AddStyles(*document);
+
+    auto section = document->AddSection();
+    auto sender = AddParagraph(*section, "Address", "Fenwick & Daughters, bookbinders");
+    sender->AddTextItem("\r\n 12 Mill Lane\r\n Ashford");
+
+    // What differs from the style is set on the paragraph, before it gets its text.
+    auto date = section->AddParagraph();
+    date->SetStyleName("Letter");
+    date->Format()->SetAlign(dwAlignRight);
+    date->AddTextItem("3 March");
+
+    AddParagraph(*section, "Address", "Mrs. Zoë Müller");
+    AddParagraph(*section, "Address", "Municipal Library, Castle Street 4");
+    AddParagraph(*section, "Subject", "Repair of nine volumes — our offer");
+    AddParagraph(*section, "Letter", "Dear Mrs. Müller,");
+
+    auto offer = AddParagraph(*section, "Letter", "thank you for letting us see the nine volumes of the ");
+    offer->AddTextItem("Ashford Chronicle")->SetStyleName("Title");
+    offer->AddTextItem(". Three of them need new spines, the others only their corners mended. We offer the "
+                       "whole work for €1,240 and need “about six weeks”, as you asked.");
+
+    auto closing = AddParagraph(*section, "Letter",
+                                "We would fetch the books ourselves: they should not travel "
+                                "in the post in ");
+    auto stress = closing->AddTextItem("their");
+    stress->FontFormat()->SetUnderline(dwUnderlineSingle);
+    closing->AddTextItem(" condition.");
+
+    AddParagraph(*section, "Letter", "Yours sincerely,");
+    auto name = section->AddParagraph();
+    name->SetStyleName("Letter");
+    name->Format()->SetSpaceBefore(24);
+    name->AddTextItem("Ada Fenwick");
+
+    document->Finish();
+    std::cout << "written: " << document->ActualFileName() << '\n';
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: letter OUTPUT.rtf\n";
+        return 2;
+    }
+    try {
+        WriteLetter(argv[1]);
+    } catch (const std::exception& error) {
+        std::cerr << "letter: " << error.what() << '\n';
+        return 1;
+    }
+}

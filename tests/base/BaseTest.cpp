@@ -1,0 +1,191 @@
+#include "tests/support/Errors.h"
+
+#include <draftwick/base/CodePage.h>
+#include <draftwick/base/Error.h>
+#include <draftwick/base/Text.h>
+#include <draftwick/base/Units.h>
+#include <draftwick/platform/Platform.h>
+
+#include <gtest/gtest.h>
+
+#include <cfenv>
+#include <clocale>
+#include <cmath>
+#include <limits>
+
+namespace draftwick::test {
+
+TEST(Units, RoundHalvesToEvenWhateverTheRoundingMode) {
+    const struct {
+        double value;
+        dwScaleMode scale;
+        std::int32_t twips;
+    } cases[] = {
+        {1.0, dwInches, 1440},
+        {0.0007, dwInches, 1},
+        {0.125, dwPoints, 2},
+        {0.175, dwPoints, 4},
+        {-0.125, dwPoints, -2},
+        {2.5, dwTwips, 2},
+        {3.5, dwTwips, 4},
+        {-2.5, dwTwips, -2},
+        {-3.5, dwTwips, -4},
+        {0.5, dwTwips, 0},
+        {1e6, dwTwips, 1000000},
+        {5, static_cast<dwScaleMode>(0), 0},
+        {5, static_cast<dwScaleMode>(4), 0},
+    };
+    for (const int mode : {FE_TONEAREST, FE_UPWARD, FE_TOWARDZERO}) {
+        std::fesetround(mode);
+        for (const auto& c : cases) {
+            // Multiplication itself is rounded by the mode.
+            if (mode == FE_TONEAREST || c.scale == dwTwips) {
+                EXPECT_EQ(ToTwips(c.value, c.scale), c.twips) << c.value;
+            }
+        }
+    }
+    std::fesetround(FE_TONEAREST);
+    for (const double wrong :
+         {std::nan(""), std::numeric_limits<double>::infinity(), 2147483647.5, -2147483649.0}) {
+        EXPECT_EQ(RefusalNumber([&] { ToTwips(wrong, dwTwips); }), dwRunOverflow) << wrong;
+    }
+}
+
+TEST(Units, GoThereAndBack) {
+    for (const dwScaleMode scale : {dwInches, dwTwips, dwPoints}) {
+        for (std::int32_t twips = -32768; twips <= 32767; ++twips) {
+            ASSERT_EQ(ToTwips(FromTwips(twips, scale), scale), twips);
+        }
+    }
+    EXPECT_EQ(FromTwips(1440, static_cast<dwScaleMode>(9)), 0);
+}
+
+TEST(Units, ConvertPictureSizes) {
+    EXPECT_EQ(TwipsToHimetric(1440), 2540);
+    EXPECT_EQ(TwipsToHimetric(72), 127);
+    EXPECT_EQ(InchesToHimetric(0.00098425), 2);  // 2.4999...
+    EXPECT_EQ(HimetricToPixels(2540), 96);
+    EXPECT_EQ(HimetricToPixels(2539), 95);
+    EXPECT_EQ(HimetricToPixels(-1), -1);
+    EXPECT_EQ(HimetricToPixels(2540, 20), 72);
+}
+
+TEST(Ranges, TakeTheirBoundsInAnyOrder) {
+    EXPECT_EQ(Refusal([] { CheckRange(2, 3, 1, "X"); }), "accepted");
+    EXPECT_EQ(Refusal([] { CheckRange(0, 1, 3, "ScaleMode"); }),
+              "X101 Property ScaleMode set to out of range value.");
+}
+
+TEST(Errors, SayWhatTheTableSays) {
+    const struct {
+        std::function<void()> raise;
+        std::string expected;
+        std::string source;
+    } cases[] = {
+        {[] { RaiseError(dwErrTargetEmitted, {std::string{"Section"}}); },
+         "X109 Invalid operation.  Target already emitted Section.", "Draftwick"},
+        {[] { RaiseError(dwErrShapesCantContainShapes); }, "X104 Shapes cannot contain shapes.", "Draftwick"},
+        {[] { RaiseError(dwErrItemNotFound, {std::string{"%1"}}); }, "X112 Item not found '%1'.",
+         "Draftwick"},
+        {[] { RaiseError(dwErrItemNotFound, {7}); }, "X112 Item not found '%1'.", "Draftwick"},
+        {[] { RaiseError(429); }, "429 There is no message for this error", "Draftwick"},
+        {[] {
+             RaiseError(-2147210989, {std::string{"%1 of %2"}, std::string{"one"}, std::string{"two"}});
+         },
+         "X10002 one of two", "Draftwick"},
+        {[] { RaiseError(-2147210989, {3}); }, "X10002 There is no message for this error",
+         "Draftwick Except"},
+        {[] { RaiseRuntimeError(dwRunOverflow, "why"); }, "6 Overflow: why", ""},
+    };
+    for (const auto& [raise, expected, source] : cases) {
+        EXPECT_EQ(Refusal(raise), expected);
+        try {
+            raise();
+        } catch (const Error& error) {
+            EXPECT_EQ(error.Source(), source);
+            EXPECT_EQ(error.HelpFile(), source.empty() ? "" : "Draftwick.chm");
+        }
+    }
+    EXPECT_EQ(ErrorNumberText(-2147220991), "-2147220991");
+    EXPECT_EQ(ErrorNumberText(-2147220990), "X1");
+    EXPECT_EQ(ErrorNumberText(-2147155457), "X65534");
+    EXPECT_EQ(ErrorNumberText(-2147155456), "-2147155456");
+}
+
+TEST(Errors, AreLoggedWhenLoggingIsOn) {
+    struct Recorder final : platform::EventLog {
+        std::string text;
+        void Report(std::string_view entry) noexcept override { text = entry; }
+    } log;
+    platform::SetEventLog(&log);
+    RefusalNumber([] { RaiseError(dwErrNoViewer); });
+    EXPECT_EQ(log.text, "");
+    SetErrorLogging(true);
+    RefusalNumber([] { RaiseError(dwErrNoViewer); });
+    SetErrorLogging(false);
+    platform::SetEventLog(nullptr);
+    ASSERT_GT(log.text.size(), 19U);
+    EXPECT_EQ(log.text.substr(19),
+              "\r\nProduct: Draftwick\r\nVersion: 1.0.29\r\nNumber: X106\r\nSource: Draftwick\r\n"
+              "No viewer program could be found.");
+}
+
+TEST(Text, IsEscapedInTheOrderOfTheRules) {
+    const struct {
+        std::string text;
+        std::string escaped;
+    } cases[] = {
+        {"a\\b", "a\\\\b"},
+        {"{x}", "\\{x\\}"},
+        {"\tx\r\n y", "\\tab x\\line y"},
+        {"x\r\ny", "x\\liney"},
+        {"x\r\n", "x\\line"},
+        {"\r\n\r\n  ", "\\line\\line  "},
+        {"\r\n\t", "\\line\\tab "},
+        {"\r \n\r", "\r \n\r"},
+        {"\r\r\n\n", "\r\\line\n"},
+        {std::string("a\0\x01z", 4), std::string("a\0\x01z", 4)},
+        {"\xC3\xA9\xE2\x82\xAC", "\xC3\xA9\xE2\x82\xAC"},
+        {"\xC3{\xFF", "\xEF\xBF\xBD\\{\xEF\xBF\xBD"},
+    };
+    for (const auto& [text, escaped] : cases) EXPECT_EQ(EscapeText(text), escaped);
+}
+
+TEST(Text, HasByteEscapesWithoutLeadingZeros) {
+    EXPECT_EQ(ASCIIChar(233), "\\'E9");
+    EXPECT_EQ(ASCIIChar(9), "\\'9");
+    EXPECT_EQ(ASCIIChar(0), "\\'0");
+    EXPECT_EQ(RefusalNumber([] { ASCIIChar(256); }), dwRunOverflow);
+    EXPECT_EQ(RefusalNumber([] { ASCIIChar(-1); }), dwRunOverflow);
+}
+
+TEST(Text, HasNumbersWithoutExponentOrLocale) {
+    const char* before = std::setlocale(LC_ALL, nullptr);
+    std::setlocale(LC_ALL, "de_DE.UTF-8");
+    const struct {
+        double value;
+        std::string text;
+    } cases[] = {{2851020, "2851020"},
+                 {-0.0, "0"},
+                 {0.1, "0.1"},
+                 {-1.5, "-1.5"},
+                 {1e21, "1" + std::string(21, '0')},
+                 {1e-7, "0.0000001"},
+                 {32767.99609375, "32767.99609375"}};
+    for (const auto& [value, text] : cases) EXPECT_EQ(NumberText(value), text);
+    EXPECT_EQ(NumberText(std::numeric_limits<double>::denorm_min()).substr(0, 4), "0.00");
+    std::setlocale(LC_ALL, before);
+}
+
+TEST(CodePage, IsWindows1252WithItsHolesAndNoBestFit) {
+    const struct {
+        char32_t character;
+        unsigned char byte;
+    } cases[] = {{U'A', 'A'},    {0x7F, 0x7F},  {0x80, '?'},  {0x81, 0x81},  {0x8D, 0x8D},  {0x8F, 0x8F},
+                 {0x90, 0x90},   {0x9D, 0x9D},  {0x92, '?'},  {0xA0, 0xA0},  {0xFF, 0xFF},  {0x20AC, 0x80},
+                 {0x2019, 0x92}, {0x178, 0x9F}, {0x100, '?'}, {0xFF21, '?'}, {0xFFFD, '?'}, {0x1F600, '?'}};
+    for (const auto& [character, byte] : cases)
+        EXPECT_EQ(ToAnsi(character), static_cast<char>(byte)) << static_cast<std::uint32_t>(character);
+}
+
+}  // namespace draftwick::test

@@ -1,0 +1,366 @@
+#include <draftwick/platform/Pictures.h>
+#include <draftwick/platform/Platform.h>
+
+#include "tests/support/FakePlatform.h"
+#include "tests/support/PictureFiles.h"
+
+#include <array>
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace draftwick::test {
+
+namespace {
+
+using namespace platform;
+using namespace std::string_literals;
+
+// The bottom row and the left edge tell the orders of rows and bits apart.
+const Indices sample{5, 3, {0, 1, 2, 3, 4, /**/ 5, 5, 5, 6, 7, /**/ 7, 6, 5, 0, 0}};
+
+std::unique_ptr<const Picture> LoadBytes(const std::string& bytes, PictureKind kind, std::error_code& error,
+                                         int twipsPerPixel = 15) {
+    const auto files = std::make_shared<MemoryFiles>();
+    files->Put("picture", bytes);
+    auto picture = SystemPictures(twipsPerPixel)->Load(*files, "picture", kind, error);
+    EXPECT_EQ(picture == nullptr, static_cast<bool>(error));
+    return picture;
+}
+
+std::string RecordWhole(const Picture& picture, int width, int height) {
+    const auto files = std::make_shared<MemoryFiles>();
+    std::error_code error;
+    SystemPictures()->Record(picture, width, height, *files, "recorded", error);
+    EXPECT_FALSE(error) << error.message();
+    EXPECT_EQ(files->OpenFiles(), 0);
+    return files->Bytes("recorded");
+}
+
+/// The pixels of a picture that must load, by way of the recorder.
+Image PixelsOf(const std::string& bytes, PictureKind kind, int width, int height, int* bits = nullptr) {
+    std::error_code error;
+    const auto picture = LoadBytes(bytes, kind, error);
+    if (!picture) return {};
+    return ReadRecorded(RecordWhole(*picture, width, height), bits);
+}
+
+struct BmpCase {
+    const char* name;
+    BmpForm form;
+};
+
+class BmpVarieties : public testing::TestWithParam<BmpCase> {};
+
+TEST_P(BmpVarieties, GiveTheSamePixels) {
+    Indices indices = sample;
+    if (GetParam().form.bits == 1)
+        for (auto& index : indices.pixels) index &= 1;
+    EXPECT_EQ(PixelsOf(MakeBmp(indices, GetParam().form), PictureKind::Bmp, 5, 3), Coloured(indices));
+}
+
+const std::string rle8 =
+    "\0\3\7\6\5\0\2\0\0\0"    // bottom row: three pixels as they are and padding, two black
+    "\3\5\1\6\1\7\0\0"        // middle row, all runs
+    "\0\5\0\1\2\3\4\0\0\1"s;  // top row as it is and padding, end of the picture
+const std::string rle4 = "\0\3\x76\x50\2\0\0\0"
+                         "\3\x55\2\x67\0\0"
+                         "\0\5\x01\x23\x40\0\0\1"s;
+
+INSTANTIATE_TEST_SUITE_P(
+    Pictures, BmpVarieties,
+    testing::Values(
+        BmpCase{"Core1", {.headerSize = 12, .bits = 1}}, BmpCase{"Core4", {.headerSize = 12, .bits = 4}},
+        BmpCase{"Core8", {.headerSize = 12, .bits = 8}}, BmpCase{"Core24", {.headerSize = 12}},
+        BmpCase{"Bits1", {.bits = 1}}, BmpCase{"Bits4", {.bits = 4}}, BmpCase{"Bits8", {.bits = 8}},
+        BmpCase{"Bits16", {.bits = 16, .masks = {0x7C00, 0x3E0, 0x1F}}}, BmpCase{"Bits24", {}},
+        BmpCase{"Bits32", {.bits = 32, .masks = {0xFF0000, 0xFF00, 0xFF}}},
+        BmpCase{"TopDown4", {.bits = 4, .topDown = true}}, BmpCase{"TopDown24", {.topDown = true}},
+        BmpCase{"Fields565", {.bits = 16, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}}},
+        BmpCase{"Fields4444", {.bits = 16, .compression = 3, .masks = {0xF00, 0xF0, 0xF}}},
+        BmpCase{"FieldsTenBits", {.bits = 32, .compression = 3, .masks = {0x3FF, 0xFFC00, 0x3FF00000}}},
+        BmpCase{"FieldsV2",
+                {.headerSize = 52, .bits = 32, .compression = 3, .masks = {0xFF000000, 0xFF00, 0xFF}}},
+        BmpCase{"FieldsV3", {.headerSize = 56, .bits = 16, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}}},
+        BmpCase{"V4", {.headerSize = 108, .bits = 8}}, BmpCase{"V5", {.headerSize = 124, .topDown = true}},
+        BmpCase{"FieldsV5",
+                {.headerSize = 124, .bits = 32, .compression = 3, .masks = {0xFF, 0xFF00, 0xFF0000}}},
+        BmpCase{"Os2V2", {.headerSize = 64, .bits = 4}}, BmpCase{"ShortPalette", {.bits = 8, .entries = 8}},
+        BmpCase{"LostOffset", {.bits = 8, .entries = 8, .claimedOffset = 0}},
+        BmpCase{"FarOffset", {.bits = 8, .claimedOffset = 5000}}, BmpCase{"Gap", {.bits = 4, .gap = 7}},
+        BmpCase{"Rle8", {.bits = 8, .compression = 1, .encoded = rle8}},
+        BmpCase{"Rle8NoEnd", {.bits = 8, .compression = 1, .encoded = rle8.substr(0, rle8.size() - 2)}},
+        BmpCase{"Rle4", {.bits = 4, .compression = 2, .encoded = rle4}}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(Pictures, WhatABitmapDoesNotPaintIsWhiteAndWhatItsPaletteLacksIsBlack) {
+    // Two to the right and one up, a red pixel there, end. Then: a run that is longer than its row.
+    Indices expected{5, 3, {7, 7, 7, 7, 7, /**/ 7, 7, 1, 7, 7, /**/ 7, 7, 7, 7, 7}};
+    const BmpForm jump{.bits = 8, .compression = 1, .encoded = "\0\2\2\1\1\1\0\1"s};
+    EXPECT_EQ(PixelsOf(MakeBmp(sample, jump), PictureKind::Bmp, 5, 3), Coloured(expected));
+    expected.pixels = {7, 7, 7, 7, 7, /**/ 7, 7, 7, 7, 7, /**/ 1, 1, 1, 1, 1};
+    const BmpForm longRun{.bits = 8, .compression = 1, .encoded = "\6\1\0\1"s};
+    EXPECT_EQ(PixelsOf(MakeBmp(sample, longRun), PictureKind::Bmp, 5, 3), Coloured(expected));
+    EXPECT_EQ(PixelsOf(MakeBmp(sample, {.bits = 8, .entries = 5}), PictureKind::Bmp, 5, 3),
+              Coloured({5, 3, {0, 1, 2, 3, 4, /**/ 0, 0, 0, 0, 0, /**/ 0, 0, 0, 0, 0}}));
+}
+
+TEST(Pictures, GifFrameOnItsScreen) {
+    const Indices frame{3, 2, {1, 2, 3, 4, 5, 0}};
+    struct Case {
+        const char* name;
+        GifForm form;
+        Indices expected;
+    };
+    const Case cases[] = {
+        {"fills the screen", {3, 2}, frame},
+        {"local palette", {3, 2, 0, 0, false, -1, true}, frame},
+        {"smaller", {5, 3, 1, 1}, {5, 3, {7, 7, 7, 7, 7, /**/ 7, 1, 2, 3, 7, /**/ 7, 4, 5, 0, 7}}},
+        {"transparent", {3, 2, 0, 0, false, 2}, {3, 2, {1, 7, 3, 4, 5, 0}}},
+        {"over the edge", {2, 2, 1, 1}, {2, 2, {7, 7, 7, 1}}},
+        {"off the screen", {2, 1, 4, 4}, {2, 1, {7, 7}}},
+        {"empty screen", {0, 0, 1, 0}, {4, 2, {7, 1, 2, 3, 7, 4, 5, 0}}},
+    };
+    for (const auto& [name, form, expected] : cases) {
+        EXPECT_EQ(PixelsOf(MakeGif(frame, form), PictureKind::Gif, expected.width, expected.height),
+                  Coloured(expected))
+            << name;
+    }
+    Indices column{1, 19, {}};  // rows enough for all four passes
+    for (std::uint8_t y = 0; y < 19; ++y) column.pixels.push_back(y % 7);
+    EXPECT_EQ(PixelsOf(MakeGif(column, {1, 19, 0, 0, true}), PictureKind::Gif, 1, 19), Coloured(column));
+}
+
+TEST(Pictures, SizeInHimetric) {
+    struct Case {
+        std::string bytes;
+        PictureKind kind;
+        int width;
+        int height;
+    };
+    const Case cases[] = {
+        {MakeBmp(sample, {}), PictureKind::Bmp, 133, 80},  // 132.29 and 79.375
+        {MakeGif({24, 1, std::vector<std::uint8_t>(24)}, {24, 1}), PictureKind::Gif, 635,
+         27},  // a quarter inch
+        {MakeJpeg(300, 150, 1, 300, 75), PictureKind::Jpeg, 2540, 5080},
+        {MakeJpeg(10, 20, 2, 100, 10), PictureKind::Jpeg, 100, 2000},
+        {MakeJpeg(96, 48, 0, 1, 1), PictureKind::Jpeg, 2540, 1270},
+        {MakeJpeg(96, 48, 1, 0, 300), PictureKind::Jpeg, 2540, 1270},
+        {MakeJpeg(96, 48, -1, 300, 300), PictureKind::Jpeg, 2540, 1270},
+        {MakeJpeg(1, 1, 1, 65535, 65535), PictureKind::Jpeg, 1, 1},
+        {MakeEmf(-100, 20, 2440, 1290), PictureKind::Emf, 2540, 1270},
+        {MakeEmf(0, 0, -1, -1), PictureKind::Emf, 0, 0},
+        {MakeWmf(-10, 0, 1430, 720, 1440), PictureKind::Wmf, 2540, 1270},
+        {MakeWmf(100, 0, 0, -100, 1000), PictureKind::Wmf, 254, 254},
+        {MakeWmf(0, 0, 100, 100, 0), PictureKind::Wmf, 0, 0},
+        {MakeWmf(0, 0, 100, 100, 1000).substr(0, 21), PictureKind::Wmf, 0, 0},
+        {MakeWmf(0, 0, 100, 100, 1000).substr(22), PictureKind::Wmf, 0, 0},
+        {"", PictureKind::Wmf, 0, 0},
+    };
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        std::error_code error;
+        const auto picture = LoadBytes(cases[i].bytes, cases[i].kind, error);
+        ASSERT_TRUE(picture) << "case " << i;
+        EXPECT_EQ(picture->Width(), cases[i].width) << "case " << i;
+        EXPECT_EQ(picture->Height(), cases[i].height) << "case " << i;
+    }
+}
+
+TEST(Pictures, HimetricSizesGiveTheirPixelsBack) {
+    for (const int twips : {15, 12, 20, 10, 1, 7}) {
+        for (int pixels = 1; pixels <= 1500; ++pixels) {
+            const auto width = static_cast<std::size_t>(pixels);
+            const std::string bytes = MakeBmp({pixels, 1, std::vector<std::uint8_t>(width)}, {.bits = 1});
+            std::error_code error;
+            const auto picture = LoadBytes(bytes, PictureKind::Bmp, error, twips);
+            ASSERT_TRUE(picture);
+            ASSERT_EQ(std::floor(picture->Width() / 2540.0 * 1440 / twips), pixels) << twips;
+        }
+    }
+}
+
+/// A sound file of every kind, in the order of PictureKind.
+const std::array<std::string, 5>& OneOfEach() {
+    static const std::array<std::string, 5> files{
+        MakeJpeg(5, 3, 1, 96, 96), MakeEmf(0, 0, 100, 100), MakeWmf(0, 0, 9, 9, 9) + rle8,
+        MakeGif(sample, {5, 3, 0, 0, false, 1}), MakeBmp(sample, {})};
+    return files;
+}
+PictureKind KindAt(std::size_t index) { return static_cast<PictureKind>(index); }
+
+/// A file with bytes of its own from `at` on.
+std::string Patched(std::string bytes, std::size_t at, const std::string& patch) {
+    return bytes.replace(at, patch.size(), patch);
+}
+
+TEST(Pictures, UnreadableOnes) {
+    std::error_code error;
+    for (std::size_t kind = 0; kind < 5; ++kind) {
+        for (std::size_t other = 0; other < 5; ++other) {
+            const bool loads = LoadBytes(OneOfEach()[other], KindAt(kind), error) != nullptr;
+            EXPECT_TRUE(loads ? kind == other : error == PictureError::Unreadable) << kind << " is " << other;
+        }
+    }
+    const auto& [jpeg, emf, wmf, gif, bmp] = OneOfEach();
+    const std::string runs = MakeBmp(sample, {.bits = 8, .compression = 1, .encoded = rle8});
+    const std::string fields =
+        MakeBmp(sample, {.bits = 16, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}});
+    const std::pair<PictureKind, std::string> cases[] = {
+        {PictureKind::Bmp, ""},
+        {PictureKind::Gif, ""},
+        {PictureKind::Jpeg, ""},
+        {PictureKind::Emf, ""},
+        {PictureKind::Emf, emf.substr(0, 87)},
+        {PictureKind::Emf, MakeEmf(INT32_MIN, 0, INT32_MAX, 9)},
+        {PictureKind::Emf, MakeEmf(9, 0, 0, 9)},
+        {PictureKind::Bmp, Patched(bmp, 14, Le32(0xFFFFFFFF))},  // size of the header
+        {PictureKind::Bmp, Patched(bmp, 18, Le32(0))},           // width
+        {PictureKind::Bmp, Patched(bmp, 18, Le32(0x80000000))},
+        {PictureKind::Bmp, Patched(bmp, 18, Le32(0x7FFFFFFF) + Le32(0x7FFFFFFF))},
+        {PictureKind::Bmp, Patched(bmp, 22, Le32(0))},  // height
+        {PictureKind::Bmp, Patched(bmp, 22, Le32(0x80000000))},
+        {PictureKind::Bmp, Patched(bmp, 26, Le16(2))},                   // planes
+        {PictureKind::Bmp, Patched(bmp, 28, Le16(0))},                   // bits
+        {PictureKind::Bmp, Patched(bmp, 30, Le32(4))},                   // a JPEG within
+        {PictureKind::Bmp, Patched(runs, 22, Le32(0xFFFFFFFD))},         // run lengths from the top
+        {PictureKind::Bmp, Patched(runs, 18, Le32(8000) + Le32(8000))},  // runs that cannot fill it
+        {PictureKind::Bmp, MakeBmp(sample, {.bits = 8, .compression = 1, .encoded = "\0\2\0\3\1\1\0\1"s})},
+        {PictureKind::Bmp, Patched(fields, 54, Le32(0xF801))},    // a mask in two pieces
+        {PictureKind::Bmp, Patched(fields, 54, Le32(0x1F0000))},  // one beyond the pixel
+        {PictureKind::Gif, Patched(gif, 6, "\xFF\xFF\xFF\xFF")},  // a screen of 65535 by 65535
+        {PictureKind::Gif, Patched(gif, 6, Le16(8000) + Le16(8000))},
+        {PictureKind::Gif, gif.substr(0, 13 + 24) + ";"},  // no frame
+        {PictureKind::Jpeg, "\xFF\xD8\xFF\xD9"},           // no size
+    };
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        LoadBytes(cases[i].second, cases[i].first, error);
+        EXPECT_EQ(error, PictureError::Unreadable) << "case " << i;
+    }
+}
+
+TEST(Pictures, CutShortAnywhere) {
+    struct Case {
+        PictureKind kind;
+        std::string bytes;
+        std::size_t spare;  // bytes at the end that can be missing
+    };
+    const Case cases[] = {
+        {PictureKind::Bmp, MakeBmp(sample, {.bits = 4}), 0},
+        {PictureKind::Bmp, MakeBmp(sample, {.bits = 16, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}}),
+         0},
+        {PictureKind::Bmp, MakeBmp(sample, {.bits = 8, .compression = 1, .encoded = rle8}), 2},
+        {PictureKind::Gif, MakeGif(sample, {5, 3, 0, 0, false, 1}), 1},
+        {PictureKind::Jpeg, MakeJpeg(5, 3, 1, 96, 96), SIZE_MAX},
+        {PictureKind::Wmf, MakeWmf(0, 0, 9, 9, 9), SIZE_MAX},
+    };
+    for (const auto& [kind, bytes, spare] : cases) {
+        for (std::size_t size = 0; size < bytes.size(); ++size) {
+            std::error_code error;
+            LoadBytes(bytes.substr(0, size), kind, error);
+            const bool mayLoad = bytes.size() - size <= spare;
+            EXPECT_TRUE(error ? error == PictureError::Unreadable : mayLoad) << size;
+        }
+    }
+}
+
+TEST(Pictures, FileErrorsAreNotPictureErrors) {
+    std::error_code error;
+    const auto files = SystemPlatform().files;
+    EXPECT_FALSE(SystemPictures()->Load(*files, testing::TempDir() + "absent.bmp", PictureKind::Bmp, error));
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+    EXPECT_FALSE(SystemPictures()->Load(*files, testing::TempDir(), PictureKind::Bmp, error));
+    EXPECT_EQ(error, std::errc::is_a_directory);
+
+    const auto failing = [](int operation) {
+        auto files = std::make_shared<MemoryFiles>();
+        files->FailAt(operation, std::errc::io_error);
+        return files;
+    };
+    for (int operation = 1; operation <= 3; ++operation) {  // length, open, read
+        for (std::size_t kind = 0; kind < 5; ++kind) {
+            const auto broken = failing(operation);
+            broken->Put("picture", OneOfEach()[kind]);
+            EXPECT_FALSE(SystemPictures()->Load(*broken, "picture", KindAt(kind), error)) << kind;
+            EXPECT_EQ(error, std::errc::io_error) << kind;
+        }
+    }
+    const auto picture = LoadBytes(OneOfEach()[4], PictureKind::Bmp, error);
+    for (int operation = 1; operation <= 3; ++operation) {  // create, write, close
+        SystemPictures()->Record(*picture, 5, 3, *failing(operation), "recorded", error);
+        EXPECT_EQ(error, std::errc::io_error);
+    }
+}
+
+TEST(Pictures, OnlyTheHeaderOfAnEmbeddedFileIsRead) {
+    for (const PictureKind kind : {PictureKind::Jpeg, PictureKind::Emf, PictureKind::Wmf}) {
+        const auto files = std::make_shared<MemoryFiles>();
+        files->Put("picture", OneOfEach()[static_cast<std::size_t>(kind)] + std::string(1 << 20, 'x'));
+        std::error_code error;
+        EXPECT_TRUE(SystemPictures()->Load(*files, "picture", kind, error)) << error.message();
+        EXPECT_EQ(files->Operations(), 3);  // length, open, one read
+    }
+}
+
+TEST(Pictures, RecordedMetafileByteForByte) {
+    // Three colours need four bits: a table of 16, rows of (3 * 4 + 31) / 32 * 4 = 4 bytes.
+    // 3 by 2 pixels are 79.375 by 52.917 HIMETRIC; the device has 1920 pixels on 508 mm, 96 per inch.
+    std::error_code error;
+    const auto picture = LoadBytes(MakeBmp({3, 2, {1, 2, 1, 3, 3, 2}}, {}), PictureKind::Bmp, error);
+    std::string expected;
+    for (const std::uint32_t field :
+         {1U,     108U, 0U, 0U, 2U, 1U,    0U,    0U,   80U,  53U, 0x464D4520U, 0x10000U, 108U + 192U + 20U,
+          3U,     1U,   0U, 0U, 0U, 1920U, 1440U, 508U, 381U, 0U,  0U,          0U,       508000U,
+          381000U})
+        expected += Le32(field);
+    for (const std::uint32_t field : {81U,  80U + 40U + 64U + 8U,
+                                      0U,   0U,
+                                      2U,   1U,
+                                      0U,   0U,
+                                      0U,   0U,
+                                      3U,   2U,
+                                      80U,  104U,
+                                      184U, 8U,
+                                      0U,   0xCC0020U,
+                                      3U,   2U})
+        expected += Le32(field);
+    for (const std::uint32_t field : {40U, 3U, 2U, 0x40001U, 0U, 8U, 0U, 0U, 16U, 0U})
+        expected += Le32(field);
+    expected += Le32(0xFF0000) + Le32(0x00FF00) + Le32(0x0000FF) + std::string(13 * 4, '\0');
+    expected += "\x22\x10\0\0\x01\0\0\0"s;  // the bottom row comes first
+    for (const std::uint32_t field : {14U, 20U, 0U, 16U, 20U}) expected += Le32(field);
+    EXPECT_EQ(RecordWhole(*picture, 3, 2), expected);
+}
+
+TEST(Pictures, RecordedDepthFollowsTheColours) {
+    for (const auto& [colours, depth] :
+         {std::pair(1, 1), {2, 1}, {3, 4}, {16, 4}, {17, 8}, {256, 8}, {257, 24}}) {
+        // A 32 bit file, so that every pixel can have a colour of its own.
+        Image image{257, 1, {}};
+        std::string bytes = MakeBmp({257, 1, std::vector<std::uint8_t>(257)}, {.bits = 32, .masks = {}});
+        for (std::uint32_t x = 0; x < 257; ++x) {
+            image.pixels.push_back(x % static_cast<std::uint32_t>(colours) * 0x10307 & 0xFFFFFF);
+            bytes = Patched(bytes, 54 + x * 4, Le32(image.pixels.back()));
+        }
+        int bits = 0;
+        EXPECT_EQ(PixelsOf(bytes, PictureKind::Bmp, 257, 1, &bits), image) << colours;
+        EXPECT_EQ(bits, depth) << colours;
+    }
+}
+
+TEST(Pictures, RecordsAPartAndRefusesWhatIsNotThere) {
+    std::error_code error;
+    const auto bitmap = LoadBytes(MakeBmp(sample, {}), PictureKind::Bmp, error);
+    EXPECT_EQ(ReadRecorded(RecordWhole(*bitmap, 3, 2)), Coloured({3, 2, {0, 1, 2, 5, 5, 5}}));
+    const auto jpeg = LoadBytes(MakeJpeg(5, 3, 1, 96, 96), PictureKind::Jpeg, error);
+    const auto files = std::make_shared<MemoryFiles>();
+    for (const auto& [width, height] : {std::pair(0, 3), {6, 3}, {5, 4}, {5, -1}}) {
+        SystemPictures()->Record(*bitmap, width, height, *files, "recorded", error);
+        EXPECT_EQ(error, std::errc::invalid_argument);
+    }
+    SystemPictures()->Record(*jpeg, 1, 1, *files, "recorded", error);
+    EXPECT_EQ(error, std::errc::invalid_argument);
+    EXPECT_TRUE(files->Names().empty());
+}
+
+}  // namespace
+
+}  // namespace draftwick::test
