@@ -5,102 +5,69 @@ namespace draftwick::test {
 
 namespace {
 
-struct Case {
-    const char* name;
-    std::function<void(Frame&)> set;
-    std::string expected;
-};
+using Settings = std::vector<std::pair<const char*, Variant>>;
 
-/// What a paragraph has between \pard and \plain.
-std::string FrameWords(const std::function<void(Frame&)>& set) {
-    const std::string file =
-        Written([&](Document& document) { set(*document.AddSection()->AddParagraph()->Frame()); });
+/// What a paragraph has between \pard and \plain when its frame has these settings.
+std::string FrameWords(const Settings& settings) {
+    const std::string file = Written([&](Document& document) {
+        const auto frame = document.AddSection()->AddParagraph()->Frame();
+        for (const auto& [property, value] : settings) Set(*frame, property, value);
+    });
     return Between(file, R"(\pard)", R"(\plain)");
 }
 
 }  // namespace
 
 TEST(Frame, IsWrittenAsSoonAsAnythingIsSet) {
-    const Case cases[] = {
-        {"nothing", [](Frame&) {}, ""},
-        {"set to the default", [](Frame& f) { f.SetWrap(true); }, ""},
-        {"width", [](Frame& f) { f.SetWidth(2880); }, R"(\absw2880\phcol\pvmrg)"},
-        {"height", [](Frame& f) { f.SetHeight(720); }, R"(\absh720\phcol\pvmrg)"},
-        {"exact height",
-         [](Frame& f) {
-             f.SetHeight(720);
-             f.SetHeightExactly(true);
-         },
-         R"(\absh-720\phcol\pvmrg)"},
-        {"exact height of nothing", [](Frame& f) { f.SetHeightExactly(true); }, R"(\phcol\pvmrg)"},
-        {"place",
-         [](Frame& f) {
-             f.SetLeft(10);
-             f.SetTop(20);
-         },
-         R"(\phcol\posx10\pvmrg\posy20)"},
-        {"place before the reference",
-         [](Frame& f) {
-             f.SetLeft(-10);
-             f.SetTop(-20);
-         },
-         R"(\phcol\posnegx-10\pvmrg\posnegy-20)"},
-        {"an alignment goes before a place",
-         [](Frame& f) {
-             f.SetLeft(10);
-             f.SetTop(20);
-             f.SetAlignX(dwFAXRight);
-             f.SetAlignY(dwFAYBottom);
-         },
+    const std::pair<Settings, std::string> cases[] = {
+        {{}, ""},
+        {{{"Wrap", true}}, ""},  // the default
+        {{{"Width", 2880.0}}, R"(\absw2880\phcol\pvmrg)"},
+        {{{"Height", 720.0}}, R"(\absh720\phcol\pvmrg)"},
+        {{{"Height", 720.0}, {"HeightExactly", true}}, R"(\absh-720\phcol\pvmrg)"},
+        {{{"HeightExactly", true}}, R"(\phcol\pvmrg)"},
+        {{{"Left", 10.0}, {"Top", 20.0}}, R"(\phcol\posx10\pvmrg\posy20)"},
+        {{{"Left", -10.0}, {"Top", -20.0}}, R"(\phcol\posnegx-10\pvmrg\posnegy-20)"},
+        // An alignment goes before a place.
+        {{{"Left", 10.0}, {"Top", 20.0}, {"AlignX", dwFAXRight}, {"AlignY", dwFAYBottom}},
          R"(\phcol\posxr\pvmrg\posyb)"},
-        {"anchor", [](Frame& f) { f.SetLockAnchor(true); }, R"(\phcol\pvmrg\abslock1)"},
-        {"no wrap", [](Frame& f) { f.SetWrap(false); }, R"(\phcol\pvmrg\nowrap)"},
-        {"spacing beside", [](Frame& f) { f.SetSpacingX(5); },
-         R"(\phcol\pvmrg\dxfrtext5\dfrmtxtx5\dfrmtxty0)"},
-        {"spacing above", [](Frame& f) { f.SetSpacingY(6); },
-         R"(\phcol\pvmrg\dxfrtext0\dfrmtxtx0\dfrmtxty6)"},
-        {"drop cap", [](Frame& f) { f.SetDropCapLines(3); }, R"(\phcol\pvmrg\dropcapli3\dropcapt1)"},
-        {"margin alone", [](Frame& f) { f.SetDropCapInMargin(true); }, R"(\phcol\pvmrg)"},
-        {"all in order",
-         [](Frame& f) {
-             f.SetDropCapLines(10);
-             f.SetDropCapInMargin(true);
-             f.SetSpacingY(6);
-             f.SetSpacingX(5);
-             f.SetWrap(false);
-             f.SetLockAnchor(true);
-             f.SetTop(4);
-             f.SetReferenceY(dwFRYPage);
-             f.SetLeft(3);
-             f.SetReferenceX(dwFRXMargin);
-             f.SetHeight(2);
-             f.SetWidth(1);
-         },
+        {{{"LockAnchor", true}}, R"(\phcol\pvmrg\abslock1)"},
+        {{{"Wrap", false}}, R"(\phcol\pvmrg\nowrap)"},
+        {{{"SpacingX", 5.0}}, R"(\phcol\pvmrg\dxfrtext5\dfrmtxtx5\dfrmtxty0)"},
+        {{{"SpacingY", 6.0}}, R"(\phcol\pvmrg\dxfrtext0\dfrmtxtx0\dfrmtxty6)"},
+        {{{"DropCapLines", 3}}, R"(\phcol\pvmrg\dropcapli3\dropcapt1)"},
+        {{{"DropCapInMargin", true}}, R"(\phcol\pvmrg)"},
+        {{{"DropCapLines", 10},
+          {"DropCapInMargin", true},
+          {"SpacingY", 6.0},
+          {"SpacingX", 5.0},
+          {"Wrap", false},
+          {"LockAnchor", true},
+          {"Top", 4.0},
+          {"ReferenceY", dwFRYPage},
+          {"Left", 3.0},
+          {"ReferenceX", dwFRXMargin},
+          {"Height", 2.0},
+          {"Width", 1.0}},
          R"(\absw1\absh2\phmrg\posx3\pvpg\posy4\abslock1\nowrap\dxfrtext5\dfrmtxtx5\dfrmtxty6)"
          R"(\dropcapli10\dropcapt2)"},
     };
-    for (const Case& test : cases) EXPECT_EQ(FrameWords(test.set), test.expected) << test.name;
+    for (const auto& [settings, words] : cases) EXPECT_EQ(FrameWords(settings), words);
 }
 
 TEST(Frame, HasAWordForEachReferenceAndAlignment) {
     const std::string references[][2] = {{"phpg", "pvpg"}, {"phcol", "pvpara"}, {"phmrg", "pvmrg"}};
     for (std::int32_t i = 1; i <= 3; ++i) {
-        const auto set = [&](Frame& f) {
-            f.SetReferenceX(static_cast<dwFrameReferenceX>(i));
-            f.SetReferenceY(static_cast<dwFrameReferenceY>(i));
-            f.SetWidth(1);
-        };
-        EXPECT_EQ(FrameWords(set), R"(\absw1\)" + references[i - 1][0] + "\\" + references[i - 1][1]);
+        EXPECT_EQ(FrameWords({{"ReferenceX", i}, {"ReferenceY", i}, {"Width", 1.0}}),
+                  R"(\absw1\)" + references[i - 1][0] + "\\" + references[i - 1][1]);
     }
     const std::string horizontal[] = {"posxl", "posxc", "posxr", "posxi", "posxo"};
     for (std::int32_t i = 2; i <= 6; ++i) {
-        EXPECT_EQ(FrameWords([&](Frame& f) { f.SetAlignX(static_cast<dwFrameAlignX>(i)); }),
-                  R"(\phcol\)" + horizontal[i - 2] + R"(\pvmrg)");
+        EXPECT_EQ(FrameWords({{"AlignX", i}}), R"(\phcol\)" + horizontal[i - 2] + R"(\pvmrg)");
     }
     const std::string vertical[] = {"posyil", "posyt", "posyc", "posyb", "posyin", "posyout"};
     for (std::int32_t i = 2; i <= 7; ++i) {
-        EXPECT_EQ(FrameWords([&](Frame& f) { f.SetAlignY(static_cast<dwFrameAlignY>(i)); }),
-                  R"(\phcol\pvmrg\)" + vertical[i - 2]);
+        EXPECT_EQ(FrameWords({{"AlignY", i}}), R"(\phcol\pvmrg\)" + vertical[i - 2]);
     }
 }
 

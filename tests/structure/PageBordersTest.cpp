@@ -5,89 +5,70 @@ namespace draftwick::test {
 
 namespace {
 
-struct Case {
-    const char* name;
-    std::function<void(PageBorders&)> set;
-    std::string expected;
+/// A side, one of its properties and the value that it gets.
+struct Setting {
+    dwPageBorder side;
+    const char* property;
+    Variant value;
 };
+using Options = std::vector<std::pair<const char*, Variant>>;
 
-void SetStyle(PageBorders& borders, dwPageBorder side, dwBorderStyle style) {
-    borders.Items(side)->SetStyle(style);
+/// What a section has for its page borders.
+std::string BorderWords(const std::vector<Setting>& settings, const Options& options = {}) {
+    const std::string file = Written([&](Document& document) {
+        const auto borders = document.AddSection()->PageBorders();
+        for (const auto& [side, property, value] : settings) Set(*borders->Items(side), property, value);
+        for (const auto& [property, value] : options) Set(*borders, property, value);
+    });
+    return Between(file, R"(\vertalt)", R"(\endnhere)");
 }
+
+constexpr auto Top = dwPgBorderTop;
+constexpr auto Left = dwPgBorderLeft;
+constexpr auto Right = dwPgBorderRight;
+constexpr auto Bottom = dwPgBorderBottom;
 
 }  // namespace
 
 TEST(PageBorders, AreWrittenSideBySide) {
     const std::string top = R"(\pgbrdrt\brdrs\brsp20\brdrw20\brdrcf0)";
-    const Case cases[] = {
-        {"untouched", [](PageBorders&) {}, ""},
-        {"sides without a line",
-         [](PageBorders& b) {
-             for (const auto& side : b) side->SetWidth(3);
-             b.SetDisplay(dwPBDExceptFirst);
-             b.SetSnap(true);
-         },
-         ""},
-        {"one side", [](PageBorders& b) { SetStyle(b, dwPgBorderTop, dwBSSingle); }, top},
-        {"all sides, their distances and their order",
-         [](PageBorders& b) {
-             SetStyle(b, dwPgBorderBottom, dwBSEngrave);
-             SetStyle(b, dwPgBorderRight, dwBSTriple);
-             SetStyle(b, dwPgBorderLeft, dwBSDouble);
-             SetStyle(b, dwPgBorderTop, dwBSSingle);
-         },
-         top + R"(\pgbrdrl\brdrdb\brsp80\brdrw20\brdrcf0\pgbrdrr\brdrtriple\brsp80\brdrw20\brdrcf0)"
-             + R"(\pgbrdrb\brdrengrave\brsp20\brdrw20\brdrcf0)"},
-        {"numbers are rounded down, colours counted from the first",
-         [](PageBorders& b) {
-             const auto side = b.Items(dwPgBorderBottom);
-             side->SetStyle(dwBSDot);
-             side->SetSpacing(2.99);
-             side->SetWidth(0.79);
-             side->SetColor(0xFF);
-             SetStyle(b, dwPgBorderRight, dwBSDash);
-         },
-         R"(\pgbrdrr\brdrdash\brsp80\brdrw20\brdrcf0\pgbrdrb\brdrdot\brsp59\brdrw15\brdrcf1)"},
-        {"a picture without a line", [](PageBorders& b) { b.Items(dwPgBorderLeft)->SetArt(165); },
-         R"(\pgbrdrl\brdrart165\brsp80\brdrw20\brdrcf0)"},
-        {"a picture in place of a line",
-         [](PageBorders& b) {
-             SetStyle(b, dwPgBorderTop, dwBSSingle);
-             b.Items(dwPgBorderTop)->SetArt(1);
-         },
-         R"(\pgbrdrt\brdrart1\brsp20\brdrw20\brdrcf0)"},
-    };
-    for (const Case& test : cases) {
-        const std::string file =
-            Written([&](Document& document) { test.set(*document.AddSection()->PageBorders()); });
-        EXPECT_EQ(Between(file, R"(\vertalt)", R"(\endnhere)"), test.expected) << test.name;
-    }
+    EXPECT_EQ(BorderWords({}), "");
+    EXPECT_EQ(BorderWords({{Top, "Width", 3.0}, {Left, "Color", 1}, {Right, "Spacing", 2.0}},
+                          {{"Display", dwPBDExceptFirst}, {"Snap", true}}),
+              "");
+    EXPECT_EQ(BorderWords({{Top, "Style", dwBSSingle}}), top);
+    EXPECT_EQ(BorderWords({{Bottom, "Style", dwBSEngrave},
+                           {Right, "Style", dwBSTriple},
+                           {Left, "Style", dwBSDouble},
+                           {Top, "Style", dwBSSingle}}),
+              top + R"(\pgbrdrl\brdrdb\brsp80\brdrw20\brdrcf0\pgbrdrr\brdrtriple\brsp80\brdrw20\brdrcf0)"
+                  + R"(\pgbrdrb\brdrengrave\brsp20\brdrw20\brdrcf0)");
+    // Numbers are rounded down; the colours of the right come first.
+    EXPECT_EQ(BorderWords({{Bottom, "Style", dwBSDot},
+                           {Bottom, "Spacing", 2.99},
+                           {Bottom, "Width", 0.79},
+                           {Bottom, "Color", 0xFF},
+                           {Right, "Style", dwBSDash}}),
+              R"(\pgbrdrr\brdrdash\brsp80\brdrw20\brdrcf0\pgbrdrb\brdrdot\brsp59\brdrw15\brdrcf1)");
+    // A picture needs no line and stands in place of one.
+    EXPECT_EQ(BorderWords({{Left, "Art", 165}}), R"(\pgbrdrl\brdrart165\brsp80\brdrw20\brdrcf0)");
+    EXPECT_EQ(BorderWords({{Top, "Art", 1}, {Top, "Style", dwBSSingle}}),
+              R"(\pgbrdrt\brdrart1\brsp20\brdrw20\brdrcf0)");
 }
 
 TEST(PageBorders, HaveTheirOptionsInOneNumber) {
-    const Case cases[] = {
-        {"first page", [](PageBorders& b) { b.SetDisplay(dwPBDFirstPage); }, R"(\pgbrdropt1)"},
-        {"others", [](PageBorders& b) { b.SetDisplay(dwPBDExceptFirst); }, R"(\pgbrdropt2)"},
-        {"behind", [](PageBorders& b) { b.SetInFront(false); }, R"(\pgbrdropt8)"},
-        {"from the page", [](PageBorders& b) { b.SetOffset(dwPBOPage); }, R"(\pgbrdropt32)"},
-        {"snap", [](PageBorders& b) { b.SetSnap(true); }, R"(\pgbrdrsnap)"},
-        {"all",
-         [](PageBorders& b) {
-             b.SetDisplay(dwPBDExceptFirst);
-             b.SetInFront(false);
-             b.SetOffset(dwPBOPage);
-             b.SetSnap(true);
-         },
+    const std::pair<Options, std::string> cases[] = {
+        {{{"Display", dwPBDFirstPage}}, R"(\pgbrdropt1)"},
+        {{{"Display", dwPBDExceptFirst}}, R"(\pgbrdropt2)"},
+        {{{"InFront", false}}, R"(\pgbrdropt8)"},
+        {{{"Offset", dwPBOPage}}, R"(\pgbrdropt32)"},
+        {{{"Snap", true}}, R"(\pgbrdrsnap)"},
+        {{{"Display", dwPBDExceptFirst}, {"InFront", false}, {"Offset", dwPBOPage}, {"Snap", true}},
          R"(\pgbrdropt42\pgbrdrsnap)"},
     };
-    for (const Case& test : cases) {
-        const std::string file = Written([&](Document& document) {
-            const auto borders = document.AddSection()->PageBorders();
-            SetStyle(*borders, dwPgBorderLeft, dwBSSingle);
-            SetStyle(*borders, dwPgBorderRight, dwBSSingle);
-            test.set(*borders);
-        });
-        EXPECT_EQ(Between(file, R"(\vertalt)", R"(\pgbrdrl)"), test.expected) << test.name;
+    const std::vector<Setting> sides{{Left, "Style", dwBSSingle}, {Right, "Style", dwBSSingle}};
+    for (const auto& [options, words] : cases) {
+        EXPECT_EQ(BorderWords(sides, options), words + BorderWords(sides));
     }
 }
 
