@@ -84,7 +84,7 @@ std::shared_ptr<Property> Properties::Add(std::string_view name, const Variant& 
     OpenForChange();
     TypeOfValue(value);
     if (Contains(name)) RaiseError(dwErrDuplicateName, {ToValidUtf8(name)});
-    const auto property = AddItem(name, "Properties");
+    auto property = AddItem(name, "Properties");
     property->SetValue(value);
     property->SetLinkTo(linkTo);
     return property;
