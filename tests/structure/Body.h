@@ -9,6 +9,8 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace draftwick::test {
@@ -51,6 +53,13 @@ inline std::string BodyOf(const std::function<void(Section&)>& build) {
     Built built;
     build(*built.document->AddSection());
     return built.Body();
+}
+
+/// Properties by name, in the order in which they are set.
+using Settings = std::vector<std::pair<std::string_view, Variant>>;
+
+inline void Apply(const Settings& settings, Object& object) {
+    for (const auto& [name, value] : settings) Set(object, name, value);
 }
 
 /// Adds a paragraph with one run of text.

@@ -49,49 +49,37 @@ TEST(Footnote, RefusesMoreOnceClosed) {
 
 TEST(Notes, AreNumberedAndPlacedByTheDocument) {
     struct {
-        std::function<void(Document&)> set;
-        std::string words, end;
+        Settings settings;
+        std::string words;
     } const cases[]{
-        {[](Document&) {}, R"(\fntbj\ftnrstcont\ftnstart1\ftnnar)",
-         R"(\aendnotes\aftnrstcont\aftnstart1\aftnnar)"},
-        {[](Document& d) {
-             d.SetFootnoteLocation(dwFLBeneathText);
-             d.SetFootnoteRestart(dwFRPage);
-             d.SetFootnoteStartAt(-5);
-             d.SetFootnoteFormat(dwFFLetterLower);
-             d.SetEndnoteLocation(dwELDocument);
-             d.SetEndnoteRestart(dwFRPage);
-             d.SetEndnoteStartAt(32767);
-             d.SetEndnoteFormat(dwFFLetterLower);
-         },
-         R"(\ftntj\ftnrstpg\ftnstart-5\ftnnalc)", R"(\aenddoc\aftnrstcont\aftnstart32767\aftnnalc)"},
-        {[](Document& d) {
-             d.SetFootnoteRestart(dwFRSection);
-             d.SetFootnoteFormat(dwFFLetterUpper);
-             d.SetEndnoteRestart(dwFRSection);
-             d.SetEndnoteFormat(dwFFLetterUpper);
-         },
-         R"(\fntbj\ftnrestart\ftnstart1\ftnnauc)", R"(\aendnotes\aftnrestart\aftnstart1\aftnnauc)"},
-        {[](Document& d) {
-             d.SetFootnoteFormat(dwFFRomanLower);
-             d.SetEndnoteFormat(dwFFRomanLower);
-         },
-         R"(\fntbj\ftnrstcont\ftnstart1\ftnnrlc)", R"(\aendnotes\aftnrstcont\aftnstart1\aftnnrlc)"},
-        {[](Document& d) {
-             d.SetFootnoteFormat(dwFFRomanUpper);
-             d.SetEndnoteFormat(dwFFRomanUpper);
-         },
-         R"(\fntbj\ftnrstcont\ftnstart1\ftnnruc)", R"(\aendnotes\aftnrstcont\aftnstart1\aftnnruc)"},
+        {{}, R"(\fntbj\ftnrstcont\ftnstart1\ftnnar\aendnotes\aftnrstcont\aftnstart1\aftnnar)"},
+        {{{"FootnoteLocation", dwFLBeneathText},
+          {"FootnoteRestart", dwFRPage},
+          {"FootnoteStartAt", -5},
+          {"FootnoteFormat", dwFFLetterLower},
+          {"EndnoteLocation", dwELDocument},
+          {"EndnoteRestart", dwFRPage},
+          {"EndnoteStartAt", 32767},
+          {"EndnoteFormat", dwFFLetterLower}},
+         R"(\ftntj\ftnrstpg\ftnstart-5\ftnnalc\aenddoc\aftnrstcont\aftnstart32767\aftnnalc)"},
+        {{{"FootnoteRestart", dwFRSection}, {"FootnoteFormat", dwFFLetterUpper}},
+         R"(\fntbj\ftnrestart\ftnstart1\ftnnauc\aendnotes\aftnrstcont\aftnstart1\aftnnar)"},
+        {{{"EndnoteRestart", dwFRSection}, {"EndnoteFormat", dwFFLetterUpper}},
+         R"(\fntbj\ftnrstcont\ftnstart1\ftnnar\aendnotes\aftnrestart\aftnstart1\aftnnauc)"},
+        {{{"FootnoteFormat", dwFFRomanLower}, {"EndnoteFormat", dwFFRomanUpper}},
+         R"(\fntbj\ftnrstcont\ftnstart1\ftnnrlc\aendnotes\aftnrstcont\aftnstart1\aftnnruc)"},
+        {{{"FootnoteFormat", dwFFRomanUpper}, {"EndnoteFormat", dwFFRomanLower}},
+         R"(\fntbj\ftnrstcont\ftnstart1\ftnnruc\aendnotes\aftnrstcont\aftnstart1\aftnnrlc)"},
     };
-    for (const auto& [set, words, end] : cases) {
+    for (const auto& [settings, words] : cases) {
         Built built;
-        set(*built.document);
+        Apply(settings, *built.document);
         built.document->AddSection();
         // Text of two line breaks stands between the two kinds: only its delimiter is left for a reader.
-        const std::string all = "\\pgbrdrfoot\\fet2" + words + end + "\\sectd";
         const std::string actual = Words(built.File());
-        EXPECT_NE(actual.find(all), std::string::npos) << all << "\n" << actual;
-        EXPECT_EQ(actual.find("\\endnhere") != std::string::npos, end.find("aendnotes") != std::string::npos);
+        EXPECT_NE(actual.find("\\pgbrdrfoot\\fet2" + words + "\\sectd"), actual.npos) << words << "\n"
+                                                                                      << actual;
+        EXPECT_NE(actual.find("\\endnhere") == actual.npos, words.find("aendnotes") != words.npos);
     }
 }
 

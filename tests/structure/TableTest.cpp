@@ -13,13 +13,6 @@ const std::string Cell1 = R"(\clvertalt\cellx1440)";
 const std::string EndRow = R"(\intbl\row\pard)";
 const std::string EndEmptyCell = R"(\intbl\cell)";
 
-template <class Target>
-struct Case {
-    const char* name;
-    std::function<void(Target&)> set;
-    const char* words;
-};
-
 template <class Borders, class Side>
 void SetBorder(Borders& owner, Side side, dwBorderStyle style, double width, std::int32_t color) {
     auto border = owner.Borders()->Items(side);
@@ -37,93 +30,73 @@ void AddCell(Table& row, double width, std::string_view text) {
 }  // namespace
 
 TEST(Row, WritesItsWords) {
-    const Case<Table> cases[]{
-        {"default", [](Table&) {}, R"(\trowd\trgaph95\trql\trleft-95\trrh0)"},
-        {"centered", [](Table& t) { t.SetAlign(dwTACenter); }, R"(\trowd\trgaph95\trqc\trleft-95\trrh0)"},
-        {"right", [](Table& t) { t.SetAlign(dwTARight); }, R"(\trowd\trgaph95\trqr\trleft-95\trrh0)"},
-        {"place",
-         [](Table& t) {
-             t.SetGap(0.1);
-             t.SetLeft(-0.5);
-         },
-         R"(\trowd\trgaph144\trql\trleft-720\trrh0)"},
-        {"least height", [](Table& t) { t.SetHeight(0.25); }, R"(\trowd\trgaph95\trql\trleft-95\trrh360)"},
-        {"exact height",
-         [](Table& t) {
-             t.SetHeight(0.25);
-             t.SetHeightExactly(true);
-         },
-         R"(\trowd\trgaph95\trql\trleft-95\trrh-360)"},
-        {"header that is kept together",
-         [](Table& t) {
-             t.SetKeepTogether(true);
-             t.SetHeader(true);
-         },
-         R"(\trowd\trgaph95\trql\trleft-95\trrh0\trhdr\trkeep)"},
-        {"all borders, in the order of their kinds",
-         [](Table& t) {
-             for (std::int32_t side = 6; side >= 1; --side) {
-                 SetBorder(t, static_cast<dwTableBorder>(side), dwBSSingle, 1, 0);
-             }
-         },
-         R"(\trowd\trgaph95\trql\trleft-95\trrh0\trbrdrt\brdrs\brdrw20\brdref0\trbrdrl\brdrs\brdrw20\brdref0)"
-         R"(\trbrdrr\brdrs\brdrw20\brdref0\trbrdrb\brdrs\brdrw20\brdref0\trbrdrh\brdrs\brdrw20\brdref0)"
-         R"(\trbrdrv\brdrs\brdrw20\brdref0)"},
-        {"borders: none, a fraction of a point, rounded down below zero, colours by first use",
-         [](Table& t) {
-             SetBorder(t, dwTBorderTop, dwBSNone, 3, 0xFF00);
-             SetBorder(t, dwTBorderLeft, dwBSDouble, 0.75, 0xFF);
-             SetBorder(t, dwTBorderBottom, dwBSWavy, -1.01, 0);
-         },
-         R"(\trowd\trgaph95\trql\trleft-95\trrh0\trbrdrl\brdrdb\brdrw15\brdref0)"
-         R"(\trbrdrb\brdrwavy\brdrw-21\brdref1)"},
+    const std::pair<Settings, std::string> cases[]{
+        {{}, R"(\trowd\trgaph95\trql\trleft-95\trrh0)"},
+        {{{"Align", dwTACenter}}, R"(\trowd\trgaph95\trqc\trleft-95\trrh0)"},
+        {{{"Align", dwTARight}}, R"(\trowd\trgaph95\trqr\trleft-95\trrh0)"},
+        {{{"Gap", 0.1}, {"Left", -0.5}}, R"(\trowd\trgaph144\trql\trleft-720\trrh0)"},
+        {{{"Height", 0.25}}, R"(\trowd\trgaph95\trql\trleft-95\trrh360)"},
+        {{{"Height", 0.25}, {"HeightExactly", true}}, R"(\trowd\trgaph95\trql\trleft-95\trrh-360)"},
+        {{{"KeepTogether", true}, {"Header", true}}, R"(\trowd\trgaph95\trql\trleft-95\trrh0\trhdr\trkeep)"},
     };
-    for (const auto& [name, set, words] : cases) {
-        const std::string body = BodyOf([&](Section& section) { set(*section.AddTable()); });
-        EXPECT_EQ(body, words + EndRow + "\\par") << name;
+    for (const auto& [settings, words] : cases) {
+        const std::string body = BodyOf([&, &set = settings](Section& s) { Apply(set, *s.AddTable()); });
+        EXPECT_EQ(body, words + EndRow + "\\par");
     }
 }
 
+// Widths in points are written in twips, rounded down; colours are numbered by first use.
+TEST(Row, WritesBordersInTheOrderOfTheirKinds) {
+    const std::string body = BodyOf([](Section& section) {
+        auto row = section.AddTable();
+        SetBorder(*row, dwTBorderVertical, dwBSEngrave, 1, 0);
+        SetBorder(*row, dwTBorderHorizontal, dwBSSingle, 1, 0xFF);
+        SetBorder(*row, dwTBorderBottom, dwBSWavy, -1.01, 0);
+        SetBorder(*row, dwTBorderRight, dwBSNone, 3, 0xFF00);
+        SetBorder(*row, dwTBorderLeft, dwBSDouble, 0.75, 0xFF);
+        row->Borders()->Items(dwTBorderTop)->SetStyle(dwBSDot);
+    });
+    EXPECT_EQ(body, Row + R"(\trbrdrt\brdrdot\brdrw20\brdref0\trbrdrl\brdrdb\brdrw15\brdref1)"
+                        + R"(\trbrdrb\brdrwavy\brdrw-21\brdref0\trbrdrh\brdrs\brdrw20\brdref1)"
+                        + R"(\trbrdrv\brdrengrave\brdrw20\brdref0)" + EndRow + "\\par");
+}
+
 TEST(Cell, WritesItsWords) {
-    const Case<Cell> cases[]{
-        {"default", [](Cell&) {}, R"(\clvertalt\cellx1440)"},
-        {"first across", [](Cell& c) { c.SetMerge(dwMergeFirstHorizontal); },
-         R"(\clmgf\clvertalt\cellx1440)"},
-        {"first down", [](Cell& c) { c.SetMerge(dwMergeFirstVertical); }, R"(\clvmgf\clvertalt\cellx1440)"},
-        {"first of both", [](Cell& c) { c.SetMerge(dwMergeFirstBoth); },
-         R"(\clmgf\clvmgf\clvertalt\cellx1440)"},
-        {"across", [](Cell& c) { c.SetMerge(dwMergeHorizontal); }, R"(\clmrg\clvertalt\cellx1440)"},
-        {"down", [](Cell& c) { c.SetMerge(dwMergeVertical); }, R"(\clvmrg\clvertalt\cellx1440)"},
-        {"bottom", [](Cell& c) { c.SetVerticalAlign(dwCVABottom); }, R"(\clvertalb\cellx1440)"},
-        {"middle", [](Cell& c) { c.SetVerticalAlign(dwCVACenter); }, R"(\clvertalc\cellx1440)"},
-        {"across the page", [](Cell& c) { c.SetOrientation(dwReadNormal); }, R"(\clvertalt\cellx1440)"},
-        {"upwards", [](Cell& c) { c.SetOrientation(dwReadRight); }, R"(\clvertalt\cellx1440\cltxbtlr)"},
-        {"downwards", [](Cell& c) { c.SetOrientation(dwReadLeft); }, R"(\clvertalt\cellx1440\cltxbtrl)"},
-        {"narrow", [](Cell& c) { c.SetWidth(-0.1); }, R"(\clvertalt\cellx-144)"},
-        {"a background that was only read", [](Cell& c) { c.Background(); }, R"(\clvertalt\cellx1440)"},
-        {"shaded, with borders after it",
-         [](Cell& c) {
-             c.Background()->SetTexture(dwTextureShaded);
-             c.Background()->SetShading(25);
-             SetBorder(c, dwCBorderTop, dwBSSingle, 1, 0);
-         },
-         R"(\clvertalt\clshdng2500\clbrdrt\brdrs\brdrw20\brdref0\cellx1440)"},
-        {"all borders, in the order of the sides, whole points, ties to even",
-         [](Cell& c) {
-             SetBorder(c, dwCBorderBottom, dwBSThickThinLargeGap, 0.75, 0);
-             SetBorder(c, dwCBorderRight, dwBSSingle, 0.5, 0);
-             SetBorder(c, dwCBorderLeft, dwBSSingle, 1.5, 0);
-             SetBorder(c, dwCBorderTop, dwBSSingle, 2.5, 0xFF0000);
-         },
-         R"(\clvertalt\clbrdrt\brdrs\brdrw40\brdref0\clbrdrl\brdrs\brdrw40\brdref1)"
-         R"(\clbrdrr\brdrs\brdrw0\brdref1\clbrdrb\brdrthtnlg\brdrw20\brdref1\cellx1440)"},
-        {"a border without a style", [](Cell& c) { SetBorder(c, dwCBorderTop, dwBSNone, 3, 0xFF); },
-         R"(\clvertalt\cellx1440)"},
+    const std::pair<Settings, std::string> cases[]{
+        {{}, R"(\clvertalt\cellx1440)"},
+        {{{"Merge", dwMergeFirstHorizontal}}, R"(\clmgf\clvertalt\cellx1440)"},
+        {{{"Merge", dwMergeFirstVertical}}, R"(\clvmgf\clvertalt\cellx1440)"},
+        {{{"Merge", dwMergeFirstBoth}}, R"(\clmgf\clvmgf\clvertalt\cellx1440)"},
+        {{{"Merge", dwMergeHorizontal}}, R"(\clmrg\clvertalt\cellx1440)"},
+        {{{"Merge", dwMergeVertical}}, R"(\clvmrg\clvertalt\cellx1440)"},
+        {{{"VerticalAlign", dwCVABottom}}, R"(\clvertalb\cellx1440)"},
+        {{{"VerticalAlign", dwCVACenter}}, R"(\clvertalc\cellx1440)"},
+        {{{"Orientation", dwReadNormal}}, R"(\clvertalt\cellx1440)"},
+        {{{"Orientation", dwReadRight}}, R"(\clvertalt\cellx1440\cltxbtlr)"},
+        {{{"Orientation", dwReadLeft}}, R"(\clvertalt\cellx1440\cltxbtrl)"},
+        {{{"Width", -0.1}}, R"(\clvertalt\cellx-144)"},
     };
-    for (const auto& [name, set, words] : cases) {
-        const std::string body = BodyOf([&](Section& section) { set(*section.AddTable()->AddCell()); });
-        EXPECT_EQ(body, Row + words + EndEmptyCell + EndRow + "\\par") << name;
+    for (const auto& [settings, words] : cases) {
+        const std::string body =
+            BodyOf([&, &set = settings](Section& s) { Apply(set, *s.AddTable()->AddCell()); });
+        EXPECT_EQ(body, Row + words + EndEmptyCell + EndRow + "\\par");
     }
+}
+
+// Widths are whole points, ties to even, unlike those of rows.
+TEST(Cell, WritesItsBackgroundThenItsBorders) {
+    const std::string body = BodyOf([](Section& section) {
+        auto cell = section.AddTable()->AddCell();
+        SetBorder(*cell, dwCBorderBottom, dwBSThickThinLargeGap, 0.75, 0);
+        SetBorder(*cell, dwCBorderRight, dwBSSingle, 0.5, 0);
+        SetBorder(*cell, dwCBorderLeft, dwBSNone, 3, 0xFF00);
+        SetBorder(*cell, dwCBorderTop, dwBSSingle, 2.5, 0xFF0000);
+        cell->Background()->SetTexture(dwTextureShaded);
+        cell->Background()->SetShading(25);
+    });
+    EXPECT_EQ(body,
+              Row + R"(\clvertalt\clshdng2500\clbrdrt\brdrs\brdrw40\brdref0\clbrdrr\brdrs\brdrw0\brdref1)"
+                  + R"(\clbrdrb\brdrthtnlg\brdrw20\brdref1\cellx1440)" + EndEmptyCell + EndRow + "\\par");
 }
 
 TEST(Row, PutsCellsSideBySideWhereverItBegins) {
