@@ -13,3 +13,9 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/structure/Bookmark.h>
+#include <draftwick/structure/Cell.h>
+#include <draftwick/structure/Columns.h>
+#include <draftwick/structure/Footnote.h>
+#include <draftwick/structure/Header.h>
+#include <draftwick/structure/Table.h>

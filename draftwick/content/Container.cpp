@@ -1,6 +1,7 @@
 #include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Container.h>
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/structure/Table.h>
 
 namespace draftwick {
 
@@ -12,6 +13,16 @@ void Container::WriteParagraphMark() {
     if (!context.layout.SuppressNextParagraphMark) context.output.WriteControlWord("par");
     context.layout.SuppressNextParagraphMark = false;
     context.layout.TableEndsSection = false;
+}
+
+std::shared_ptr<Table> RowContainer::AddTable() { return Add(currentTable_); }
+
+/// A row ends itself: what follows it needs no paragraph mark.
+void RowContainer::WriteRowMark() {
+    WritingContext& context = Writing();
+    if (!context.layout.SuppressNextParagraphMark) context.output.WriteControlWord("par");
+    context.layout.SuppressNextParagraphMark = true;
+    context.layout.TableEndsSection = true;
 }
 
 }  // namespace draftwick

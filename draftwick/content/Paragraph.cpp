@@ -6,6 +6,8 @@
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/structure/Bookmark.h>
+#include <draftwick/structure/Footnote.h>
 
 namespace draftwick {
 
@@ -30,6 +32,12 @@ void Paragraph::SetStyleName(std::string_view name) {
     style_ = index;
 }
 
+std::shared_ptr<Bookmark> Paragraph::AddBookmark(std::string_view name, bool isStart) {
+    return Add(currentBookmark_, name, isStart);
+}
+
+std::shared_ptr<Footnote> Paragraph::AddFootnote(bool isEndnote) { return Add(currentFootnote_, isEndnote); }
+
 std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw) {
     return Add(currentTextItem_, text, raw);
 }
@@ -37,8 +45,11 @@ std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw
 /// \par\pard\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
-    static_cast<Container&>(*RequireParent()).WriteParagraphMark();
+    const std::shared_ptr<Object> parent = RequireParent();
+    auto& container = static_cast<Container&>(*parent);
+    container.WriteParagraphMark();
     context.output.WriteControlWord("pard");
+    container.WriteParagraphPlace();
     if (style_ != Style::NoStyle) context.output.WriteControlWord("s", style_);
     if (const ParagraphBorders* borders = borders_.Find()) EmitParagraphBorders(context, *borders);
     if (const draftwick::Background* background = background_.Find())
@@ -56,6 +67,8 @@ const Class& Paragraph::Describe() {
         "{3F3895CF-38AE-4BB8-A68D-6E8A0CAC9FD3}",
         "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
+            PropertyOf<&P::CurrentBookmark>("CurrentBookmark"),
+            PropertyOf<&P::CurrentFootnote>("CurrentFootnote"),
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
             PropertyOf<&P::Emitted>("Emitted"),
             PropertyOf<&P::Finished>("Finished"),
@@ -67,6 +80,8 @@ const Class& Paragraph::Describe() {
             PropertyOf<&P::StyleName, &P::SetStyleName>("StyleName"),
         },
         {
+            MethodOf<&P::AddBookmark>("AddBookmark", {{"Name"}, {"IsStart", Variant{true}}}),
+            MethodOf<&P::AddFootnote>("AddFootnote", {{"IsEndnote", Variant{false}}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};
     return description;

@@ -12,6 +12,8 @@
 
 namespace draftwick {
 
+class Bookmark;
+class Footnote;
 class TextItem;
 
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
@@ -39,7 +41,14 @@ public:
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
 
-    /// The run that was added last; empty before the first.
+    /// Adds the start, or the end, of a bookmark at this place of the text.
+    std::shared_ptr<Bookmark> AddBookmark(std::string_view name, bool isStart = true);
+    /// Adds a footnote, or an endnote, to this place of the text.
+    std::shared_ptr<Footnote> AddFootnote(bool isEndnote = false);
+
+    /// The children that were added last, by kind; empty before the first.
+    std::shared_ptr<Bookmark> CurrentBookmark() const { return currentBookmark_; }
+    std::shared_ptr<Footnote> CurrentFootnote() const { return currentFootnote_; }
     std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
 
     static const Class& Describe();
@@ -59,6 +68,8 @@ private:
     Lazy<draftwick::Background> background_;
     Lazy<ParagraphBorders> borders_;
     Lazy<draftwick::TabStops> tabStops_;
+    std::shared_ptr<Bookmark> currentBookmark_;
+    std::shared_ptr<Footnote> currentFootnote_;
     std::shared_ptr<TextItem> currentTextItem_;
 };
 

@@ -32,7 +32,7 @@ void WritePage(Output& output, const Section::Values& section) {
 
 }  // namespace
 
-void EmitSection(WritingContext& context, const Section::Values& section) {
+void EmitSection(WritingContext& context, const Section::Values& section, const Columns& columns) {
     Output& output = context.output;
     if (!context.firstSection) output.WriteControlWord("sect");
     context.firstSection = false;
@@ -41,6 +41,7 @@ void EmitSection(WritingContext& context, const Section::Values& section) {
     if (section.paperBinFirst < 0) output.WriteControlWord("binfsxn", section.paperBinFirst);
     output.WriteControlWord("binsxn", section.paperBin);
     output.WriteWord(BreakWords, section.sectionBreak);
+    EmitColumns(context, columns);
     WriteLineNumbering(output, section);
     WritePage(output, section);
     if (section.titlePage) output.WriteControlWord("titlepg");

@@ -7,6 +7,12 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/structure/Bookmark.h>
+#include <draftwick/structure/Cell.h>
+#include <draftwick/structure/Columns.h>
+#include <draftwick/structure/Footnote.h>
+#include <draftwick/structure/Header.h>
+#include <draftwick/structure/Table.h>
 
 namespace draftwick {
 
@@ -15,10 +21,18 @@ namespace draftwick {
 std::span<const Class* const> Classes() {
     static const Class* const all[] = {
         &Background::Describe(),
+        &Bookmark::Describe(),
+        &Cell::Describe(),
+        &CellBorder::Describe(),
+        &CellBorders::Describe(),
+        &Column::Describe(),
+        &Columns::Describe(),
         &Document::Describe(),
         &Font::Describe(),
         &FontFormat::Describe(),
         &Fonts::Describe(),
+        &Footnote::Describe(),
+        &Header::Describe(),
         &List::Describe(),
         &ListLevel::Describe(),
         &Lists::Describe(),
@@ -32,6 +46,9 @@ std::span<const Class* const> Classes() {
         &Special::Describe(),
         &TabStop::Describe(),
         &TabStops::Describe(),
+        &Table::Describe(),
+        &TableBorder::Describe(),
+        &TableBorders::Describe(),
         &TextBorder::Describe(),
         &TextItem::Describe(),
         &TextStyle::Describe(),

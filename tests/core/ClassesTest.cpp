@@ -63,14 +63,42 @@ Subject OfSection(const std::function<ObjectPointer(Section&)>& make) {
     return {document, make(*section), [section] { section->AddParagraph(); }, "Section", {section}};
 }
 
+Subject OfTable(const std::function<ObjectPointer(Table&)>& make) {
+    auto document = NewDocument();
+    auto table = document->AddSection()->AddTable();
+    return {document, make(*table), [table] { table->AddCell(); }, "Table", {table}};
+}
+
+Subject OfCell(const std::function<ObjectPointer(Cell&)>& make) {
+    auto document = NewDocument();
+    auto table = document->AddSection()->AddTable();
+    auto cell = table->AddCell();
+    return {document, make(*cell), [cell] { cell->AddParagraph(); }, "Cell", {table, cell}};
+}
+
 const std::map<std::string, std::function<Subject()>>& Makers() {
     static const std::map<std::string, std::function<Subject()>> makers{
         {"Background", [] { return OfParagraph([](Paragraph& p) { return p.Background(); }); }},
+        {"Bookmark",
+         [] {
+             auto document = NewDocument();
+             auto paragraph = document->AddSection()->AddParagraph();
+             auto bookmark = paragraph->AddBookmark("");
+             return Subject{
+                 document, bookmark, [paragraph] { paragraph->AddTextItem("x"); }, "Bookmark", {paragraph}};
+         }},
+        {"Cell", [] { return OfCell([](Cell& c) { return c.Self(); }); }},
+        {"CellBorder", [] { return OfCell([](Cell& c) { return c.Borders()->Items(dwCBorderTop); }); }},
+        {"CellBorders", [] { return OfCell([](Cell& c) { return c.Borders(); }); }},
+        {"Column", [] { return OfSection([](Section& s) { return s.Columns()->Add(0, 0); }); }},
+        {"Columns", [] { return OfSection([](Section& s) { return s.Columns(); }); }},
         {"Document",
          [] { return OfDocument([](Document& d) { return std::static_pointer_cast<Document>(d.Self()); }); }},
         {"Font", [] { return OfDocument([](Document& d) { return d.Fonts()->Add("A"); }); }},
         {"FontFormat", [] { return OfText([](TextItem& t) { return t.FontFormat(); }); }},
         {"Fonts", [] { return OfDocument([](Document& d) { return d.Fonts(); }); }},
+        {"Footnote", [] { return OfParagraph([](Paragraph& p) { return p.AddFootnote(); }); }},
+        {"Header", [] { return OfSection([](Section& s) { return s.AddHeader(dwHeader); }); }},
         {"List", [] { return OfDocument([](Document& d) { return d.Lists()->Add("A"); }, ""); }},
         {"ListLevel",
          [] { return OfDocument([](Document& d) { return d.Lists()->Add("A")->Levels(1); }, ""); }},
@@ -94,6 +122,9 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
                  [](Paragraph& p) { return p.TabStops()->Add(1, dwTabLeft, dwTabLeaderNone); });
          }},
         {"TabStops", [] { return OfParagraph([](Paragraph& p) { return p.TabStops(); }); }},
+        {"Table", [] { return OfTable([](Table& t) { return t.Self(); }); }},
+        {"TableBorder", [] { return OfTable([](Table& t) { return t.Borders()->Items(dwTBorderTop); }); }},
+        {"TableBorders", [] { return OfTable([](Table& t) { return t.Borders(); }); }},
         {"TextBorder", [] { return OfText([](TextItem& t) { return t.Border(); }); }},
         {"TextItem", [] { return OfText([](TextItem& t) { return t.Self(); }); }},
         {"TextStyle", [] { return OfDocument([](Document& d) { return d.TextStyles()->Add("A"); }); }},
