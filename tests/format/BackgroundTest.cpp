@@ -22,51 +22,45 @@ std::string Written(Writer writer, dwTexture texture, double shading = 0) {
 }  // namespace
 
 TEST(Background, WritesEveryPatternInItsThreeForms) {
-    struct Case {
-        dwTexture texture;
-        std::string stem;
-    };
-    const Case cases[] = {
-        {dwTextureCross, "bgcross"},
-        {dwTextureDarkCross, "bgdkcross"},
-        {dwTextureDarkDiagonalCross, "bgdkdcross"},
-        {dwTextureDarkDiagonalDown, "bgdkfdiag"},
-        {dwTextureDarkDiagonalUp, "bgdkbdiag"},
-        {dwTextureDarkHorizontal, "bgdkhoriz"},
-        {dwTextureDarkVertical, "bgdkvert"},
-        {dwTextureDiagonalCross, "bgdcross"},
-        {dwTextureDiagonalDown, "bgfdiag"},
-        {dwTextureDiagonalUp, "bgbdiag"},
-        {dwTextureHorizontal, "bghoriz"},
-        {dwTextureVertical, "bgvert"},
-    };
-    for (const auto& [texture, stem] : cases) {
-        EXPECT_EQ(Written(EmitBackground, texture), "\\" + stem + "\\cbpat1\\cfpat0");
-        EXPECT_EQ(Written(EmitCharacterBackground, texture), "\\ch" + stem + "\\chcbpat1\\chfpat0");
-        EXPECT_EQ(Written(EmitCellBackground, texture), "\\cl" + stem + "\\clcbpat1\\clfpat0");
-    }
+    ExpectWords<dwTexture>(
+        "- bgcross bgdkcross bgdkdcross bgdkfdiag bgdkbdiag bgdkhoriz bgdkvert bgdcross bgfdiag "
+        "bgbdiag bghoriz shading10000 bgvert",
+        [](dwTexture texture) {
+            const std::string words = Written(EmitBackground, texture);
+            const std::string word = words.substr(0, words.find("\\c"));
+            if (word.starts_with("\\bg")) {
+                const std::string stem = word.substr(1);
+                EXPECT_EQ(words, word + "\\cbpat1\\cfpat0");
+                EXPECT_EQ(Written(EmitCharacterBackground, texture), "\\ch" + stem + "\\chcbpat1\\chfpat0");
+                EXPECT_EQ(Written(EmitCellBackground, texture), "\\cl" + stem + "\\clcbpat1\\clfpat0");
+            }
+            return word;
+        });
 }
 
 TEST(Background, WritesShadingDifferentlyInParagraphsTextAndCells) {
     struct Case {
         dwTexture texture;
         double shading;
-        std::string paragraph, text, cell;
+        std::string paragraph, inner;
     };
     const Case cases[] = {
-        {dwTextureNone, 25, "", "", ""},
-        {dwTextureSolid, 25, "\\shading10000\\cfpat0", "\\chshdng10000\\chcbpat1",
-         "\\clshdng10000\\clcbpat1"},
-        {dwTextureShaded, 25, "\\shading2500\\cfpat0", "\\chshdng2500", "\\clshdng2500"},
-        {dwTextureShaded, 12.5, "\\shading1200\\cfpat0", "\\chshdng1200", "\\clshdng1200"},
-        {dwTextureShaded, 13.5, "\\shading1400\\cfpat0", "\\chshdng1400", "\\clshdng1400"},
-        {dwTextureShaded, -5, "\\shading-500\\cfpat0", "\\chshdng-500", "\\clshdng-500"},
-        {dwTextureShaded, 32767, "\\shading3276700\\cfpat0", "\\chshdng3276700", "\\clshdng3276700"},
+        {dwTextureNone, 25, "", ""},
+        {dwTextureSolid, 25, "\\shading10000\\cfpat0", "shdng10000\\@cbpat1"},
+        {dwTextureShaded, 25, "\\shading2500\\cfpat0", "shdng2500"},
+        {dwTextureShaded, 12.5, "\\shading1200\\cfpat0", "shdng1200"},
+        {dwTextureShaded, 13.5, "\\shading1400\\cfpat0", "shdng1400"},
+        {dwTextureShaded, -5, "\\shading-500\\cfpat0", "shdng-500"},
+        {dwTextureShaded, 32767, "\\shading3276700\\cfpat0", "shdng3276700"},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(Written(EmitBackground, c.texture, c.shading), c.paragraph);
-        EXPECT_EQ(Written(EmitCharacterBackground, c.texture, c.shading), c.text);
-        EXPECT_EQ(Written(EmitCellBackground, c.texture, c.shading), c.cell);
+    const auto of = [](const std::string& form, std::string words) {
+        if (const std::size_t at = words.find('@'); at != std::string::npos) words.replace(at, 1, form);
+        return words.empty() ? words : "\\" + form + words;
+    };
+    for (const auto& [texture, shading, paragraph, inner] : cases) {
+        EXPECT_EQ(Written(EmitBackground, texture, shading), paragraph);
+        EXPECT_EQ(Written(EmitCharacterBackground, texture, shading), of("ch", inner));
+        EXPECT_EQ(Written(EmitCellBackground, texture, shading), of("cl", inner));
     }
 }
 

@@ -151,27 +151,23 @@ TEST(ListLevel, WritesAllWordsInOrder) {
 }
 
 TEST(ListLevel, HasAWordForEveryStyleAlignmentAndFollow) {
-    const auto words = [](const auto& set) {
+    const auto word = [](const std::string& name, const auto& set) {
         TestDocument document;
         set(*document->Lists()->Add("L")->Levels(1));
         const std::string tables = Tables(document);
-        const std::size_t start = tables.find("\\levelnfc");
-        return tables.substr(start, tables.find("\\levelstartat") - start);
+        const std::size_t start = tables.find(name);
+        return tables.substr(start, tables.find('\\', start + 1) - start);
     };
-    const std::string after = "\\leveljc0\\levelfollow0";
     ExpectWords<dwListNumberStyle>(
-        {"\\levelnfc6" + after, "\\levelnfc0" + after, "\\levelnfc3" + after, "\\levelnfc4" + after,
-         "\\levelnfc1" + after, "\\levelnfc2" + after, "\\levelnfc5" + after, "\\levelnfc7" + after,
-         "\\levelnfc22" + after, "\\levelnfc23" + after},
-        [&](dwListNumberStyle style) { return words([&](ListLevel& level) { level.SetStyle(style); }); });
-    ExpectWords<dwListNumberAlign>(
-        {"\\levelnfc0\\leveljc0\\levelfollow0", "\\levelnfc0\\leveljc2\\levelfollow0",
-         "\\levelnfc0\\leveljc1\\levelfollow0"},
-        [&](dwListNumberAlign align) { return words([&](ListLevel& level) { level.SetAlign(align); }); });
-    ExpectWords<dwListNumberFollow>(
-        {"\\levelnfc0\\leveljc0\\levelfollow2", "\\levelnfc0\\leveljc0\\levelfollow1",
-         "\\levelnfc0\\leveljc0\\levelfollow0"},
-        [&](dwListNumberFollow follow) { return words([&](ListLevel& level) { level.SetFollow(follow); }); });
+        "levelnfc6 levelnfc0 levelnfc3 levelnfc4 levelnfc1 levelnfc2 levelnfc5 levelnfc7 levelnfc22 "
+        "levelnfc23",
+        [&](auto style) { return word("\\levelnfc", [&](ListLevel& level) { level.SetStyle(style); }); });
+    ExpectWords<dwListNumberAlign>("leveljc0 leveljc2 leveljc1", [&](auto align) {
+        return word("\\leveljc", [&](ListLevel& level) { level.SetAlign(align); });
+    });
+    ExpectWords<dwListNumberFollow>("levelfollow2 levelfollow1 levelfollow0", [&](auto follow) {
+        return word("\\levelfollow", [&](ListLevel& level) { level.SetFollow(follow); });
+    });
 }
 
 TEST(ListLevel, CountsTheCharactersOfItsFormat) {

@@ -39,9 +39,10 @@ TEST(ParagraphFormat, WritesAllWordsInOrder) {
         Layout(setAll),
         "\\hyphpar0\\keep\\nowidctlpar\\keepn\\noline\\pagebb\\qj\\fi-20\\li20\\ri-30\\sb120\\sa160\\sl280"
         "\\slmult0\\outlinelevel8");
-    ExpectWords<dwParagraphAlign>(
-        {Spacing, "\\qr" + Spacing, "\\qc" + Spacing, "\\qj" + Spacing},
-        [](dwParagraphAlign align) { return Layout([&](ParagraphFormat& f) { f.SetAlign(align); }); });
+    ExpectWords<dwParagraphAlign>("- qr qc qj", [](dwParagraphAlign align) {
+        const std::string words = Layout([&](ParagraphFormat& f) { f.SetAlign(align); });
+        return words.substr(0, words.size() - Spacing.size());
+    });
 }
 
 TEST(ParagraphFormat, RoundsSpaceDownAndLineSpacingToTheNearestEven) {
@@ -104,40 +105,20 @@ TEST(ParagraphFormat, WritesWidowControlWhereItDiffersFromTheDocument) {
 }
 
 TEST(ParagraphBorders, HaveAWordForEveryStyle) {
-    const std::vector<std::string> words = {"",
-                                            "brdrs",
-                                            "brdrsh",
-                                            "brdrdb",
-                                            "brdrdot",
-                                            "brdrdash",
-                                            "brdrdashsm",
-                                            "brdrdashd",
-                                            "brdrdashdd",
-                                            "brdrtriple",
-                                            "brdrtnthsg",
-                                            "brdrthtnsg",
-                                            "brdrtnthtnsg",
-                                            "brdrtnthmg",
-                                            "brdrthtnmg",
-                                            "brdrtnthtnmg",
-                                            "brdrtnthlg",
-                                            "brdrthtnlg",
-                                            "brdrtnthtnlg",
-                                            "brdrwavy",
-                                            "brdrwavydb",
-                                            "brdrdashdotstr",
-                                            "brdremboss",
-                                            "brdrengrave"};
-    ExpectWords<dwBorderStyle>(words, [&](dwBorderStyle style) {
+    const std::string words =
+        "- brdrs brdrsh brdrdb brdrdot brdrdash brdrdashsm brdrdashd brdrdashdd brdrtriple "
+        "brdrtnthsg brdrthtnsg brdrtnthtnsg brdrtnthmg brdrthtnmg brdrtnthtnmg brdrtnthlg "
+        "brdrthtnlg brdrtnthtnlg brdrwavy brdrwavydb brdrdashdotstr brdremboss brdrengrave";
+    ExpectWords<dwBorderStyle>(words, [](dwBorderStyle style) -> std::string {
         ParagraphBorder::Values border;
         border.style.Set(style);
-        const std::string word{BorderStyleWord(style)};
+        const std::string word = "\\" + std::string{BorderStyleWord(style)};
         EXPECT_EQ(
             WordsOf([&](WritingContext& context) { EmitParagraphBorder(context, dwPBorderTop, border); }),
-            style == dwBSNone ? "" : "\\brdrt\\" + word + "\\brsp20\\brdrw20\\brdrcf0");
-        return word;
+            style == dwBSNone ? "" : "\\brdrt" + word + "\\brsp20\\brdrw20\\brdrcf0");
+        return style == dwBSNone ? "" : word;
     });
-    for (const std::int32_t none : {-1, 0, 25}) EXPECT_EQ(BorderStyleWord(none), "");
+    for (const std::int32_t none : {-1, 0, 1, 25}) EXPECT_EQ(BorderStyleWord(none), "");
 }
 
 TEST(ParagraphBorders, AreWrittenInTheOrderOfTheSides) {
@@ -168,21 +149,17 @@ TEST(ParagraphBorders, AreWrittenInTheOrderOfTheSides) {
 }
 
 TEST(TabStops, HaveAWordForEveryAlignmentAndLeader) {
-    TestDocument document;
-    document->SetScaleMode(dwTwips);
-    const auto stops = document.AddParagraph()->TabStops();
-    const std::string aligns[] = {"", "\\tqr", "\\tqc", "\\tqdec"};
-    const std::string leaders[] = {"", "\\tldot", "\\tlhyph", "\\tlul"};
-    std::string expected;
-    int position = 2000;
-    for (int align = 1; align <= 4; ++align) {
-        for (int leader = 1; leader <= 4; ++leader) {
-            stops->Add(--position, static_cast<dwTabAlign>(align), static_cast<dwTabLeader>(leader));
-            expected += aligns[align - 1] + leaders[leader - 1] + "\\tx" + std::to_string(position);
-        }
-    }
-    stops->Add(-720, dwTabBar, dwTabLeaderUnderline);
-    EXPECT_EQ(document.FinishBody(), "\\pard" + Plain + Spacing + expected + "\\tb-720");
+    const auto words = [](std::int32_t align, std::int32_t leader) {
+        TestDocument document;
+        document.AddParagraph()->TabStops()->Add(-0.5, static_cast<dwTabAlign>(align),
+                                                 static_cast<dwTabLeader>(leader));
+        return document.FinishBody().substr(("\\pard" + Plain + Spacing).size());
+    };
+    ExpectWords<dwTabAlign>("tx-720 tqr\\tx-720 tqc\\tx-720 tqdec\\tx-720 tb-720",
+                            [&](auto align) { return words(align, dwTabLeaderNone); });
+    ExpectWords<dwTabLeader>("tqc\\tx-720 tqc\\tldot\\tx-720 tqc\\tlhyph\\tx-720 tqc\\tlul\\tx-720",
+                             [&](auto leader) { return words(dwTabCenter, leader); });
+    EXPECT_EQ(words(dwTabBar, dwTabLeaderDots), "\\tb-720");
 }
 
 TEST(TabStops, KeepTheOrderOfAdditionAndCanBeCleared) {

@@ -1,5 +1,4 @@
 #include "tests/support/Documents.h"
-#include "tests/support/Errors.h"
 
 #include <draftwick/format/BorderWriter.h>
 
@@ -55,20 +54,11 @@ TEST(Run, IsChangedByTheFirstReadOfAFormatUnderATextStyle) {
 TEST(Run, StartsFromTheFormatOfTheParagraphAtThatMoment) {
     TestDocument document;
     const auto paragraph = document.AddParagraph();
-    const auto early = paragraph->AddTextItem("early");
-    early->FontFormat()->SetItalic(true);
-    // Written: the paragraph's format can be read, and is its own from now on, but not changed.
-    EXPECT_EQ(Refusal([&] { paragraph->FontFormat()->SetSize(30); }),
-              "X109 Invalid operation.  Target already emitted Paragraph.");
-    const auto styled = document->CurrentSection()->AddParagraph();
-    styled->FontFormat()->SetSize(30);
-    const auto late = styled->AddTextItem("late");
-    EXPECT_EQ(late->FontFormat()->Size(), 30);
-    late->FontFormat()->SetSize(12);
-    EXPECT_EQ(document.FinishBody(),
-              "\\pard" + Plain + Spacing
-                  + "{\\i1 early}"
-                    "\\par\\pard\\plain\\fs60\\cf0\\sb0\\sa0\\sl240\\slmult1{\\fs24 late}");
+    paragraph->FontFormat()->SetSize(30);
+    const auto item = paragraph->AddTextItem("x")->FontFormat();
+    EXPECT_EQ(item->Size(), 30);
+    item->SetSize(12);
+    EXPECT_EQ(document.FinishBody(), "\\pard\\plain\\fs60\\cf0" + Spacing + "{\\fs24 x}");
 }
 
 TEST(Run, WritesStyleFormatBackgroundAndBorderInThisOrder) {
@@ -85,21 +75,6 @@ TEST(Run, WritesStyleFormatBackgroundAndBorderInThisOrder) {
                   + ""
                     "{\\cs0\\b1\\chbgcross\\chcbpat1\\chfpat0\\chbrdr\\brdrwavy\\brdrw20\\brdrref2 "
                     "a\\{b\\}}");
-}
-
-TEST(Run, NamesAStyleThatMustExistWhenItIsWritten) {
-    TestDocument document;
-    document->TextStyles()->Add("T");
-    const auto paragraph = document.AddParagraph();
-    const auto item = paragraph->AddTextItem("x");
-    item->SetStyleName("U");
-    const std::string unknown = "X112 Item not found 'U'.";
-    EXPECT_EQ(Refusal([&] { paragraph->AddTextItem("y"); }), unknown);
-    EXPECT_EQ(Refusal([&] { document->Finish(); }), unknown);
-    EXPECT_FALSE(item->Emitted());
-    item->SetStyleName("T");
-    paragraph->AddTextItem("y");
-    EXPECT_EQ(document.FinishBody(), "\\pard" + Plain + Spacing + "{\\cs0 x}{y}");
 }
 
 TEST(TextBorder, IsWrittenUnlessItsStyleIsNone) {

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -87,12 +88,14 @@ inline std::string WordsOf(const std::function<void(WritingContext&)>& write) {
     return Words(files->Bytes("words"));
 }
 
-/// Checks what is written for each value of an enumeration, from 1 on.
+/// Checks the words of an enumeration: one for each value from 1 on, divided by blanks, "-" where there is none.
 template <class Enumeration>
-void ExpectWords(const std::vector<std::string>& words,
-                 const std::function<std::string(Enumeration)>& write) {
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        EXPECT_EQ(write(static_cast<Enumeration>(i + 1)), words[i]) << "value " << i + 1;
+void ExpectWords(const std::string& words, const std::function<std::string(Enumeration)>& write) {
+    std::istringstream list(words);
+    std::string word;
+    for (std::int32_t value = 1; list >> word; ++value) {
+        EXPECT_EQ(write(static_cast<Enumeration>(value)), word == "-" ? "" : "\\" + word)
+            << "value " << value;
     }
 }
 
