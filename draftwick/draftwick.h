@@ -4,12 +4,14 @@
 #include <draftwick/base/Class.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Version.h>
+#include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/Special.h>
 #include <draftwick/content/TextItem.h>
 #include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
+#include <draftwick/core/Properties.h>
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>

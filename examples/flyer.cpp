@@ -1,5 +1,5 @@
-// A flyer: shapes of many kinds, shaded and patterned fills, shadows, arrows, a text box with a table, and two
-// pictures, which the program makes itself and leaves beside its output.
+// A flyer: a title in WordArt, shapes of many kinds, one of them with depth, shaded and patterned fills, shadows,
+// arrows, a text box with a table, and two pictures, which the program makes itself and leaves beside its output.
 //
 // usage: flyer OUTPUT.rtf
 #include "support/Pictures.h"
@@ -55,6 +55,8 @@ void AddStyles(Document& document) {
     add("Occasion", 15, Navy);
     add("Box title", 14, Red);
     add("Stamp", 16, White);
+    // Room for the title, which is drawn.
+    document.ParagraphStyles()->Items("Headline")->Format()->SetSpaceBefore(62);
 }
 
 void AddLine(Container& container, const char* style, const char* text) {
@@ -69,7 +71,7 @@ std::shared_ptr<Shape> AddShape(Paragraph& anchor, dwShapeKind kind, double left
     auto shape = anchor.AddShape(kind);
     shape->SetLeft(left);
     shape->SetReferenceY(dwSRYPage);
-    shape->SetTop(2 + top);
+    shape->SetTop(2.8 + top);
     shape->SetWidth(width);
     shape->SetHeight(height);
     return shape;
@@ -81,6 +83,14 @@ std::shared_ptr<Shape> AddFilled(Paragraph& anchor, dwShapeKind kind, double lef
     shape->Fill()->SetStyle(dwSFSSolid);
     shape->Fill()->SetColor(color);
     return shape;
+}
+
+/// Text that takes the form of its shape, a wave, and is painted like one.
+void DrawTitle(Paragraph& anchor) {
+    auto title = AddFilled(anchor, dwSKTextWave1, 1, -2.1, 4.9, 0.8, Yellow);
+    title->Line()->SetColor(Navy);
+    title->WordArt()->SetText("Kite Day");
+    title->WordArt()->SetBold(true);
 }
 
 void DrawSky(Paragraph& anchor) {
@@ -101,6 +111,17 @@ void DrawSky(Paragraph& anchor) {
     auto sea = AddFilled(anchor, dwSKDoubleWave, 0, 3.6, 6.9, 0.8, Rgb(30, 90, 170));
     sea->Fill()->SetOpacity(80);
     sea->Line()->SetColor(Navy);
+}
+
+/// A figure and its depth, which goes to the upper right.
+void DrawBuoy(Paragraph& anchor) {
+    auto buoy = AddFilled(anchor, dwSKOctagon, 2.6, 3.6, 0.5, 0.5, Red);
+    auto depth = buoy->ThreeD();
+    depth->SetVisible(true);
+    depth->SetDepth(0.3);
+    depth->SetUseColor(true);
+    depth->SetColor(Rgb(140, 25, 25));
+    depth->SetMetallic(true);
 }
 
 void DrawBoat(Paragraph& anchor) {
@@ -199,7 +220,9 @@ void WriteFlyer(const std::string& filename) {
     anchor->Format()->SetSpaceBefore(540);
     anchor->AddTextItem("Bring a kite or borrow one of ours. Dogs stay on the leash, kites too.");
 
+    DrawTitle(*anchor);
     DrawSky(*anchor);
+    DrawBuoy(*anchor);
     DrawBoat(*anchor);
     DrawKites(*anchor, cloth);
     DrawBurst(*anchor);

@@ -108,8 +108,11 @@ void AddHeaders(Section& section) {
         auto footer = section.AddHeader(kind)->AddParagraph();
         footer->SetStyleName("Small print");
         footer->TabStops()->Add(6.7, dwTabRight, dwTabLeaderNone);
-        auto text = footer->AddTextItem("IBAN DE02 1203 0000 0000 2020 51\tPage ");
-        text->AddSpecial(Special::PageNumber());
+        footer->AddTextItem("IBAN DE02 1203 0000 0000 2020 51\tPage ");
+        // The reader works these out; the numbers here are shown only until it does.
+        footer->AddField("PAGE", "1");
+        footer->AddTextItem(" of ");
+        footer->AddField("NUMPAGES", "1");
     }
 }
 
@@ -214,6 +217,10 @@ void WriteInvoice(const std::string& file) {
     AddHeaders(*section);
 
     AddParagraph(*section, "Title", "Invoice " + Number);
+    // An invoice keeps its date: readers do not update a locked field.
+    auto date = AddParagraph(*section, "Normal", "Date: ")->AddField("DATE", "20 April 2026");
+    date->SetDatePicture("d MMMM yyyy");
+    date->SetLocked(true);
     AddParagraph(
         *section, "Normal",
         "Theater am Hafen, Hafenstraße 12, 18055 Rostock. Services in the weeks 12 to 15 of 2026, as "

@@ -1,5 +1,5 @@
-/// Writes a newsletter: a title across the page, text in two columns with a line between them, footnotes, endnotes
-/// at the end, and bookmarks that links from elsewhere can point at.
+/// Writes a newsletter: a title across the page, text in two columns with a line between them, a drop cap,
+/// footnotes, endnotes at the end, and bookmarks that links from elsewhere can point at.
 ///
 /// usage: newsletter FILE.rtf
 #include <draftwick/draftwick.h>
@@ -13,49 +13,40 @@ using namespace draftwick;
 
 namespace {
 
-/// The first style is what readers take for the default, and the one that the others are based on.
-void AddStyles(Document& document) {
-    document.Fonts()->Add("Georgia")->SetFamily(dwRoman);
-    document.SetDefaultFontName("Georgia");
+/// The looks of the paragraphs, in points. They are not styles, because LibreOffice lets text run around a drop cap
+/// only in documents without paragraph styles.
+struct Look {
+    double size;
+    dwParagraphAlign align = dwAlignLeft;
+    double spaceBefore = 0;
+    double spaceAfter = 6;
+    bool bold = false;
+    bool italic = false;
+};
+constexpr Look Title{.size = 30, .align = dwAlignCenter};
+constexpr Look Issue{.size = 10, .align = dwAlignCenter, .spaceAfter = 10, .italic = true};
+constexpr Look Headline{.size = 14, .spaceBefore = 10, .spaceAfter = 4, .bold = true};
+constexpr Look Text{.size = 10.5, .align = dwAlignJustify};
+constexpr Look DropCap{.size = 40, .spaceAfter = 0};
+constexpr Look Line{.size = 10.5};
+constexpr Look Footer{.size = 9, .align = dwAlignCenter};
 
-    auto body = document.ParagraphStyles()->Add("Normal");
-    body->FontFormat()->SetSize(10.5);
-    body->Format()->SetSpaceAfter(6);
-    body->Format()->SetLineSpacingMultiple(1.1);
-
-    const auto add = [&](std::string_view name, double size, dwParagraphAlign align) {
-        auto style = document.ParagraphStyles()->Add(name);
-        style->SetBasedOn("Normal");
-        style->FontFormat()->SetSize(size);
-        style->Format()->SetAlign(align);
-        return style;
-    };
-    add("Title", 30, dwAlignCenter);
-    add("Text", 10.5, dwAlignJustify);
-    add("Footer", 9, dwAlignCenter);
-
-    auto issue = add("Issue", 10, dwAlignCenter);
-    issue->FontFormat()->SetItalic(true);
-    issue->Format()->SetSpaceAfter(10);
-    issue->Borders()->Items(dwPBorderBottom)->SetStyle(dwBSThinThickSmallGap);
-    issue->Borders()->Items(dwPBorderBottom)->SetWidth(3);
-
-    auto heading = add("Headline", 14, dwAlignLeft);
-    heading->FontFormat()->SetBold(true);
-    heading->Format()->SetSpaceBefore(10);
-    heading->Format()->SetSpaceAfter(4);
-    heading->Format()->SetKeepWithNext(true);
-}
-
-std::shared_ptr<Paragraph> AddParagraph(Container& container, std::string_view style) {
+std::shared_ptr<Paragraph> AddParagraph(Container& container, const Look& look) {
     auto paragraph = container.AddParagraph();
-    paragraph->SetStyleName(style);
+    paragraph->FontFormat()->SetSize(look.size);
+    paragraph->FontFormat()->SetBold(look.bold);
+    paragraph->FontFormat()->SetItalic(look.italic);
+    paragraph->Format()->SetAlign(look.align);
+    paragraph->Format()->SetSpaceBefore(look.spaceBefore);
+    paragraph->Format()->SetSpaceAfter(look.spaceAfter);
+    paragraph->Format()->SetLineSpacingMultiple(1.1);
     return paragraph;
 }
 
 /// A heading with a bookmark around it.
 void AddHeading(Section& section, std::string_view bookmark, std::string_view text) {
-    auto heading = AddParagraph(section, "Headline");
+    auto heading = AddParagraph(section, Headline);
+    heading->Format()->SetKeepWithNext(true);
     heading->AddBookmark(bookmark);
     heading->AddTextItem(text);
     heading->AddBookmark(bookmark, false);
@@ -77,17 +68,30 @@ void AddNote(Paragraph& paragraph, std::string_view text, bool isEndnote = false
     note->AddTextItem(text);
 }
 
+/// The first letter of an article, three lines high: a paragraph of its own in a frame at the head of the text, which
+/// runs around it.
+void AddDropCap(Section& section, std::string_view letter) {
+    auto paragraph = AddParagraph(section, DropCap);
+    paragraph->Frame()->SetDropCapLines(3);
+    paragraph->Frame()->SetReferenceY(dwFRYParagraph);
+    paragraph->Frame()->SetSpacingX(0.04);
+    paragraph->Format()->SetLineSpacingStyle(dwSpacingExactly);
+    paragraph->Format()->SetLineSpacingDistance(40);  // three lines of the text
+    paragraph->AddTextItem(letter);
+}
+
 void AddArticles(Section& section) {
     AddHeading(section, "Harvest", "A late harvest");
-    auto first = AddParagraph(section, "Text");
+    AddDropCap(section, "T");
+    auto first = AddParagraph(section, Text);
     first->AddTextItem(
-        "The orchard behind the station gave more apples this year than in the three years before "
+        "he orchard behind the station gave more apples this year than in the three years before "
         "together. The first baskets went to the school kitchen");
     AddNote(*first, "412 kg, weighed by the pupils themselves.");
     first->AddTextItem(
         ", the rest to the cider press in the old fire station, which ran for nine days without a "
         "break. Whoever brought apples took bottles home; whoever brought none could buy them.");
-    auto second = AddParagraph(section, "Text");
+    auto second = AddParagraph(section, Text);
     second->AddTextItem(
         "Two trees at the northern fence will be felled in winter. They were planted in 1921");
     AddNote(*second, "Parish register of 1921, page 88.", true);
@@ -97,7 +101,7 @@ void AddArticles(Section& section) {
         "are still welcome.");
 
     AddHeading(section, "Bridge", "The bridge is open");
-    auto third = AddParagraph(section, "Text");
+    auto third = AddParagraph(section, Text);
     third->AddTextItem(
         "After fourteen months of detours the footbridge over the mill stream is open again. The "
         "new deck is oak, the railings are the old ones, straightened and galvanised. It carries "
@@ -106,7 +110,7 @@ void AddArticles(Section& section) {
     third->AddTextItem(
         ". On the first Sunday more than three hundred people crossed it, most of them several "
         "times and in both directions.");
-    auto fourth = AddParagraph(section, "Text");
+    auto fourth = AddParagraph(section, Text);
     fourth->AddTextItem(
         "The council thanks the volunteers who ferried shopping across the stream in a rowing boat. "
         "The boat has been given to the museum, which will show it from May, next to the beams of "
@@ -118,7 +122,7 @@ void AddArticles(Section& section) {
     for (const std::string_view date :
          {"3 March\tWorking party in the orchard", "21 March\tConcert in the mill", "2 April\tRepair café",
           "18 April\tMeeting of the residents"}) {
-        auto line = AddParagraph(section, "Normal");
+        auto line = AddParagraph(section, Line);
         line->TabStops()->Add(0.9, dwTabLeft, dwTabLeaderNone);
         line->AddTextItem(date);
     }
@@ -134,13 +138,17 @@ void WriteNewsletter(const std::string& file) {
     document->SetMarginRight(1);
     document->SetMarginTop(1);
     document->SetMarginBottom(1);
-    AddStyles(*document);
+    document->Fonts()->Add("Georgia")->SetFamily(dwRoman);
+    document->SetDefaultFontName("Georgia");
 
     auto front = document->AddSection();
-    auto footer = AddParagraph(*front->AddHeader(dwFooter), "Footer");
+    auto footer = AddParagraph(*front->AddHeader(dwFooter), Footer);
     footer->AddTextItem("The Mill Stream, page ")->AddSpecial(Special::PageNumber());
-    AddParagraph(*front, "Title")->AddTextItem("The Mill Stream");
-    AddParagraph(*front, "Issue")->AddTextItem("News from both banks · Spring 2026");
+    AddParagraph(*front, Title)->AddTextItem("The Mill Stream");
+    auto issue = AddParagraph(*front, Issue);
+    issue->Borders()->Items(dwPBorderBottom)->SetStyle(dwBSThinThickSmallGap);
+    issue->Borders()->Items(dwPBorderBottom)->SetWidth(3);
+    issue->AddTextItem("News from both banks · Spring 2026");
 
     // A section that begins where the one before ended: the columns start below the title.
     auto columns = document->AddSection();

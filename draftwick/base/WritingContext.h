@@ -15,6 +15,7 @@ class Fonts;
 class Lists;
 class Object;
 class ParagraphStyles;
+class Properties;
 class TextStyles;
 
 /// Where the writers of cells stand in the current row.
@@ -54,6 +55,7 @@ public:
     draftwick::Lists* lists = nullptr;
     draftwick::ParagraphStyles* paragraphStyles = nullptr;
     draftwick::TextStyles* textStyles = nullptr;
+    draftwick::Properties* properties = nullptr;
     /// The position of the default font in `fonts`, or NoFont.
     std::int32_t defaultFont = NoFont;
     static constexpr std::int32_t NoFont = -1;

@@ -1,6 +1,7 @@
 #include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Container.h>
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/format/Frame.h>
 #include <draftwick/structure/Table.h>
 
 namespace draftwick {
@@ -13,6 +14,10 @@ void Container::WriteParagraphMark() {
     if (!context.layout.SuppressNextParagraphMark) context.output.WriteControlWord("par");
     context.layout.SuppressNextParagraphMark = false;
     context.layout.TableEndsSection = false;
+}
+
+void Container::WriteParagraphPlace(const Frame* frame) {
+    if (frame != nullptr) EmitFrame(Writing(), frame->Stored());
 }
 
 std::shared_ptr<Table> RowContainer::AddTable() { return Add(currentTable_); }

@@ -4,6 +4,7 @@
 
 namespace draftwick {
 
+class Frame;
 class Paragraph;
 class Table;
 
@@ -24,8 +25,9 @@ public:
 
     /// Writes what stands before a paragraph's \pard: \par when another paragraph comes before it.
     virtual void WriteParagraphMark();
-    /// Writes what stands right after a paragraph's \pard: in a cell, that the paragraph belongs to a row.
-    virtual void WriteParagraphPlace() {}
+    /// Writes what stands right after a paragraph's \pard: where the paragraph's own frame, if it has one, places
+    /// it. A paragraph in a cell goes where its row does.
+    virtual void WriteParagraphPlace(const Frame* frame);
     /// Whether the container is a cell, or a note in a cell: then what stands in its paragraphs must leave the writers
     /// of paragraphs and rows as it found them.
     virtual bool StandsInCell() const { return false; }

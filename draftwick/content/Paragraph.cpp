@@ -1,5 +1,6 @@
 #include <draftwick/base/Class.h>
 #include <draftwick/base/WritingContext.h>
+#include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/TextItem.h>
 #include <draftwick/drawing/Shape.h>
@@ -43,6 +44,10 @@ std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw
     return Add(currentTextItem_, text, raw);
 }
 
+std::shared_ptr<Field> Paragraph::AddField(std::string_view code, std::string_view text) {
+    return Add(currentField_, code, text);
+}
+
 std::shared_ptr<Shape> Paragraph::AddShape(dwShapeKind kind) {
     Writing();
     CheckNotFinished();
@@ -57,14 +62,14 @@ bool Paragraph::StandsInCell() const {
     return container != nullptr && static_cast<const Container&>(*container).StandsInCell();
 }
 
-/// \par\pard\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
+/// \par\pard\phcol...\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
     const std::shared_ptr<Object> parent = RequireParent();
     auto& container = static_cast<Container&>(*parent);
     container.WriteParagraphMark();
     context.output.WriteControlWord("pard");
-    container.WriteParagraphPlace();
+    container.WriteParagraphPlace(frame_.Find());
     if (style_ != Style::NoStyle) context.output.WriteControlWord("s", style_);
     if (const ParagraphBorders* borders = borders_.Find()) EmitParagraphBorders(context, *borders);
     if (const draftwick::Background* background = background_.Find())
@@ -83,6 +88,7 @@ const Class& Paragraph::Describe() {
         "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
             PropertyOf<&P::CurrentBookmark>("CurrentBookmark"),
+            PropertyOf<&P::CurrentField>("CurrentField"),
             PropertyOf<&P::CurrentFootnote>("CurrentFootnote"),
             PropertyOf<&P::CurrentShape>("CurrentShape"),
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
@@ -92,11 +98,14 @@ const Class& Paragraph::Describe() {
             PropertyOf<&P::Borders>("Borders"),
             PropertyOf<&P::FontFormat>("FontFormat"),
             PropertyOf<&P::Format>("Format"),
+            PropertyOf<&P::Frame>("Frame"),
             PropertyOf<&P::TabStops>("TabStops"),
             PropertyOf<&P::StyleName, &P::SetStyleName>("StyleName"),
         },
         {
             MethodOf<&P::AddBookmark>("AddBookmark", {{"Name"}, {"IsStart", Variant{true}}}),
+            MethodOf<&P::AddField>("AddField",
+                                   {{"Code", Variant{std::string{}}}, {"Text", Variant{std::string{}}}}),
             MethodOf<&P::AddFootnote>("AddFootnote", {{"IsEndnote", Variant{false}}}),
             MethodOf<&P::AddShape>("AddShape", {{"Kind"}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),

@@ -9,7 +9,7 @@
 
 namespace draftwick {
 
-Section::Section(const Origin& origin) : RowContainer(origin), columns_(*this) {
+Section::Section(const Origin& origin) : RowContainer(origin), columns_(*this), pageBorders_(*this) {
     const DocumentSettings& document = Writing().settings;
     values_.page = document.page;
     values_.orientation = dwOrientation{document.orientation};
@@ -42,7 +42,7 @@ std::shared_ptr<Header> Section::AddHeader(dwHeaderKind kind) {
     return header;
 }
 
-void Section::WriteStart() { EmitSection(Writing(), values_, columns_); }
+void Section::WriteStart() { EmitSection(Writing(), values_, columns_, pageBorders_); }
 
 void Section::WriteEnd() { WriteSectionEnd(Writing()); }
 
@@ -91,6 +91,7 @@ const Class& Section::Describe() {
             PropertyOf<&S::PaperBinFirst, &S::SetPaperBinFirst, &V::paperBinFirst>("PaperBinFirst"),
             PropertyOf<&S::TitlePage, &S::SetTitlePage, &V::titlePage>("TitlePage"),
             PropertyOf<&S::VerticalAlign, &S::SetVerticalAlign, &V::verticalAlign>("VerticalAlign"),
+            PropertyOf<&S::PageBorders>("PageBorders"),
         },
         {
             MethodOf<&S::AddHeader>("AddHeader", {{"Kind"}}),

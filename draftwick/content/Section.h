@@ -4,6 +4,7 @@
 #include <draftwick/content/Container.h>
 #include <draftwick/structure/Columns.h>
 #include <draftwick/structure/Header.h>
+#include <draftwick/structure/PageBorders.h>
 
 #include <array>
 
@@ -137,6 +138,8 @@ public:
     dwVerticalAlign VerticalAlign() const { return values_.verticalAlign; }
     void SetVerticalAlign(dwVerticalAlign align) { Change(values_.verticalAlign, align); }
 
+    std::shared_ptr<draftwick::PageBorders> PageBorders() { return Share(pageBorders_); }
+
     /// The columns that the text runs in.
     std::shared_ptr<draftwick::Columns> Columns() { return Share(columns_); }
 
@@ -159,6 +162,7 @@ protected:
 private:
     Values values_;
     draftwick::Columns columns_;
+    draftwick::PageBorders pageBorders_;
     std::array<bool, dwFooterFirst + 1> hasHeader_{};  // by kind
     std::shared_ptr<Header> currentHeader_;
 };

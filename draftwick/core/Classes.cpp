@@ -1,9 +1,11 @@
+#include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/Special.h>
 #include <draftwick/content/TextItem.h>
 #include <draftwick/core/Classes.h>
 #include <draftwick/core/Document.h>
+#include <draftwick/core/Properties.h>
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
@@ -29,26 +31,34 @@ std::span<const Class* const> Classes() {
         &Column::Describe(),
         &Columns::Describe(),
         &Document::Describe(),
+        &Field::Describe(),
         &Font::Describe(),
         &FontFormat::Describe(),
         &Fonts::Describe(),
         &Footnote::Describe(),
+        &Frame::Describe(),
         &Header::Describe(),
         &List::Describe(),
         &ListLevel::Describe(),
         &Lists::Describe(),
+        &PageBorder::Describe(),
+        &PageBorders::Describe(),
         &Paragraph::Describe(),
         &ParagraphBorder::Describe(),
         &ParagraphBorders::Describe(),
         &ParagraphFormat::Describe(),
         &ParagraphStyle::Describe(),
         &ParagraphStyles::Describe(),
+        &Properties::Describe(),
+        &Property::Describe(),
         &Section::Describe(),
         &Shape::Describe(),
         &ShapeFill::Describe(),
         &ShapeLine::Describe(),
         &ShapeShadow::Describe(),
         &ShapeTextFormat::Describe(),
+        &ShapeThreeD::Describe(),
+        &ShapeWordArt::Describe(),
         &Special::Describe(),
         &TabStop::Describe(),
         &TabStops::Describe(),

@@ -102,6 +102,8 @@ const Class& Shape::Describe() {
             PropertyOf<&S::Line>("Line"),
             PropertyOf<&S::Shadow>("Shadow"),
             PropertyOf<&S::TextFormat>("TextFormat"),
+            PropertyOf<&S::ThreeD>("ThreeD"),
+            PropertyOf<&S::WordArt>("WordArt"),
         },
         {
             MethodOf<&S::AdjustValues>("AdjustValues", {{"Index"}}),

@@ -7,6 +7,8 @@
 #include <draftwick/drawing/ShapeLine.h>
 #include <draftwick/drawing/ShapeShadow.h>
 #include <draftwick/drawing/ShapeTextFormat.h>
+#include <draftwick/drawing/ShapeThreeD.h>
+#include <draftwick/drawing/ShapeWordArt.h>
 
 #include <array>
 #include <memory>
@@ -153,6 +155,8 @@ public:
     std::shared_ptr<ShapeLine> Line() { return Share(line_.Get(*this)); }
     std::shared_ptr<ShapeShadow> Shadow() { return Share(shadow_.Get(*this)); }
     std::shared_ptr<ShapeTextFormat> TextFormat() { return Share(textFormat_.Get(*this)); }
+    std::shared_ptr<ShapeThreeD> ThreeD() { return Share(threeD_.Get(*this)); }
+    std::shared_ptr<ShapeWordArt> WordArt() { return Share(wordArt_.Get(*this)); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
@@ -164,6 +168,8 @@ public:
     const ShapeLine::Values& StoredLine() const { return OwnOrDefault(line_); }
     const ShapeShadow::Values& StoredShadow() const { return OwnOrDefault(shadow_); }
     const ShapeTextFormat::Values& StoredTextFormat() const { return OwnOrDefault(textFormat_); }
+    const ShapeThreeD::Values& StoredThreeD() const { return OwnOrDefault(threeD_); }
+    const ShapeWordArt::Values& StoredWordArt() const { return OwnOrDefault(wordArt_); }
     bool IsPictureFrame() const noexcept { return values_.kind == dwSKPictureFrame; }
     bool IsInlinePicture() const noexcept { return IsPictureFrame() && values_.inLine; }
 
@@ -188,6 +194,8 @@ private:
     Lazy<ShapeLine> line_;
     Lazy<ShapeShadow> shadow_;
     Lazy<ShapeTextFormat> textFormat_;
+    Lazy<ShapeThreeD> threeD_;
+    Lazy<ShapeWordArt> wordArt_;
     std::unique_ptr<OpenPicture> inlinePicture_;  // from the first half to the second
     LayoutState
         outerLayout_;  // where the writers stood around this shape, which can be in another shape's cell

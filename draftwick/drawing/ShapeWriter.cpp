@@ -118,6 +118,8 @@ void EmitShapeStart(WritingContext& context, const Shape& shape, ShapePictures& 
         EmitShapeFill(context, shape.StoredFill());
         EmitShapeLine(context, shape.StoredLine());
         EmitShapeShadow(context, shape.StoredShadow());
+        EmitShapeThreeD(context, shape.StoredThreeD());
+        EmitShapeWordArt(context, shape.StoredWordArt());
         EmitPictureProperty(context, shape.IsPictureFrame() ? "pib" : "fillBlip", pictures.fill.get());
         EmitPictureProperty(context, "lineFillBlip", pictures.line.get());
         output.WriteGroupEnd();

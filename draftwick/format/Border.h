@@ -7,11 +7,12 @@
 
 namespace draftwick {
 
-/// The lines that borders of every kind are drawn with (RTF \brdrs and its siblings).
+/// The lines that borders of every kind are drawn with (RTF \brdrs to \brdrengrave). Of two or three lines of
+/// different weight the outermost is named first; the gap is what stands between them.
 enum dwBorderStyle : std::int32_t {
     dwBSNone = 1,
     dwBSSingle = 2,
-    dwBSShadow = 3,
+    dwBSShadow = 3,  ///< a single line that throws a shadow
     dwBSDouble = 4,
     dwBSDot = 5,
     dwBSDash = 6,
@@ -39,7 +40,7 @@ enum dwBorderStyle : std::int32_t {
 using BorderStyle = Choice<"Border.Style", dwBSNone, dwBSEngrave>;
 
 /// The borders of an object, one for each side. A side is created when it is first read; sides that were never
-/// read are never written.
+/// read are never written. Walking over a collection reads all of its sides.
 template <class Border, class Side, std::int32_t SideCount>
 class BorderCollection : public Part {
 public:
@@ -82,7 +83,8 @@ private:
     std::array<Lazy<Border>, static_cast<std::size_t>(SideCount)> sides_;
 };
 
-/// The line around a run of text (RTF \chbrdr). Refuses when the run refuses.
+/// The line around a run of text, the same on all four sides (RTF \chbrdr). Refuses when the run or style that it
+/// belongs to refuses.
 class TextBorder final : public Part {
 public:
     struct Values {
@@ -97,11 +99,12 @@ public:
     dwBorderStyle Style() const { return values_.style; }
     void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
 
-    /// Points. Default 1.
+    /// Points whatever the ScaleMode; written in twips, rounded down (RTF \brdrw). Default 1. Error 6 when the twips
+    /// do not fit 32 bits.
     double Width() const { return values_.width; }
     void SetWidth(double points) { Change(values_.width, points); }
 
-    /// Default black.
+    /// Red in the lowest byte, then green, then blue. Default black.
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
 
@@ -115,14 +118,14 @@ private:
     Values values_;
 };
 
-/// Which side of a paragraph a border stands on.
+/// Which side of a paragraph a border stands on, in the order in which they are written.
 enum dwParagraphBorder : std::int32_t {
-    dwPBorderTop = 1,
-    dwPBorderLeft = 2,
-    dwPBorderRight = 3,
-    dwPBorderBottom = 4,
-    dwPBorderBetween = 5,  ///< between this paragraph and one with the same borders
-    dwPBorderOutside = 6,  ///< the bar beside the paragraph, on the outer side of the page
+    dwPBorderTop = 1,      ///< RTF \brdrt
+    dwPBorderLeft = 2,     ///< RTF \brdrl
+    dwPBorderRight = 3,    ///< RTF \brdrr
+    dwPBorderBottom = 4,   ///< RTF \brdrb
+    dwPBorderBetween = 5,  ///< between this paragraph and the next one with the same borders (RTF \brdrbtw)
+    dwPBorderOutside = 6,  ///< the bar beside the paragraph, on the outer side of the page (RTF \brdrbar)
 };
 
 /// One side of the borders of a paragraph or paragraph style. Refuses when the owner refuses.
@@ -141,15 +144,17 @@ public:
     dwBorderStyle Style() const { return values_.style; }
     void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
 
-    /// Points. Default 1.
+    /// Points whatever the ScaleMode; written in twips, rounded down (RTF \brdrw). Default 1. Error 6 when the twips
+    /// do not fit 32 bits.
     double Width() const { return values_.width; }
     void SetWidth(double points) { Change(values_.width, points); }
 
-    /// From the text to the border: points. Default 1; 4 on the left, on the right and for the bar.
+    /// From the text to the border, in points as Width (RTF \brsp). Default 1; 4 on the left, on the right and for
+    /// the bar.
     double Spacing() const { return values_.spacing; }
     void SetSpacing(double points) { Change(values_.spacing, points); }
 
-    /// Default black.
+    /// Red in the lowest byte, then green, then blue. Default black.
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
 
@@ -163,7 +168,7 @@ private:
     Values values_;
 };
 
-/// The borders of a paragraph or paragraph style.
+/// The borders of a paragraph or paragraph style: six sides.
 class ParagraphBorders final : public BorderCollection<ParagraphBorder, dwParagraphBorder, 6> {
 public:
     using BorderCollection::BorderCollection;

@@ -1,6 +1,7 @@
 #include <draftwick/base/Class.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/structure/Cell.h>
+#include <draftwick/structure/Table.h>
 #include <draftwick/structure/TableWriter.h>
 
 namespace draftwick {
@@ -21,8 +22,13 @@ void Cell::WriteParagraphMark() {
     context.layout.row.AtCellStart = false;
 }
 
-/// \pard takes a paragraph out of its row.
-void Cell::WriteParagraphPlace() { Writing().output.WriteControlWord("intbl"); }
+/// \pard takes a paragraph out of its row. A row has no words for its frame: its paragraphs have them.
+void Cell::WriteParagraphPlace(const Frame*) {
+    const std::shared_ptr<Object> row = RequireParent();
+    Writing().output.WriteControlWord("intbl");
+    if (const Frame* frame = static_cast<const Table&>(*row).OwnFrame())
+        EmitFrame(Writing(), frame->Stored());
+}
 
 const Class& Cell::Describe() {
     using C = Cell;

@@ -61,7 +61,7 @@ public:
     // The rest is for the library.
 
     void WriteParagraphMark() override;
-    void WriteParagraphPlace() override;
+    void WriteParagraphPlace(const Frame* frame) override;
     bool StandsInCell() const override { return true; }
 
 protected:

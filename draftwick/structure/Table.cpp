@@ -36,6 +36,7 @@ const Class& Table::Describe() {
             PropertyOf<&T::Finished>("Finished"),
             PropertyOf<&T::Align, &T::SetAlign, &V::align>("Align"),
             PropertyOf<&T::Borders>("Borders"),
+            PropertyOf<&T::Frame>("Frame"),
             PropertyOf<&T::Gap, &T::SetGap, &V::gap>("Gap"),
             PropertyOf<&T::Header, &T::SetHeader, &V::header>("Header"),
             PropertyOf<&T::Height, &T::SetHeight, &V::height>("Height"),

@@ -2,6 +2,7 @@
 
 #include <draftwick/base/Content.h>
 #include <draftwick/base/WritingContext.h>
+#include <draftwick/format/Frame.h>
 #include <draftwick/structure/TableBorders.h>
 
 namespace draftwick {
@@ -62,9 +63,15 @@ public:
     void SetKeepTogether(bool on) { Change(values_.keepTogether, on); }
 
     std::shared_ptr<TableBorders> Borders() { return Share(borders_.Get(*this)); }
+    /// Where the row stands on the page; all rows of a table should say the same.
+    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(*this)); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
+
+    // The rest is for the library.
+
+    const draftwick::Frame* OwnFrame() const noexcept { return frame_.Find(); }
 
 protected:
     void WriteStart() override;
@@ -73,6 +80,7 @@ protected:
 private:
     Values values_;
     Lazy<TableBorders> borders_;
+    Lazy<draftwick::Frame> frame_;
     std::shared_ptr<Cell> currentCell_;
     RowState outerRow_;  // where the writers stood in the row around this one, which has it in a cell's note
 };

@@ -57,6 +57,14 @@ Subject OfText(const std::function<ObjectPointer(TextItem&)>& make) {
         document, make(*item), [paragraph] { paragraph->AddTextItem("y"); }, "TextItem", {paragraph, item}};
 }
 
+Subject OfField(const std::function<ObjectPointer(Field&)>& make) {
+    auto document = NewDocument();
+    auto paragraph = document->AddSection()->AddParagraph();
+    auto field = paragraph->AddField();
+    return {
+        document, make(*field), [paragraph] { paragraph->AddTextItem("y"); }, "Field", {paragraph, field}};
+}
+
 /// A shape or a part of one.
 Subject OfShape(const std::function<ObjectPointer(Shape&)>& make) {
     auto document = NewDocument();
@@ -101,15 +109,20 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
         {"Columns", [] { return OfSection([](Section& s) { return s.Columns(); }); }},
         {"Document",
          [] { return OfDocument([](Document& d) { return std::static_pointer_cast<Document>(d.Self()); }); }},
+        {"Field", [] { return OfField([](Field& f) { return f.Self(); }); }},
         {"Font", [] { return OfDocument([](Document& d) { return d.Fonts()->Add("A"); }); }},
         {"FontFormat", [] { return OfText([](TextItem& t) { return t.FontFormat(); }); }},
         {"Fonts", [] { return OfDocument([](Document& d) { return d.Fonts(); }); }},
         {"Footnote", [] { return OfParagraph([](Paragraph& p) { return p.AddFootnote(); }); }},
+        {"Frame", [] { return OfParagraph([](Paragraph& p) { return p.Frame(); }); }},
         {"Header", [] { return OfSection([](Section& s) { return s.AddHeader(dwHeader); }); }},
         {"List", [] { return OfDocument([](Document& d) { return d.Lists()->Add("A"); }, ""); }},
         {"ListLevel",
          [] { return OfDocument([](Document& d) { return d.Lists()->Add("A")->Levels(1); }, ""); }},
         {"Lists", [] { return OfDocument([](Document& d) { return d.Lists(); }); }},
+        {"PageBorder",
+         [] { return OfSection([](Section& s) { return s.PageBorders()->Items(dwPgBorderTop); }); }},
+        {"PageBorders", [] { return OfSection([](Section& s) { return s.PageBorders(); }); }},
         {"Paragraph", [] { return OfParagraph([](Paragraph& p) { return p.Self(); }); }},
         {"ParagraphBorder",
          [] { return OfParagraph([](Paragraph& p) { return p.Borders()->Items(dwPBorderTop); }); }},
@@ -118,12 +131,16 @@ const std::map<std::string, std::function<Subject()>>& Makers() {
         {"ParagraphStyle",
          [] { return OfDocument([](Document& d) { return d.ParagraphStyles()->Add("A"); }); }},
         {"ParagraphStyles", [] { return OfDocument([](Document& d) { return d.ParagraphStyles(); }); }},
+        {"Properties", [] { return OfDocument([](Document& d) { return d.Properties(); }); }},
+        {"Property", [] { return OfDocument([](Document& d) { return d.Properties()->Add("A", 1); }); }},
         {"Section", [] { return OfSection([](Section& s) { return s.Self(); }); }},
         {"Shape", [] { return OfShape([](Shape& s) { return s.Self(); }); }},
         {"ShapeFill", [] { return OfShape([](Shape& s) { return s.Fill(); }); }},
         {"ShapeLine", [] { return OfShape([](Shape& s) { return s.Line(); }); }},
         {"ShapeShadow", [] { return OfShape([](Shape& s) { return s.Shadow(); }); }},
         {"ShapeTextFormat", [] { return OfShape([](Shape& s) { return s.TextFormat(); }); }},
+        {"ShapeThreeD", [] { return OfShape([](Shape& s) { return s.ThreeD(); }); }},
+        {"ShapeWordArt", [] { return OfShape([](Shape& s) { return s.WordArt(); }); }},
         {"Special",
          [] {
              return Subject{NewDocument(), std::make_shared<Special>(), [] {}, ""};
@@ -198,8 +215,8 @@ protected:
     }
     Subject Make() const { return Makers().at(std::string{GetParam()->name})(); }
     /// Calls `check` with every property that can be set, each time on a new object.
-    void ForEachSetter(const std::function<void(const Property&, Subject)>& check) const {
-        for (const Property& property : GetParam()->properties) {
+    void ForEachSetter(const std::function<void(const ClassProperty&, Subject)>& check) const {
+        for (const ClassProperty& property : GetParam()->properties) {
             if (property.set == nullptr || property.get == nullptr) continue;
             SCOPED_TRACE(std::string{GetParam()->name} + "." + std::string{property.name});
             check(property, Make());
@@ -212,7 +229,7 @@ protected:
 TEST_P(EveryClass, StartsWithItsDefaults) {
     const Subject subject = Make();
     EXPECT_EQ(subject.object->Description().name, GetParam()->name);
-    for (const Property& property : GetParam()->properties) {
+    for (const ClassProperty& property : GetParam()->properties) {
         if (property.get == nullptr || std::holds_alternative<std::monostate>(property.rule.initial))
             continue;
         if (property.name == "ScaleMode") continue;  // subjects are made to use twips
@@ -221,7 +238,7 @@ TEST_P(EveryClass, StartsWithItsDefaults) {
 }
 
 TEST_P(EveryClass, TakesWhatItsRulesAllowAndRefusesTheRest) {
-    ForEachSetter([](const Property& property, const Subject& subject) {
+    ForEachSetter([](const ClassProperty& property, const Subject& subject) {
         if (std::holds_alternative<std::monostate>(property.rule.initial)) return;
         const Trials trials = TrialsOf(property.rule);
         for (const Variant& value : trials.taken) {
@@ -239,7 +256,7 @@ TEST_P(EveryClass, TakesWhatItsRulesAllowAndRefusesTheRest) {
 }
 
 TEST_P(EveryClass, RefusesChangesOnceWritten) {
-    ForEachSetter([](const Property& property, const Subject& subject) {
+    ForEachSetter([](const ClassProperty& property, const Subject& subject) {
         const Variant before = Get(*subject.object, property.name);
         subject.write();
         const bool refuses = !subject.refusedAs.empty()
@@ -254,7 +271,7 @@ TEST_P(EveryClass, RefusesChangesOnceWritten) {
 }
 
 TEST_P(EveryClass, RefusesChangesOnceTheDocumentIsGone) {
-    ForEachSetter([](const Property& property, Subject subject) {
+    ForEachSetter([](const ClassProperty& property, Subject subject) {
         if (subject.object == subject.document) return;
         const Variant before = Get(*subject.object, property.name);
         subject.document.reset();
