@@ -45,6 +45,9 @@ enum dwShapeTextWrap : std::int32_t {
 /// written when its first paragraph or row is added or when it is closed; from then on they and those of its parts
 /// refuse ("Shape"). Lengths are 16 bits in twips.
 ///
+/// A shape without text takes the place of the mark between its paragraph and the next, which then goes on in the same
+/// line: anchor such shapes in the last paragraph, or before one that has a text box.
+///
 /// Pictures are looked up, judged and, where they must be, converted when the shape is about to be written. The call
 /// that would write it is then refused with dwErrPictureFileNotFound (also for a folder, and for a picture frame
 /// without a picture), dwErrUnsupportedFileType (also for an extension in capitals), error 481 (a file that is not

@@ -54,8 +54,8 @@ public:
     /// The colour of a solid fill, and the first one of a pattern or shade. Default black.
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
-    /// Percent; 100 (default) lets nothing shine through. Error 6 when it is not finite or beyond 3,276,799, here
-    /// and in the other percentages.
+    /// Percent; 100 (default) lets nothing shine through. Error 6, for every percentage and angle, when it is not
+    /// finite or does not fit 32 bits as a number of 65536ths.
     double Opacity() const { return values_.opacity; }
     void SetOpacity(double percent) { Change(values_.opacity, percent); }
 
@@ -66,15 +66,15 @@ public:
     double BackOpacity() const { return values_.backOpacity; }
     void SetBackOpacity(double percent) { Change(values_.backOpacity, percent); }
 
-    /// The direction of dwSFSShade in degrees. Default 0. Error 6 beyond 32767.
+    /// The direction of dwSFSShade in degrees. Default 0.
     double ShadeAngle() const { return values_.shadeAngle; }
     void SetShadeAngle(double degrees) { Change(values_.shadeAngle, degrees); }
     /// dwSFSShade reaches the second colour in the middle and goes back to the first. Default false.
     bool ShadeFocus() const { return values_.shadeFocus; }
     void SetShadeFocus(bool on) { Change(values_.shadeFocus, on); }
 
-    /// The rectangle in the middle of dwSFSShadeRect: percent of the shape's height and width, each counted from
-    /// the edge across, but right and bottom are written as given. Default 0.
+    /// The rectangle in the middle of dwSFSShadeRect: percent of the shape's height and width. Default 0. Top and left
+    /// are written as their distance from 100, right and bottom as given.
     double ShadeToTop() const { return values_.shadeToTop; }
     void SetShadeToTop(double percent) { Change(values_.shadeToTop, percent); }
     double ShadeToLeft() const { return values_.shadeToLeft; }

@@ -50,7 +50,8 @@ public:
     double OffsetY2() const { return Read(values_.offsetY2); }
     void SetOffsetY2(double length) { Change(values_.offsetY2, length); }
 
-    /// Percent from 0 to 100, which is not checked. Default 100. Error 6 when it is not finite or beyond 3,276,799.
+    /// Percent from 0 to 100, which is not checked. Default 100. Error 6 when it is not finite or does not fit 32 bits as
+    /// a number of 65536ths.
     double Opacity() const { return values_.opacity; }
     void SetOpacity(double percent) { Change(values_.opacity, percent); }
 

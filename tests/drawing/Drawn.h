@@ -24,8 +24,8 @@ struct Drawn {
     std::string shadow{};  // and the pictures after it
     std::string id = "}<lTxid=1>";
     std::string text = "<dxTextLeft=91440><dxTextRight=91440><dxTextTop=45720><dxTextBottom=45720>";
-    std::string flow = "<txflTextFlow=0>}";
-    std::string end = "}";
+    std::string flow = "<txflTextFlow=0>";
+    std::string end = "}}";
 
     std::string All() const { return head + position + wrap + fill + line + shadow + id + text + flow + end; }
 };

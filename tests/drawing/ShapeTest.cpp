@@ -6,24 +6,35 @@ namespace draftwick::test {
 namespace {
 
 /// The body of a document with one paragraph that has one shape. The unit is twips.
-std::string BodyWith(const std::function<void(Shape&)>& set, dwShapeKind kind = dwSKRectangle) {
+std::string BodyWith(const std::function<void(Shape&)>& set) {
     Built built;
     built.document->SetScaleMode(dwTwips);
-    set(*built.document->AddSection()->AddParagraph()->AddShape(kind));
+    set(*built.document->AddSection()->AddParagraph()->AddShape(dwSKRectangle));
     return Pairs(built.Body());
 }
 
+/// Properties of a shape or of a part of one, and what is then written.
 struct Case {
     const char* name;
-    std::function<void(Shape&)> set;
-    Drawn expected;
+    Settings settings;
+    Drawn expected{};
 };
 
-void ExpectAll(std::initializer_list<Case> cases) {
-    for (const auto& [name, set, expected] : cases) {
-        EXPECT_EQ(BodyWith(set), "\\pard~" + expected.All()) << name;
+/// Writes one document with one shape for each case. The unit is twips.
+template <class Part>
+void ExpectAll(Part part, const std::vector<Case>& cases) {
+    for (const Case& one : cases) {
+        EXPECT_EQ(BodyWith([&](Shape& shape) { Apply(one.settings, *part(shape)); }),
+                  "\\pard~" + one.expected.All())
+            << one.name;
     }
 }
+
+const auto Itself = [](Shape& shape) { return shape.Self(); };
+const auto Fill = [](Shape& shape) { return shape.Fill(); };
+const auto Line = [](Shape& shape) { return shape.Line(); };
+const auto Shadow = [](Shape& shape) { return shape.Shadow(); };
+const auto TextFormat = [](Shape& shape) { return shape.TextFormat(); };
 
 /// What stays of a body when a shape's settings are left out, so that its braces and texts can be seen.
 std::string Skeleton(std::string body) {
@@ -51,81 +62,67 @@ TEST(Shape, WritesAllOfItsFirstHalf) {
 }
 
 TEST(Shape, WritesItsPlaceAndGeometry) {
-    const auto placed = [](const std::string& words) { return Drawn{.position = words}; };
     const Drawn plain;
-    ExpectAll({
-        {"page",
-         [](Shape& s) {
-             s.SetReferenceX(dwSRXPage);
-             s.SetReferenceY(dwSRYPage);
-             s.SetWrap(dwSWTopBottom);
-             s.SetWrapSides(dwSWSLeft);
-             s.SetLeft(-720);
-             s.SetTop(-360.5);  // -360: ties go to the even number
-         },
-         placed(R"(\shpleft-720\shptop-360\shpbottom1080\shpright720\shpbxpage\shpbypage\shpwr1\shpwrk1)")},
-        {"column and paragraph, sums beyond 16 bits",
-         [](Shape& s) {
-             s.SetReferenceX(dwSRXColumn);
-             s.SetReferenceY(dwSRYParagraph);
-             s.SetWrap(dwSWAround);
-             s.SetWrapSides(dwSWSRight);
-             s.SetLockAnchor(true);
-             s.SetLeft(32767);
-             s.SetWidth(32767);
-             s.SetTop(-32768);
-             s.SetHeight(-32768);
-         },
-         placed(
-             R"(\shpleft32767\shptop-32768\shpbottom-65536\shpright65534\shpbxcolumn\shpbypara\shpwr2\shpwrk2)"
-             R"(\shplockanchor)")},
-        {"tightly",
-         [](Shape& s) {
-             s.SetWrap(dwSWTightly);
-             s.SetWrapSides(dwSWSLargest);
-         },
-         placed(R"(\shpleft0\shptop0\shpbottom1440\shpright1440\shpbxmargin\shpbymargin\shpwr4\shpwrk3)")},
-        {"behind the text, distances",
-         [](Shape& s) {
-             s.SetWrap(dwSWThrough);
-             s.SetBehindText(true);
-             s.SetWrapLeft(1);
-             s.SetWrapRight(-2);
-             s.SetWrapTop(32767);
-             s.SetWrapBottom(-32768);
-         },
-         {.position = R"(\shpleft0\shptop0\shpbottom1440\shpright1440\shpfblwtxt1\shpbxmargin\shpbymargin)"
-                      R"(\shpwr5\shpwrk0)",
-          .wrap = "<dxWrapDistLeft=635><dxWrapDistRight=-1270><dxWrapDistTop=20807045>"
-                  "<dxWrapDistBottom=-20807680><fBehindDocument=1>"}},
-        {"turned by 45 degrees",
-         [](Shape& s) { s.SetRotation(45); },
-         {.wrap = "<Rotation=2851020>" + plain.wrap}},
-        {"turned by 90 degrees",
-         [](Shape& s) { s.SetRotation(90); },
-         {.wrap = "<Rotation=5702040>" + plain.wrap}},
-        {"turned by a part that 65536 divides: 63356 / 256",
-         [](Shape& s) { s.SetRotation(1.0 / 256); },
-         {.wrap = "<Rotation=247.484375>" + plain.wrap}},
-        {"turned back", [](Shape& s) { s.SetRotation(-30); }, plain},
-        {"not turned", [](Shape& s) { s.SetRotation(0); }, plain},
-        {"flipped",
-         [](Shape& s) {
-             s.SetFlipV(true);
-             s.SetFlipH(true);
-         },
-         {.head = plain.head + "<FFlipH=1><FFlipV=1>"}},
-        {"adjusted",
-         [](Shape& s) {
-             s.SetAdjustValues(10, 7);
-             s.SetAdjustValues(2, -1);
-             s.SetAdjustValues(1, 5400);
-         },
-         {.wrap = plain.wrap + "<adjustValue=5400><adjust2Value=-1><adjust10Value=7>"}},
-        {"another kind, one without a name",
-         [](Shape& s) { s.SetKind(static_cast<dwShapeKind>(-40)); },
-         {.head = R"({\shp{\*\shpinst{\shplid1<ShapeType=-40>)"}},
-    });
+    const auto drawn = [](const std::string& words) { return Drawn{.position = words}; };
+    const auto turned = [&](const std::string& by) {
+        return Drawn{.wrap = "<Rotation=" + by + ">" + plain.wrap};
+    };
+    ExpectAll(
+        Itself,
+        {
+            {"page; ties go to the even number",
+             {{"ReferenceX", dwSRXPage},
+              {"ReferenceY", dwSRYPage},
+              {"Wrap", dwSWTopBottom},
+              {"WrapSides", dwSWSLeft},
+              {"Left", -720.0},
+              {"Top", -360.5}},
+             drawn(
+                 R"(\shpleft-720\shptop-360\shpbottom1080\shpright720\shpbxpage\shpbypage\shpwr1\shpwrk1)")},
+            {"column and paragraph, sums beyond 16 bits",
+             {{"ReferenceX", dwSRXColumn},
+              {"ReferenceY", dwSRYParagraph},
+              {"Wrap", dwSWAround},
+              {"WrapSides", dwSWSRight},
+              {"LockAnchor", true},
+              {"Left", 32767.0},
+              {"Width", 32767.0},
+              {"Top", -32768.0},
+              {"Height", -32768.0}},
+             drawn(R"(\shpleft32767\shptop-32768\shpbottom-65536\shpright65534\shpbxcolumn\shpbypara\shpwr2)"
+                   R"(\shpwrk2\shplockanchor)")},
+            {"tightly",
+             {{"Wrap", dwSWTightly}, {"WrapSides", dwSWSLargest}},
+             drawn(R"(\shpleft0\shptop0\shpbottom1440\shpright1440\shpbxmargin\shpbymargin\shpwr4\shpwrk3)")},
+            {"behind the text, distances",
+             {{"Wrap", dwSWThrough},
+              {"BehindText", true},
+              {"WrapLeft", 1.0},
+              {"WrapRight", -2.0},
+              {"WrapTop", 32767.0},
+              {"WrapBottom", -32768.0}},
+             {.position =
+                  R"(\shpleft0\shptop0\shpbottom1440\shpright1440\shpfblwtxt1\shpbxmargin\shpbymargin)"
+                  R"(\shpwr5\shpwrk0)",
+              .wrap = "<dxWrapDistLeft=635><dxWrapDistRight=-1270><dxWrapDistTop=20807045>"
+                      "<dxWrapDistBottom=-20807680><fBehindDocument=1>"}},
+            {"turned by 45 degrees", {{"Rotation", 45.0}}, turned("2851020")},
+            {"turned by 90 degrees", {{"Rotation", 90.0}}, turned("5702040")},
+            {"turned by a part of a degree: 63356 / 256", {{"Rotation", 1.0 / 256}}, turned("247.484375")},
+            {"turned back", {{"Rotation", -30.0}}, plain},
+            {"flipped", {{"FlipV", true}, {"FlipH", true}}, {.head = plain.head + "<FFlipH=1><FFlipV=1>"}},
+            {"another kind, one without a name",
+             {{"Kind", -40}},
+             {.head = R"({\shp{\*\shpinst{\shplid1<ShapeType=-40>)"}},
+        });
+    Drawn adjusted = plain;
+    adjusted.wrap += "<adjustValue=5400><adjust2Value=-1><adjust10Value=7>";
+    EXPECT_EQ(BodyWith([](Shape& shape) {
+                  shape.SetAdjustValues(10, 7);
+                  shape.SetAdjustValues(2, -1);
+                  shape.SetAdjustValues(1, 5400);
+              }),
+              "\\pard~" + adjusted.All());
 }
 
 TEST(Shape, KeepsItsAngleInWholeParts) {
@@ -144,57 +141,50 @@ TEST(Shape, KeepsItsAngleInWholeParts) {
 }
 
 TEST(ShapeFill, WritesEveryStyle) {
-    const auto to = std::string{"<fillToTop=65536><fillToLeft=65536><fillToRight=0><fillToBottom=0>"};
-    const auto styled = [&](const std::string& types) {
-        return Drawn{.fill = "<fFilled=1>" + types + "<fillColor=0><fillBackColor=0>" + to};
+    const std::string to = "<fillToTop=65536><fillToLeft=65536><fillToRight=0><fillToBottom=0>";
+    const auto of = [&](const std::string& types, const std::string& more = "") {
+        return Drawn{.fill = "<fFilled=1>" + types + "<fillColor=0><fillBackColor=0>" + more + to};
     };
-    ExpectAll({
-        {"none, whatever else", [](Shape& s) { s.Fill()->SetOpacity(50); }, {}},
-        {"solid", [](Shape& s) { s.Fill()->SetStyle(dwSFSSolid); }, styled("<fillType=0><fillType=0>")},
-        {"pattern", [](Shape& s) { s.Fill()->SetStyle(dwSFSPattern); }, styled("<fillType=1><fillType=1>")},
-        {"tiles", [](Shape& s) { s.Fill()->SetStyle(dwSFSPicTile); }, styled("<fillType=2><fillType=2>")},
-        {"picture", [](Shape& s) { s.Fill()->SetStyle(dwSFSPicStretch); },
-         styled("<fillType=3><fillType=3>")},
-        {"shade: an angle is written for it alone, a focus only if there is one",
-         [](Shape& s) { s.Fill()->SetStyle(dwSFSShade); },
-         {.fill = "<fFilled=1><fillType=7><fillType=4><fillColor=0><fillBackColor=0><fillAngle=0>" + to}},
-        {"rectangle",
-         [](Shape& s) {
-             s.Fill()->SetStyle(dwSFSShadeRect);
-             s.Fill()->SetShadeAngle(45);
-             s.Fill()->SetShadeFocus(true);
-             s.Fill()->SetShadeToTop(50);
-             s.Fill()->SetShadeToLeft(150);
-             s.Fill()->SetShadeToRight(25);
-             s.Fill()->SetShadeToBottom(-25);
-         },
-         {.fill = "<fFilled=1><fillType=6><fillType=5><fillColor=0><fillBackColor=0><fillToTop=32768>"
-                  "<fillToLeft=32768><fillToRight=16384><fillToBottom=-16384>"}},
-        {"shade in colours",
-         [](Shape& s) {
-             s.Fill()->SetStyle(dwSFSShade);
-             s.Fill()->SetColor(255);
-             s.Fill()->SetOpacity(50);
-             s.Fill()->SetBackColor(-1);
-             s.Fill()->SetBackOpacity(0);
-             s.Fill()->SetShadeAngle(-45);
-             s.Fill()->SetShadeFocus(true);
-             s.Fill()->SetShadeArray("255,0,16711680,100");
-         },
-         {.fill = "<fFilled=1><fillType=7><fillType=4><fillColor=255><fillOpacity=32768><fillBackColor=-1>"
-                  "<fillBackOpacity=0><fillAngle=-2949120><fillFocus=50>"
-                  + to + "<fillShadeColors=8;2;(255,0);(16711680,65536)>"}},
-        {"numbers that are not whole: no exponent, however small",
-         [](Shape& s) {
-             s.Fill()->SetStyle(dwSFSShade);
-             s.Fill()->SetOpacity(100 / 1048576.0);
-             s.Fill()->SetShadeAngle(1 / 1099511627776.0);  // 2^-40, so 2^-24 is written
-             s.Fill()->SetShadeToRight(-0.0);
-         },
-         {.fill = "<fFilled=1><fillType=7><fillType=4><fillColor=0><fillOpacity=0.0625><fillBackColor=0>"
-                  "<fillAngle=0.00000005960464477539063>"
-                  + to}},
-    });
+    ExpectAll(
+        Fill,
+        {
+            {"none, whatever else", {{"Opacity", 50.0}}},
+            {"solid", {{"Style", dwSFSSolid}}, of("<fillType=0><fillType=0>")},
+            {"pattern", {{"Style", dwSFSPattern}}, of("<fillType=1><fillType=1>")},
+            {"tiles", {{"Style", dwSFSPicTile}}, of("<fillType=2><fillType=2>")},
+            {"picture", {{"Style", dwSFSPicStretch}}, of("<fillType=3><fillType=3>")},
+            {"shade", {{"Style", dwSFSShade}}, of("<fillType=7><fillType=4>", "<fillAngle=0>")},
+            {"rectangle: neither angle nor focus",
+             {{"Style", dwSFSShadeRect},
+              {"ShadeAngle", 45.0},
+              {"ShadeFocus", true},
+              {"ShadeToTop", 50.0},
+              {"ShadeToLeft", 150.0},
+              {"ShadeToRight", 25.0},
+              {"ShadeToBottom", -25.0}},
+             {.fill = "<fFilled=1><fillType=6><fillType=5><fillColor=0><fillBackColor=0><fillToTop=32768>"
+                      "<fillToLeft=32768><fillToRight=16384><fillToBottom=-16384>"}},
+            {"shade in colours",
+             {{"Style", dwSFSShade},
+              {"Color", 255},
+              {"Opacity", 50.0},
+              {"BackColor", -1},
+              {"BackOpacity", 0.0},
+              {"ShadeAngle", -45.0},
+              {"ShadeFocus", true},
+              {"ShadeArray", std::string{"255,0,16711680,100"}}},
+             {.fill = "<fFilled=1><fillType=7><fillType=4><fillColor=255><fillOpacity=32768>"
+                      "<fillBackColor=-1><fillBackOpacity=0><fillAngle=-2949120><fillFocus=50>"
+                      + to + "<fillShadeColors=8;2;(255,0);(16711680,65536)>"}},
+            {"numbers that are not whole: no exponent, however small; 2^-40 gives 2^-24",
+             {{"Style", dwSFSShade},
+              {"Opacity", 100 / 1048576.0},
+              {"ShadeAngle", 1 / 1099511627776.0},
+              {"ShadeToRight", -0.0}},
+             {.fill = "<fFilled=1><fillType=7><fillType=4><fillColor=0><fillOpacity=0.0625>"
+                      "<fillBackColor=0><fillAngle=0.00000005960464477539063>"
+                      + to}},
+        });
 }
 
 TEST(ShapeFill, JudgesAShadeArrayWhenItIsSet) {
@@ -236,94 +226,72 @@ TEST(ShapeFill, JudgesAShadeArrayWhenItIsSet) {
 }
 
 TEST(ShapeLine, WritesEveryBranch) {
-    ExpectAll({
-        {"none: not even that there is none",
-         [](Shape& s) {
-             s.Line()->SetStyle(dwSLSNone);
-             s.Line()->SetDash(dwSLDDot);
-         },
-         {.line = ""}},
-        {"all of it",
-         [](Shape& s) {
-             auto line = s.Line();
-             line->SetStyle(dwSLSThinThickThin);
-             line->SetTexture(dwSLTPicture);
-             line->SetDash(dwSLDLongDashDotDot);
-             line->SetColor(255);
-             line->SetBackColor(0xFFFFFF);
-             line->SetWidth(2.125);  // 42.5 twips: 42
-             line->SetStartArrow(dwSLAOpen);
-             line->SetStartArrowWidth(dwSLAWNarrow);
-             line->SetStartArrowLength(dwSLALLong);
-             line->SetEndArrow(static_cast<dwShapeLineArrow>(8));  // readers may know two more
-         },
-         {.line = "<lineColor=255><lineBackColor=16777215><lineType=2><lineWidth=26670><lineStyle=4>"
-                  "<lineDashing=10><lineStartArrowhead=5><lineStartArrowWidth=0><lineStartArrowLength=2>"
-                  "<lineEndArrowhead=7><lineEndArrowWidth=1><lineEndArrowLength=1><fLine=1>"}},
-        {"an arrow without a head has no width",
-         [](Shape& s) {
-             s.Line()->SetStyle(dwSLSDouble);
-             s.Line()->SetTexture(dwSLTPattern);
-             s.Line()->SetDash(dwSLDDashWin);
-             s.Line()->SetEndArrowWidth(dwSLAWWide);
-             s.Line()->SetWidth(169093.2);  // the widest of 32 bits
-         },
-         {.line = "<lineColor=0><lineBackColor=0><lineType=1><lineWidth=2147483640><lineStyle=1>"
-                  "<lineDashing=1><fLine=1>"}},
-    });
-    BodyWith([](Shape& s) {
-        EXPECT_EQ(RefusalNumber([&] { s.Line()->SetWidth(169093.25); }), dwRunOverflow);
-        EXPECT_EQ(s.Line()->Width(), 1);
-    });
+    ExpectAll(
+        Line,
+        {
+            {"none: not even that there is none", {{"Style", dwSLSNone}, {"Dash", dwSLDDot}}, {.line = ""}},
+            {"all of it; 42.5 twips are 42; readers may know two more arrows",
+             {{"Style", dwSLSThinThickThin},
+              {"Texture", dwSLTPicture},
+              {"Dash", dwSLDLongDashDotDot},
+              {"Color", 255},
+              {"BackColor", 0xFFFFFF},
+              {"Width", 2.125},
+              {"StartArrow", dwSLAOpen},
+              {"StartArrowWidth", dwSLAWNarrow},
+              {"StartArrowLength", dwSLALLong},
+              {"EndArrow", 8}},
+             {.line = "<lineColor=255><lineBackColor=16777215><lineType=2><lineWidth=26670><lineStyle=4>"
+                      "<lineDashing=10><lineStartArrowhead=5><lineStartArrowWidth=0>"
+                      "<lineStartArrowLength=2><lineEndArrowhead=7><lineEndArrowWidth=1>"
+                      "<lineEndArrowLength=1><fLine=1>"}},
+            {"no arrow, no width of one; the widest line of 32 bits",
+             {{"Style", dwSLSDouble},
+              {"Texture", dwSLTPattern},
+              {"Dash", dwSLDDashWin},
+              {"EndArrowWidth", dwSLAWWide},
+              {"Width", 169093.2}},
+             {.line = "<lineColor=0><lineBackColor=0><lineType=1><lineWidth=2147483640><lineStyle=1>"
+                      "<lineDashing=1><fLine=1>"}},
+        });
+    BodyWith(
+        [](Shape& s) { EXPECT_EQ(RefusalNumber([&] { s.Line()->SetWidth(169093.25); }), dwRunOverflow); });
 }
 
 TEST(ShapeShadow, WritesEveryBranch) {
-    const auto unknown = [](int style) {
-        return [style](Shape& s) { s.Shadow()->SetStyle(static_cast<dwShapeShadowStyle>(style)); };
-    };
     const std::string rest = "<shadowColor=0><shadowOffsetX=28575><shadowoffsetY=28575>";
-    ExpectAll({
-        {"none, whatever else", [](Shape& s) { s.Shadow()->SetColor(1); }, {}},
-        {"single",
-         [](Shape& s) { s.Shadow()->SetStyle(dwSSSSingle); },
-         {.shadow = "<fShadow=1><shadowType=0>" + rest}},
-        {"double",
-         [](Shape& s) {
-             s.Shadow()->SetStyle(dwSSSDouble);
-             s.Shadow()->SetColor(255);
-             s.Shadow()->SetColor2(256);
-             s.Shadow()->SetOpacity(25);
-             s.Shadow()->SetOffsetX(10);
-             s.Shadow()->SetOffsetY(-10);
-             s.Shadow()->SetOffsetY2(0);
-         },
-         {.shadow = "<fShadow=1><shadowType=1><shadowColor=255><shadowOpacity=16384><shadowOffsetX=6350>"
-                    "<shadowoffsetY=-6350><shadowHighlight=256><shadowSecondOffsetX=-28575>"
-                    "<shadowSecondOffsetY=0>"}},
-        {"unknown", unknown(4), {.shadow = "<fShadow=1><shadowType=>" + rest}},
-        {"unknown below", unknown(0), {.shadow = "<fShadow=1><shadowType=>" + rest}},
-    });
+    ExpectAll(Shadow,
+              {
+                  {"none, whatever else", {{"Color", 1}}},
+                  {"single", {{"Style", dwSSSSingle}}, {.shadow = "<fShadow=1><shadowType=0>" + rest}},
+                  {"double",
+                   {{"Style", dwSSSDouble},
+                    {"Color", 255},
+                    {"Color2", 256},
+                    {"Opacity", 25.0},
+                    {"OffsetX", 10.0},
+                    {"OffsetY", -10.0},
+                    {"OffsetY2", 0.0}},
+                   {.shadow = "<fShadow=1><shadowType=1><shadowColor=255><shadowOpacity=16384>"
+                              "<shadowOffsetX=6350><shadowoffsetY=-6350><shadowHighlight=256>"
+                              "<shadowSecondOffsetX=-28575><shadowSecondOffsetY=0>"}},
+                  {"unknown", {{"Style", 4}}, {.shadow = "<fShadow=1><shadowType=>" + rest}},
+                  {"unknown below", {{"Style", 0}}, {.shadow = "<fShadow=1><shadowType=>" + rest}},
+              });
 }
 
 TEST(ShapeTextFormat, WritesMarginsAndDirection) {
-    const auto flowing = [](int flow) {
-        return [flow](Shape& s) { s.TextFormat()->SetFlow(static_cast<dwShapeTextFlow>(flow)); };
-    };
-    ExpectAll({
-        {"margins",
-         [](Shape& s) {
-             s.SetNextIndex(-7);
-             s.TextFormat()->SetSpacingTop(1);
-             s.TextFormat()->SetSpacingBottom(2);
-             s.TextFormat()->SetSpacingLeft(-3);
-             s.TextFormat()->SetSpacingRight(4);
-         },
-         {.text = "<dxTextLeft=-1905><dxTextRight=2540><dxTextTop=635><dxTextBottom=1270>",
-          .flow = "<txflTextFlow=0><hspNext=-7>}"}},
-        {"downwards", flowing(2), {.flow = "<txflTextFlow=2>}"}},
-        {"upwards", flowing(3), {.flow = "<txflTextFlow=2>}"}},
-        {"unknown", flowing(4), {.flow = "<txflTextFlow=>}"}},
-    });
+    ExpectAll(
+        TextFormat,
+        {
+            {"margins",
+             {{"SpacingTop", 1.0}, {"SpacingBottom", 2.0}, {"SpacingLeft", -3.0}, {"SpacingRight", 4.0}},
+             {.text = "<dxTextLeft=-1905><dxTextRight=2540><dxTextTop=635><dxTextBottom=1270>"}},
+            {"downwards", {{"Flow", dwSTFTopToBottom}}, {.flow = "<txflTextFlow=2>"}},
+            {"upwards", {{"Flow", dwSTFBottomToTop}}, {.flow = "<txflTextFlow=2>"}},
+            {"unknown", {{"Flow", 4}}, {.flow = "<txflTextFlow=>"}},
+        });
+    ExpectAll(Itself, {{"next", {{"NextIndex", -7}}, {.flow = "<txflTextFlow=0><hspNext=-7>"}}});
 }
 
 TEST(Shape, WritesTheSameWhereverTheUnitIs) {
@@ -454,22 +422,6 @@ TEST(Shape, EndsASectionAfterItsRow) {
     EXPECT_EQ(
         Skeleton(BodyOf([](Section& section) { section.AddParagraph()->AddShape(dwSKTextBox)->AddTable(); })),
         R"(\pard~{\shp<>{\shptxt\trowd\intbl\row\pard}\par}\par)");
-}
-
-TEST(ShapeSettings, RefuseWhatCannotBeWritten) {
-    BodyWith([](Shape& s) {
-        const std::function<void(double)> setters[]{
-            [&](double v) { s.Fill()->SetShadeToTop(v); },
-            [&](double v) { s.Fill()->SetOpacity(v); },
-            [&](double v) { s.Shadow()->SetOpacity(v); },
-            [&](double v) { s.Fill()->SetShadeToLeft(v); },
-        };
-        for (const auto& set : setters) {
-            for (const double value : {3276800.0, -3276801.0}) {
-                EXPECT_EQ(RefusalNumber([&] { set(value); }), dwRunOverflow) << value;
-            }
-        }
-    });
 }
 
 }  // namespace draftwick::test
