@@ -179,13 +179,16 @@ TEST(TabStops, KeepTheOrderOfAdditionAndCanBeCleared) {
     stops->Add(0.1, dwTabLeft, dwTabLeaderNone);
     stops->Add(3, dwTabCenter, dwTabLeaderNone);
     EXPECT_EQ(stops->Items(2)->Position(), static_cast<double>(0.1F));
-    EXPECT_EQ(RefusalNumber([&] { stops->Items(4); }), dwRunSubscriptOutOfRange);
+    document->SetScaleMode(dwTwips);
+    stops->Add(2.50000001, dwTabLeft, dwTabLeaderNone);  // 2.5 in single precision
+    EXPECT_EQ(RefusalNumber([&] { stops->Items(5); }), dwRunSubscriptOutOfRange);
     EXPECT_EQ(RefusalNumber([&] { stops->Items(256); }), dwRunOverflow);
     document->Finish();
     const std::string refused = "X109 Invalid operation.  Target already emitted Paragraph.";
     EXPECT_EQ(Refusal([&] { stops->Add(1, dwTabLeft, dwTabLeaderNone); }), refused);
     EXPECT_EQ(Refusal([&] { stops->Clear(); }), refused);
-    EXPECT_EQ(document.FinishBody(), "\\pard" + Plain + Spacing + "\\tqr\\tldot\\tx4320\\tx144\\tqc\\tx4320");
+    EXPECT_EQ(document.FinishBody(),
+              "\\pard" + Plain + Spacing + "\\tqr\\tldot\\tx4320\\tx144\\tqc\\tx4320\\tx2");
 }
 
 }  // namespace draftwick::test
