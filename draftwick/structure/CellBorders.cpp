@@ -4,16 +4,10 @@
 namespace draftwick {
 
 const Class& CellBorder::Describe() {
-    using B = CellBorder;
-    using V = Values;
     static const Class description{"CellBorder",
                                    "{432D6CF8-01A3-4E6C-80A3-0E89F28C3639}",
                                    "{FF94DB4C-F62B-4A50-B11E-D4B51975CE16}",
-                                   {
-                                       PropertyOf<&B::Style, &B::SetStyle, &V::style>("Style"),
-                                       PropertyOf<&B::Width, &B::SetWidth, &V::width>("Width"),
-                                       PropertyOf<&B::Color, &B::SetColor, &V::color>("Color"),
-                                   },
+                                   Rows(),
                                    {}};
     return description;
 }

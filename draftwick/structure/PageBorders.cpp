@@ -3,24 +3,19 @@
 
 namespace draftwick {
 
-PageBorder::PageBorder(Object& parent, dwPageBorder side) : Part(parent) {
+PageBorder::PageBorder(Object& parent, dwPageBorder side) : Border(parent) {
     values_.spacing = side == dwPgBorderLeft || side == dwPgBorderRight ? 4 : 1;
 }
 
 const Class& PageBorder::Describe() {
-    using B = PageBorder;
-    using V = Values;
-    static const Class description{"PageBorder",
-                                   "{4C2D5D5B-365E-493C-8537-955A8B44887B}",
-                                   "{A0C80585-351A-4862-B692-83771B41E311}",
-                                   {
-                                       PropertyOf<&B::Style, &B::SetStyle, &V::style>("Style"),
-                                       PropertyOf<&B::Width, &B::SetWidth, &V::width>("Width"),
-                                       PropertyOf<&B::Spacing, &B::SetSpacing, &V::spacing>("Spacing"),
-                                       PropertyOf<&B::Color, &B::SetColor, &V::color>("Color"),
-                                       PropertyOf<&B::Art, &B::SetArt, &V::art>("Art"),
-                                   },
-                                   {}};
+    static const Class description{
+        "PageBorder",
+        "{4C2D5D5B-365E-493C-8537-955A8B44887B}",
+        "{A0C80585-351A-4862-B692-83771B41E311}",
+        Rows(
+            {PropertyOf<&PageBorder::Spacing, &PageBorder::SetSpacing, &PageBorderValues::spacing>("Spacing"),
+             PropertyOf<&PageBorder::Art, &PageBorder::SetArt, &PageBorderValues::art>("Art")}),
+        {}};
     return description;
 }
 

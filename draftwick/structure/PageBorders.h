@@ -22,35 +22,23 @@ enum dwPageBorderDisplay : std::int32_t {
 /// What the distance of the borders is measured from.
 enum dwPageBorderOffset : std::int32_t { dwPBOText = 1, dwPBOPage = 2 };
 
+struct PageBorderValues {
+    BorderStyle style{dwBSNone};
+    Points width{1};
+    Points spacing{1};
+    std::int32_t color = 0;
+    Choice<"PageBorder.Art", std::int32_t{0}, std::int32_t{165}> art{0};
+};
+
 /// One side of the borders of a section's pages. Refuses when the section refuses.
-class PageBorder final : public Part {
+class PageBorder final : public Border<PageBorderValues> {
 public:
-    struct Values {
-        BorderStyle style{dwBSNone};
-        Points width{1};
-        Points spacing{1};
-        std::int32_t color = 0;
-        Choice<"PageBorder.Art", std::int32_t{0}, std::int32_t{165}> art{0};
-    };
-
     PageBorder(Object& parent, dwPageBorder side);
-
-    /// The line. Default dwBSNone: no border, unless there is an Art.
-    dwBorderStyle Style() const { return values_.style; }
-    void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
-
-    /// Points. Default 1.
-    double Width() const { return values_.width; }
-    void SetWidth(double points) { Change(values_.width, points); }
 
     /// From the border to what PageBorders.Offset says: points. Default 1; 4 on the left and on the right. Readers
     /// take up to 31.
     double Spacing() const { return values_.spacing; }
     void SetSpacing(double points) { Change(values_.spacing, points); }
-
-    /// Default black.
-    std::int32_t Color() const { return values_.color; }
-    void SetColor(std::int32_t color) { Change(values_.color, color); }
 
     /// The number of a picture border (RTF \brdrart), 1..165, which is drawn in place of the line; 0 (default) for
     /// none.
@@ -59,11 +47,6 @@ public:
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
-
-    const Values& Stored() const noexcept { return values_; }
-
-private:
-    Values values_;
 };
 
 /// The borders of a section's pages. A side without a line or picture is not written; without any side nothing is.

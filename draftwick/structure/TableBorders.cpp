@@ -4,16 +4,10 @@
 namespace draftwick {
 
 const Class& TableBorder::Describe() {
-    using B = TableBorder;
-    using V = Values;
     static const Class description{"TableBorder",
                                    "{67524C15-BA91-434E-BEC3-93F73E05DF07}",
                                    "{9131F0B6-5394-441C-956B-736B9E4AF31B}",
-                                   {
-                                       PropertyOf<&B::Style, &B::SetStyle, &V::style>("Style"),
-                                       PropertyOf<&B::Width, &B::SetWidth, &V::width>("Width"),
-                                       PropertyOf<&B::Color, &B::SetColor, &V::color>("Color"),
-                                   },
+                                   Rows(),
                                    {}};
     return description;
 }

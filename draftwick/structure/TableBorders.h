@@ -14,36 +14,19 @@ enum dwTableBorder : std::int32_t {
     dwTBorderVertical = 6,    ///< between the cells
 };
 
+struct TableBorderValues {
+    BorderStyle style{dwBSNone};
+    Points width{1};
+    std::int32_t color = 0;
+};
+
 /// One of the borders of a row (RTF \trbrdrt and its siblings). Refuses once the row is written ("Table").
-class TableBorder final : public Part {
+class TableBorder final : public Border<TableBorderValues> {
 public:
-    struct Values {
-        BorderStyle style{dwBSNone};
-        Points width{1};
-        std::int32_t color = 0;
-    };
-
-    TableBorder(Object& table, dwTableBorder) : Part(table) {}
-
-    /// Default dwBSNone: no border. dwErrPropertyOutOfRange ("Border.Style") outside of the enumeration.
-    dwBorderStyle Style() const { return values_.style; }
-    void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
-
-    /// Points, whatever the document's unit; kept as given and written as whole twips, rounded down. Default 1.
-    double Width() const { return values_.width; }
-    void SetWidth(double points) { Change(values_.width, points); }
-
-    /// Default black.
-    std::int32_t Color() const { return values_.color; }
-    void SetColor(std::int32_t color) { Change(values_.color, color); }
+    TableBorder(Object& table, dwTableBorder) : Border(table) {}
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
-
-    const Values& Stored() const noexcept { return values_; }
-
-private:
-    Values values_;
 };
 
 /// The borders of a row.

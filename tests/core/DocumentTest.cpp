@@ -218,7 +218,8 @@ TEST_F(Documents, PutTheirBodyIntoTheFirstFreeTemporaryFile) {
     const struct {
         std::string tempPath;
         std::string body;
-    } cases[] = {{"", "/temp/~dw2.tmp"}, {"/other/", "/other/~dw1.tmp"}, {"C:\\other\\", "C:\\other/~dw1.tmp"}};
+    } cases[] = {
+        {"", "/temp/~dw2.tmp"}, {"/other/", "/other/~dw1.tmp"}, {"C:\\other\\", "C:\\other/~dw1.tmp"}};
     for (const auto& [tempPath, body] : cases) {
         files = std::make_shared<MemoryFiles>();
         files->Put("/temp/~dw1.tmp", "somebody else's");
