@@ -1,5 +1,4 @@
 #include "tests/support/Documents.h"
-#include "tests/support/Errors.h"
 
 #include <cctype>
 
@@ -28,7 +27,7 @@ const std::string OwnNumbers = "{\\listoverride\\listid1\\listoverridecount\\ls1
 
 /// The words of the list tables.
 std::string Tables(TestDocument& document) {
-    const std::string header = document.FinishHeader();
+    const std::string header = document.Header();
     return header.substr(std::min(header.find("{\\*\\listtable"), header.size()));
 }
 
@@ -91,7 +90,7 @@ TEST(Lists, HaveANumberAndTheLevelsOfTheOtherListForEachPairing) {
     Join(document, "A", 1);
     document->Lists()->Items("C")->Levels(2)->SetStyle(dwLNSBullet);  // what holds at the end is written
     const std::string words = Words(document.Finish());
-    const std::string next = "\\par\\pard" + Plain + Spacing;
+    const std::string next = "\\par\\pard\\plain\\fs24\\cf0" + Spacing;
     EXPECT_TRUE(words.ends_with("\\ls10001\\ilvl0" + next + "\\ls10002\\ilvl0" + next + "\\ls10003\\ilvl0"
                                 + next + "\\ls10002\\ilvl1" + next + "\\ls10004\\ilvl0" + next
                                 + "\\ls1\\ilvl0}"));
@@ -125,7 +124,7 @@ TEST(Lists, AreJoinedByStylesToo) {
     EXPECT_NE(words.find("{\\listname A;}\\listid1{\\listlevel"),
               std::string::npos);  // a ninth level is in use
     EXPECT_NE(words.find("{\\listname B;}\\listid2\\listsimple{\\listlevel"), std::string::npos);
-    EXPECT_TRUE(words.ends_with("\\slmult1\\ls10001\\ilvl0\\par\\pard" + Plain + Spacing + "}"));
+    EXPECT_TRUE(words.ends_with("\\slmult1\\ls10001\\ilvl0\\par\\pard\\plain\\fs24\\cf0" + Spacing + "}"));
 }
 
 TEST(ListLevel, WritesAllWordsInOrder) {
