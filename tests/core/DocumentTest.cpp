@@ -58,28 +58,15 @@ TEST_F(Documents, WriteEverySettingInItsPlace) {
         "\\aftnstart1\\aftnnar}");
     const std::string file = Written([](Document& document) {
         document.SetOrientation(dwLandscape);
-        Apply({{"Orientation", dwLandscape},
-               {"TabWidth", 700.5},
-               {"HyphenHotZone", 20.0},
-               {"HyphenConsecutiveLines", 70000},
-               {"HyphenCaps", false},
-               {"HyphenAuto", true},
-               {"MarginTop", 1.0},
-               {"MarginLeft", 2.0},
-               {"MarginRight", -3.0},
-               {"MarginBottom", 4.0},
-               {"FacingPage", true},
-               {"Gutter", 5.0},
-               {"MarginMirror", true},
-               {"PageNumberStart", -7},
-               {"WidowOrphanControl", false},
-               {"Caption", "A & \xC3\xA4"},
-               {"ViewKind", dwViewPageLayout},
-               {"ZoomKind", dwZoomBestFit},
-               {"ZoomScale", 75},
-               {"PageBorderAroundHeader", false},
-               {"PageBorderAroundFooter", false}},
+        Apply({{"Orientation", dwLandscape}, {"TabWidth", 700.5}, {"HyphenHotZone", 20.0}}, document);
+        Apply({{"HyphenConsecutiveLines", 70000}, {"HyphenCaps", false}, {"HyphenAuto", true}}, document);
+        Apply({{"MarginTop", 1.0}, {"MarginLeft", 2.0}, {"MarginRight", -3.0}}, document);
+        Apply({{"MarginBottom", 4.0}, {"FacingPage", true}, {"Gutter", 5.0}, {"MarginMirror", true}},
               document);
+        Apply({{"PageNumberStart", -7}, {"WidowOrphanControl", false}, {"Caption", "A & \xC3\xA4"}},
+              document);
+        Apply({{"ViewKind", dwViewPageLayout}, {"ZoomKind", dwZoomBestFit}, {"ZoomScale", 75}}, document);
+        Apply({{"PageBorderAroundHeader", false}, {"PageBorderAroundFooter", false}}, document);
     });
     EXPECT_EQ(
         Between(file, "{\\rtf1", "\\fet2"),

@@ -165,6 +165,7 @@ TEST(Picture, OfPixelsBecomesAMetafile) {
             const std::string words = built.Body();
             const std::string data = Between(words.substr(words.find(expected)) + "}", " ", "}");
             EXPECT_EQ(data.substr(0, 8), "01000000") << name;
+            EXPECT_EQ(data.substr(32, 16), "0200000001000000") << name;  // the last pixel of 3 by 2
             EXPECT_EQ(data.substr(80, 8), "20454D46") << name;
             EXPECT_EQ(Hex(Le32(static_cast<std::uint32_t>(data.size() / 2))), data.substr(96, 8)) << name;
             EXPECT_EQ(built.Temporary(), std::vector<std::string>{"/temp/~DWGC1.tmp"});

@@ -154,7 +154,9 @@ TEST(FontTable, IsWrittenInTheOrderOfAdditionWithNamesAsTheyAre) {
     sans->SetAltName("Helvetica");
     document->Fonts()->Add("Ä\\{\\}")->SetAltName("x");
     document->Fonts()->Items(3)->SetAltName("");
+    EXPECT_EQ(Refusal([&] { document->SetDefaultFontName("Times"); }), "X112 Item not found 'Times'.");
     document->SetDefaultFontName("ARIAL");
+    EXPECT_EQ(document->DefaultFontName(), "Arial");
     EXPECT_TRUE(document.Finish().starts_with(
         "{\\rtf1\\deff1{\\fonttbl{\\f0\\froman Times New Roman;}"
         "{\\f1\\fswiss{\\*\\falt Helvetica}Arial;}{\\f2\\fnil \xC4\\{\\};}}\r\n"));

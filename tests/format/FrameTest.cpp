@@ -22,24 +22,14 @@ TEST(Frame, IsWrittenAsSoonAsAnythingIsSet) {
         {{{"HeightExactly", true}}, R"(\phcol\pvmrg)"},
         {{{"Left", -10.0}, {"Top", -20.0}}, R"(\phcol\posnegx-10\pvmrg\posnegy-20)"},
         // An alignment goes before a place.
-        {{{"Left", 10.0}, {"Top", 20.0}, {"AlignX", dwFAXRight}, {"AlignY", dwFAYBottom}},
-         R"(\phcol\posxr\pvmrg\posyb)"},
+        {SettingsOf("Left=10.0 Top=20.0 AlignX=4 AlignY=5"), R"(\phcol\posxr\pvmrg\posyb)"},
         {{{"SpacingX", 5.0}}, R"(\phcol\pvmrg\dxfrtext5\dfrmtxtx5\dfrmtxty0)"},
         {{{"SpacingY", 6.0}}, R"(\phcol\pvmrg\dxfrtext0\dfrmtxtx0\dfrmtxty6)"},
         {{{"DropCapLines", 3}}, R"(\phcol\pvmrg\dropcapli3\dropcapt1)"},
         {{{"DropCapInMargin", true}}, R"(\phcol\pvmrg)"},
-        {{{"DropCapLines", 10},
-          {"DropCapInMargin", true},
-          {"SpacingY", 6.0},
-          {"SpacingX", 5.0},
-          {"Wrap", false},
-          {"LockAnchor", true},
-          {"Top", 4.0},
-          {"Left", 3.0},
-          {"ReferenceY", dwFRYPage},
-          {"ReferenceX", dwFRXMargin},
-          {"Height", 2.0},
-          {"Width", 1.0}},
+        {SettingsOf("DropCapLines=10 DropCapInMargin=true SpacingY=6.0 SpacingX=5.0 "
+                    "Wrap=false LockAnchor=true Top=4.0 Left=3.0 ReferenceY=1 "
+                    "ReferenceX=3 Height=2.0 Width=1.0"),
          R"(\absw1\absh2\phmrg\posx3\pvpg\posy4\abslock1\nowrap\dxfrtext5\dfrmtxtx5\dfrmtxty6)"
          R"(\dropcapli10\dropcapt2)"},
     };

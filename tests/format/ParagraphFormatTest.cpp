@@ -17,21 +17,11 @@ std::string Layout(const Settings& settings) {
 TEST(ParagraphFormat, WritesAllWordsInOrder) {
     EXPECT_EQ(Layout({}), Spacing);
     EXPECT_EQ(
-        Layout({{"OutlineLevel", 9},
-                {"LineSpacingStyle", dwSpacingAtLeast},
-                {"LineSpacingDistance", 14.0},
-                {"SpaceAfter", 8.0},
-                {"SpaceBefore", 6.0},
-                {"IndentRight", -30.0},
-                {"IndentLeft", 20.0},
-                {"IndentFirst", -20.0},
-                {"Align", dwAlignJustify},
-                {"PageBreakBefore", true},
-                {"NoLineNumbering", true},
-                {"KeepWithNext", true},
-                {"WidowOrphanControl", false},
-                {"KeepIntact", true},
-                {"SuppressHyphen", true}}),
+        Layout(SettingsOf("OutlineLevel=9 LineSpacingStyle=2 LineSpacingDistance=14.0 "
+                          "SpaceAfter=8.0 SpaceBefore=6.0 IndentRight=-30.0 "
+                          "IndentLeft=20.0 IndentFirst=-20.0 Align=4 PageBreakBefore=true "
+                          "NoLineNumbering=true KeepWithNext=true "
+                          "WidowOrphanControl=false KeepIntact=true SuppressHyphen=true")),
         "\\hyphpar0\\keep\\nowidctlpar\\keepn\\noline\\pagebb\\qj\\fi-20\\li20\\ri-30\\sb120\\sa160\\sl280"
         "\\slmult0\\outlinelevel8");
     ExpectWords("- qr qc qj", [](std::int32_t align) {

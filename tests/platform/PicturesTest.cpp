@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace draftwick::test {
 
@@ -307,88 +308,14 @@ TEST(Pictures, RecordedMetafileByteForByte) {
     // 3 by 2 pixels are 79.375 by 52.917 HIMETRIC; the device has 1920 pixels on 508 mm, 96 per inch.
     std::error_code error;
     const auto picture = LoadBytes(MakeBmp({3, 2, {1, 2, 1, 3, 3, 2}}, {}), PictureKind::Bmp, error);
-    const std::int32_t fields[] = {1,
-                                   108,
-                                   0,
-                                   0,
-                                   2,
-                                   1,
-                                   0,
-                                   0,
-                                   80,
-                                   53,
-                                   0x464D4520,
-                                   0x10000,
-                                   108 + 192 + 20,
-                                   3,
-                                   1,
-                                   0,
-                                   0,
-                                   0,
-                                   1920,
-                                   1440,
-                                   508,
-                                   381,
-                                   0,
-                                   0,
-                                   0,
-                                   508000,
-                                   381000,  // the header
-                                   81,
-                                   80 + 40 + 64 + 8,
-                                   0,
-                                   0,
-                                   2,
-                                   1,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   3,
-                                   2,
-                                   80,
-                                   104,
-                                   184,
-                                   8,
-                                   0,
-                                   0xCC0020,
-                                   3,
-                                   2,  // the bitmap
-                                   40,
-                                   3,
-                                   2,
-                                   0x40001,
-                                   0,
-                                   8,
-                                   0,
-                                   0,
-                                   16,
-                                   0,
-                                   0xFF0000,
-                                   0x00FF00,
-                                   0x0000FF,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0,
-                                   0x1022,
-                                   1,  // the bottom row comes first
-                                   14,
-                                   20,
-                                   0,
-                                   16,
-                                   20};
+    // The header, the record of the bitmap, the bitmap, whose bottom row comes first, and the end.
+    std::istringstream fields(
+        "1 108 0 0 2 1 0 0 80 53 1179469088 65536 320 3 1 0 0 0 1920 1440 508 381 0 0 0 508000 381000 "
+        "81 192 0 0 2 1 0 0 0 0 3 2 80 104 184 8 0 13369376 3 2 "
+        "40 3 2 262145 0 8 0 0 16 0 16711680 65280 255 0 0 0 0 0 0 0 0 0 0 0 0 0 4130 1 "
+        "14 20 0 16 20");
     std::string expected;
-    for (const std::int32_t field : fields) expected += Le32(static_cast<std::uint32_t>(field));
+    for (std::uint32_t field = 0; fields >> field;) expected += Le32(field);
     EXPECT_EQ(RecordWhole(*picture, 3, 2), expected);
 }
 

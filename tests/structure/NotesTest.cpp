@@ -50,14 +50,9 @@ TEST(Notes, AreNumberedAndPlacedByTheDocument) {
         const std::string file = Written([&](Document& document) { Apply(settings, document); });
         return Between(file, "\\pgbrdrfoot\\fet2", "}");
     };
-    EXPECT_EQ(words({{"FootnoteLocation", dwFLBeneathText},
-                     {"FootnoteRestart", dwFRPage},
-                     {"FootnoteStartAt", -5},
-                     {"FootnoteFormat", dwFFLetterLower},
-                     {"EndnoteLocation", dwELDocument},
-                     {"EndnoteRestart", dwFRSection},
-                     {"EndnoteStartAt", 32767},
-                     {"EndnoteFormat", dwFFRomanUpper}}),
+    EXPECT_EQ(words(SettingsOf("FootnoteLocation=1 FootnoteRestart=1 FootnoteStartAt=-5 "
+                               "FootnoteFormat=2 EndnoteLocation=2 EndnoteRestart=2 "
+                               "EndnoteStartAt=32767 EndnoteFormat=5")),
               R"(\ftntj\ftnrstpg\ftnstart-5\ftnnalc\aenddoc\aftnrestart\aftnstart32767\aftnnruc)");
     // A value of one setting, with the words of the others.
     const auto ofEach = [&](const char* list, const char* property, const char* before, const char* after) {

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <sstream>
@@ -21,6 +22,25 @@ namespace draftwick::test {
 
 /// Properties by name, in the order in which they are set.
 using Settings = std::vector<std::pair<std::string_view, Variant>>;
+
+/// The same of a literal: "Wrap=5 LockAnchor=true Left=-10.0". Numbers with a point are lengths or reals.
+inline Settings SettingsOf(std::string_view text) {
+    Settings settings;
+    while (!text.empty()) {
+        const std::size_t middle = text.find('='), end = std::min(text.find(' '), text.size());
+        const std::string value{text.substr(middle + 1, end - middle - 1)};
+        const std::string_view name = text.substr(0, middle);
+        if (value == "true" || value == "false") {
+            settings.emplace_back(name, value == "true");
+        } else if (value.find('.') != value.npos) {
+            settings.emplace_back(name, std::stod(value));
+        } else {
+            settings.emplace_back(name, std::stoi(value));
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return settings;
+}
 
 inline void Apply(const Settings& settings, Object& object) {
     for (const auto& [name, value] : settings) Set(object, name, value);
