@@ -42,8 +42,8 @@ TEST(Field, HasFlagsAnInstructionWithSwitchesAndAResult) {
           {"NumberPicture", "0{0}"}},
          "=",
          "",
-         R"(\field{\*\fldinst = \\# "0\{0\}" \\@ "d. MMMM" \\* Arabic \\* Caps \\* MERGEFORMAT \\* CHARFORMAT})"
-         R"({\fldrslt})"},
+         R"(\field{\*\fldinst = \\# "0\{0\}" \\@ "d. MMMM" \\* Arabic \\* Caps \\* MERGEFORMAT)"
+         R"( \\* CHARFORMAT}{\fldrslt})"},
     };
     for (const auto& [settings, code, text, words] : cases)
         EXPECT_EQ(FieldWords(settings, code, text), words);

@@ -25,8 +25,8 @@ ObjectPointer Follow(Object& object, const Step& step) {
                                             : Get(object, step.name));
 }
 
-/// A content object: the way to it from the document, the call that makes the library write it, made on it or on its
-/// parent, and the name that it refuses changes with after that.
+/// A content object: the way to it from the document, the call that makes the library write it, made on it or
+/// on its parent, and the name that it refuses changes with after that.
 struct Owner {
     Steps way;
     Step write;

@@ -17,8 +17,8 @@ protected:
     }
 };
 
-/// The document's file must be tests/golden/NAME, byte for byte. If it is not, it is left in the build's folder
-/// golden-actual. Golden files are written by hand.
+/// The document's file must be tests/golden/NAME, byte for byte. If it is not, it is left in the build's
+/// folder golden-actual. Golden files are written by hand.
 void ExpectGolden(const TestDocument& document, const std::string& name) {
     const std::string actual = document.Finish(LineBreaks::Any);
     const std::filesystem::path left = DRAFTWICK_GOLDEN_ACTUAL_FOLDER "/" + name;
