@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/structure/Body.h"
+#include "tests/support/Documents.h"
 
 #include <regex>
 #include <string>

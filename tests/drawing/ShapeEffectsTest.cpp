@@ -1,5 +1,4 @@
 #include "tests/support/Documents.h"
-#include "tests/support/Errors.h"
 
 namespace draftwick::test {
 

@@ -93,7 +93,7 @@ TEST(ColorTable, NumbersTheBodyThenTheStylesThenTheLists) {
     document->TextStyles()->Items("T")->Background()->SetTexture(dwTextureSolid);
     document->ParagraphStyles()->Add("S")->FontFormat()->SetColor(0xFF0000);
     document.AddParagraph()->AddTextItem("x")->FontFormat()->SetColor(0x0000FF);
-    const std::string header = document.FinishHeader();
+    const std::string header = document.Header();
     EXPECT_TRUE(header.starts_with("{\\rtf1{\\colortbl"
                                    "\\red0\\green0\\blue0 ;"        // the paragraph
                                    "\\red255\\green0\\blue0 ;"      // its run

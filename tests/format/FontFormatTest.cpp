@@ -1,5 +1,4 @@
 #include "tests/support/Documents.h"
-#include "tests/support/Errors.h"
 
 #include <draftwick/format/FontFormatWriter.h>
 
@@ -71,24 +70,19 @@ TEST(FontFormat, RoundsHalfPointsDown) {
 }
 
 TEST(FontFormat, HasAWordForEveryUnderlineAndAnimation) {
-    ExpectWords<dwUnderlineStyle>("ulnone ul uld uldb ulw ulth uldashd uldashdd ulwave",
-                                  [](dwUnderlineStyle style) {
-                                      Values format, other;
-                                      format.underline.Set(style);
-                                      other.underline = static_cast<dwUnderlineStyle>(0);
-                                      const std::string word = Changes(format, other);
-                                      EXPECT_EQ(Full(format), "\\fs24" + (style == 1 ? "" : word) + "\\cf0");
-                                      return word;
-                                  });
-    ExpectWords<dwTextAnimation>("animtext0 animtext2 animtext1 animtext4 animtext5 animtext6 animtext3",
-                                 [](dwTextAnimation effect) {
-                                     Values format, other;
-                                     format.animation.Set(effect);
-                                     other.animation = static_cast<dwTextAnimation>(0);
-                                     const std::string word = Changes(format, other);
-                                     EXPECT_EQ(Full(format), "\\fs24\\cf0" + (effect == 1 ? "" : word));
-                                     return word;
-                                 });
+    ExpectWords<dwUnderlineStyle>("ulnone ul uld uldb ulw ulth uldashd uldashdd ulwave", [](auto style) {
+        const Values format{.underline = {style}}, other{.underline = {static_cast<dwUnderlineStyle>(0)}};
+        const std::string word = Changes(format, other);
+        EXPECT_EQ(Full(format), "\\fs24" + (style == 1 ? "" : word) + "\\cf0");
+        return word;
+    });
+    ExpectWords<dwTextAnimation>(
+        "animtext0 animtext2 animtext1 animtext4 animtext5 animtext6 animtext3", [](auto effect) {
+            const Values format{.animation = {effect}}, other{.animation = {static_cast<dwTextAnimation>(0)}};
+            const std::string word = Changes(format, other);
+            EXPECT_EQ(Full(format), "\\fs24\\cf0" + (effect == 1 ? "" : word));
+            return word;
+        });
 }
 
 TEST(FontFormat, DiffersFromTheBlankReferenceInWhatHasAValue) {
@@ -122,7 +116,7 @@ TEST(FontFormat, LetsSomeSwitchesEndOthers) {
     format->SetEngrave(true);
     EXPECT_FALSE(format->Emboss());
     format->SetEmboss(true);
-    EXPECT_EQ(document.FinishBody(), "\\pard\\plain\\sub\\dn6\\fs24\\super\\up6\\cf0\\embo" + Spacing);
+    EXPECT_EQ(document.Body(), "\\pard\\plain\\sub\\dn6\\fs24\\super\\up6\\cf0\\embo" + Spacing);
 }
 
 TEST(FontFormat, KnowsOnlyFontsOfTheDocument) {
@@ -142,16 +136,15 @@ TEST(FontFormat, KnowsOnlyFontsOfTheDocument) {
     none->SetFontName("");
     none->SetBold(true);
     paragraph->AddTextItem("other")->FontFormat()->SetFontName("Éclair");
-    EXPECT_EQ(Refusal([&] { none->SetFontName("Arial"); }),
-              "X109 Invalid operation.  Target already emitted TextItem.");
-    EXPECT_EQ(document.FinishBody(), "\\pard\\plain\\f0\\fs24\\cf0" + Spacing + "{\\b1 none}{\\f1 other}");
+    EXPECT_EQ(Refusal([&] { none->SetFontName("Arial"); }), Emitted("TextItem"));
+    EXPECT_EQ(document.Body(), "\\pard\\plain\\f0\\fs24\\cf0" + Spacing + "{\\b1 none}{\\f1 other}");
 }
 
 TEST(FontTable, IsWrittenInTheOrderOfAdditionWithNamesAsTheyAre) {
     ExpectWords<dwFontFamily>("fnil froman fswiss fmodern fscript fdecor ftech", [](dwFontFamily family) {
         TestDocument document;
         document->Fonts()->Add("F")->SetFamily(family);
-        const std::string header = document.FinishHeader();
+        const std::string header = document.Header();
         return header.substr(19, header.find(' ') - 19);  // after {\rtf1{\fonttbl{\f0
     });
     TestDocument document;
@@ -161,7 +154,9 @@ TEST(FontTable, IsWrittenInTheOrderOfAdditionWithNamesAsTheyAre) {
     sans->SetAltName("Helvetica");
     document->Fonts()->Add("Ä\\{\\}")->SetAltName("x");
     document->Fonts()->Items(3)->SetAltName("");
+    EXPECT_EQ(Refusal([&] { document->SetDefaultFontName("Times"); }), "X112 Item not found 'Times'.");
     document->SetDefaultFontName("ARIAL");
+    EXPECT_EQ(document->DefaultFontName(), "Arial");
     EXPECT_TRUE(document.Finish().starts_with(
         "{\\rtf1\\deff1{\\fonttbl{\\f0\\froman Times New Roman;}"
         "{\\f1\\fswiss{\\*\\falt Helvetica}Arial;}{\\f2\\fnil \xC4\\{\\};}}\r\n"));

@@ -1,5 +1,4 @@
 #include "tests/support/Documents.h"
-#include "tests/support/Errors.h"
 
 #include <cctype>
 
@@ -28,7 +27,7 @@ const std::string OwnNumbers = "{\\listoverride\\listid1\\listoverridecount\\ls1
 
 /// The words of the list tables.
 std::string Tables(TestDocument& document) {
-    const std::string header = document.FinishHeader();
+    const std::string header = document.Header();
     return header.substr(std::min(header.find("{\\*\\listtable"), header.size()));
 }
 
@@ -91,7 +90,7 @@ TEST(Lists, HaveANumberAndTheLevelsOfTheOtherListForEachPairing) {
     Join(document, "A", 1);
     document->Lists()->Items("C")->Levels(2)->SetStyle(dwLNSBullet);  // what holds at the end is written
     const std::string words = Words(document.Finish());
-    const std::string next = "\\par\\pard" + Plain + Spacing;
+    const std::string next = "\\par\\pard\\plain\\fs24\\cf0" + Spacing;
     EXPECT_TRUE(words.ends_with("\\ls10001\\ilvl0" + next + "\\ls10002\\ilvl0" + next + "\\ls10003\\ilvl0"
                                 + next + "\\ls10002\\ilvl1" + next + "\\ls10004\\ilvl0" + next
                                 + "\\ls1\\ilvl0}"));
@@ -125,7 +124,7 @@ TEST(Lists, AreJoinedByStylesToo) {
     EXPECT_NE(words.find("{\\listname A;}\\listid1{\\listlevel"),
               std::string::npos);  // a ninth level is in use
     EXPECT_NE(words.find("{\\listname B;}\\listid2\\listsimple{\\listlevel"), std::string::npos);
-    EXPECT_TRUE(words.ends_with("\\slmult1\\ls10001\\ilvl0\\par\\pard" + Plain + Spacing + "}"));
+    EXPECT_TRUE(words.ends_with("\\slmult1\\ls10001\\ilvl0\\par\\pard\\plain\\fs24\\cf0" + Spacing + "}"));
 }
 
 TEST(ListLevel, WritesAllWordsInOrder) {
@@ -133,14 +132,8 @@ TEST(ListLevel, WritesAllWordsInOrder) {
     const auto list = document->Lists()->Add("L");
     document->AddSection();  // levels never refuse
     const auto level = list->Levels(1);
-    level->SetStyle(dwLNSBullet);
-    level->SetAlign(dwLNACenter);
-    level->SetFollow(dwLNFSpace);
-    level->SetFormat("*");
-    level->SetLegal(true);
-    level->SetNoLevelRestart(true);
-    level->SetStartAt(-7);
-    level->SetTabPosition(0.5);
+    Apply({{"Style", dwLNSBullet}, {"Align", dwLNACenter}, {"Follow", dwLNFSpace}, {"Format", "*"}}, *level);
+    Apply({{"Legal", true}, {"NoLevelRestart", true}, {"StartAt", -7}, {"TabPosition", 0.5}}, *level);
     level->FontFormat()->SetBold(true);
     EXPECT_EQ(Refusal([&] { list->Levels(10); }).substr(0, 2), "9 ");
     EXPECT_NE(Tables(document).find(
@@ -151,23 +144,18 @@ TEST(ListLevel, WritesAllWordsInOrder) {
 }
 
 TEST(ListLevel, HasAWordForEveryStyleAlignmentAndFollow) {
-    const auto word = [](const std::string& name, const auto& set) {
-        TestDocument document;
-        set(*document->Lists()->Add("L")->Levels(1));
-        const std::string tables = Tables(document);
-        const std::size_t start = tables.find(name);
-        return tables.substr(start, tables.find('\\', start + 1) - start);
+    const auto word = [](const char* property, const std::string& name) {
+        return [=](std::int32_t value) {
+            TestDocument document;
+            Set(*document->Lists()->Add("L")->Levels(1), property, value);
+            return name + Between(Tables(document), name, "\\");
+        };
     };
-    ExpectWords<dwListNumberStyle>(
-        "levelnfc6 levelnfc0 levelnfc3 levelnfc4 levelnfc1 levelnfc2 levelnfc5 levelnfc7 levelnfc22 "
-        "levelnfc23",
-        [&](auto style) { return word("\\levelnfc", [&](ListLevel& level) { level.SetStyle(style); }); });
-    ExpectWords<dwListNumberAlign>("leveljc0 leveljc2 leveljc1", [&](auto align) {
-        return word("\\leveljc", [&](ListLevel& level) { level.SetAlign(align); });
-    });
-    ExpectWords<dwListNumberFollow>("levelfollow2 levelfollow1 levelfollow0", [&](auto follow) {
-        return word("\\levelfollow", [&](ListLevel& level) { level.SetFollow(follow); });
-    });
+    ExpectWords("levelnfc6 levelnfc0 levelnfc3 levelnfc4 levelnfc1 levelnfc2 levelnfc5 levelnfc7 levelnfc22 "
+                "levelnfc23",
+                word("Style", "\\levelnfc"));
+    ExpectWords("leveljc0 leveljc2 leveljc1", word("Align", "\\leveljc"));
+    ExpectWords("levelfollow2 levelfollow1 levelfollow0", word("Follow", "\\levelfollow"));
 }
 
 TEST(ListLevel, CountsTheCharactersOfItsFormat) {

@@ -34,8 +34,8 @@ TEST(Run, WritesWhatDiffersFromItsStyleItsParagraphOrTheDefault) {
         const auto item = paragraph->AddTextItem("x");
         if (c.own) item->FontFormat()->SetItalic(true);
         if (c.style) item->SetStyleName("t");
-        const std::string start = c.ofParagraph ? "\\pard\\plain\\b\\fs28\\cf0" : "\\pard\\plain\\fs24\\cf0";
-        EXPECT_EQ(document.FinishBody(), start + Spacing + c.words);
+        const std::string start = c.ofParagraph ? "\\pard\\plain\\b\\fs28\\cf0" + Spacing : "\\pard~";
+        EXPECT_EQ(document.Body(), start + c.words);
     }
 }
 
@@ -48,7 +48,7 @@ TEST(Run, IsChangedByTheFirstReadOfAFormatUnderATextStyle) {
     const auto read = paragraph->AddTextItem("read");
     read->SetStyleName("T");
     EXPECT_FALSE(read->FontFormat()->Bold());
-    EXPECT_EQ(document.FinishBody(), "\\pard" + Plain + Spacing + "{\\cs0 unread}{\\cs0\\ulnone read}");
+    EXPECT_EQ(document.Body(), "\\pard~{\\cs0 unread}{\\cs0\\ulnone read}");
 }
 
 TEST(Run, StartsFromTheFormatOfTheParagraphAtThatMoment) {
@@ -58,7 +58,7 @@ TEST(Run, StartsFromTheFormatOfTheParagraphAtThatMoment) {
     const auto item = paragraph->AddTextItem("x")->FontFormat();
     EXPECT_EQ(item->Size(), 30);
     item->SetSize(12);
-    EXPECT_EQ(document.FinishBody(), "\\pard\\plain\\fs60\\cf0" + Spacing + "{\\fs24 x}");
+    EXPECT_EQ(Between(document.Body(), Spacing, "}"), "{\\fs24 x");
 }
 
 TEST(Run, WritesStyleFormatBackgroundAndBorderInThisOrder) {
@@ -70,11 +70,9 @@ TEST(Run, WritesStyleFormatBackgroundAndBorderInThisOrder) {
     item->Background()->SetTexture(dwTextureCross);
     item->FontFormat()->SetBold(true);
     item->SetStyleName("T");
-    EXPECT_EQ(document.FinishBody(),
-              "\\pard" + Plain + Spacing
-                  + ""
-                    "{\\cs0\\b1\\chbgcross\\chcbpat1\\chfpat0\\chbrdr\\brdrwavy\\brdrw20\\brdrref2 "
-                    "a\\{b\\}}");
+    EXPECT_EQ(document.Body(),
+              "\\pard~{\\cs0\\b1\\chbgcross\\chcbpat1\\chfpat0\\chbrdr\\brdrwavy\\brdrw20\\brdrref2 "
+              "a\\{b\\}}");
 }
 
 TEST(TextBorder, IsWrittenUnlessItsStyleIsNone) {
@@ -88,7 +86,7 @@ TEST(TextBorder, IsWrittenUnlessItsStyleIsNone) {
         {2, 1, "\\chbrdr\\brdrs\\brdrw20\\brdrref0"},
         {24, 1.29, "\\chbrdr\\brdrengrave\\brdrw25\\brdrref0"},
         {2, -0.01, "\\chbrdr\\brdrs\\brdrw-1\\brdrref0"},
-        {0, 1, "\\chbrdr\\brdrw20\\brdrref0"},  // styles are not checked here; they need not have a word
+        // Styles are not checked here; they need not have a word.
         {25, 1, "\\chbrdr\\brdrw20\\brdrref0"},
         {-5, 1, "\\chbrdr\\brdrw20\\brdrref0"},
     };

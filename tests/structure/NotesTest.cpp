@@ -1,5 +1,4 @@
-#include "tests/structure/Body.h"
-#include "tests/support/Errors.h"
+#include "tests/support/Documents.h"
 
 namespace draftwick::test {
 
@@ -33,72 +32,61 @@ TEST(Footnote, LeavesTheMarksOfTheTextAroundIt) {
 }
 
 TEST(Footnote, RefusesMoreOnceClosed) {
-    Built built;
-    auto paragraph = built.document->AddSection()->AddParagraph();
+    TestDocument built;
+    auto paragraph = built.AddParagraph();
     auto note = paragraph->AddFootnote(true);
     auto inner = note->AddParagraph();
     EXPECT_TRUE(note->IsEndnote() && note->Emitted() && !note->Finished());
     paragraph->AddTextItem("a");
     EXPECT_EQ(paragraph->CurrentFootnote(), note);
-    const std::string refused = "X109 Invalid operation.  Target already emitted ";
-    EXPECT_EQ(Refusal([&] { note->AddParagraph(); }), refused + "Footnote.");
-    EXPECT_EQ(Refusal([&] { note->AddTable(); }), refused + "Footnote.");
-    EXPECT_EQ(Refusal([&] { inner->AddFootnote(); }), refused + "Paragraph.");
-    EXPECT_EQ(Refusal([&] { inner->AddBookmark("x"); }), refused + "Paragraph.");
+    EXPECT_EQ(Refusal([&] { note->AddParagraph(); }), Emitted("Footnote"));
+    EXPECT_EQ(Refusal([&] { note->AddTable(); }), Emitted("Footnote"));
+    EXPECT_EQ(Refusal([&] { inner->AddFootnote(); }), Emitted("Paragraph"));
+    EXPECT_EQ(Refusal([&] { inner->AddBookmark("x"); }), Emitted("Paragraph"));
 }
 
 TEST(Notes, AreNumberedAndPlacedByTheDocument) {
-    struct {
-        Settings settings;
-        std::string words;
-    } const cases[]{
-        {{}, R"(\fntbj\ftnrstcont\ftnstart1\ftnnar\aendnotes\aftnrstcont\aftnstart1\aftnnar)"},
-        {{{"FootnoteLocation", dwFLBeneathText},
-          {"FootnoteRestart", dwFRPage},
-          {"FootnoteStartAt", -5},
-          {"FootnoteFormat", dwFFLetterLower},
-          {"EndnoteLocation", dwELDocument},
-          {"EndnoteRestart", dwFRPage},
-          {"EndnoteStartAt", 32767},
-          {"EndnoteFormat", dwFFLetterLower}},
-         R"(\ftntj\ftnrstpg\ftnstart-5\ftnnalc\aenddoc\aftnrstcont\aftnstart32767\aftnnalc)"},
-        {{{"FootnoteRestart", dwFRSection}, {"FootnoteFormat", dwFFLetterUpper}},
-         R"(\fntbj\ftnrestart\ftnstart1\ftnnauc\aendnotes\aftnrstcont\aftnstart1\aftnnar)"},
-        {{{"EndnoteRestart", dwFRSection}, {"EndnoteFormat", dwFFLetterUpper}},
-         R"(\fntbj\ftnrstcont\ftnstart1\ftnnar\aendnotes\aftnrestart\aftnstart1\aftnnauc)"},
-        {{{"FootnoteFormat", dwFFRomanLower}, {"EndnoteFormat", dwFFRomanUpper}},
-         R"(\fntbj\ftnrstcont\ftnstart1\ftnnrlc\aendnotes\aftnrstcont\aftnstart1\aftnnruc)"},
-        {{{"FootnoteFormat", dwFFRomanUpper}, {"EndnoteFormat", dwFFRomanLower}},
-         R"(\fntbj\ftnrstcont\ftnstart1\ftnnruc\aendnotes\aftnrstcont\aftnstart1\aftnnrlc)"},
+    const auto words = [](const Settings& settings) {
+        const std::string file = Written([&](Document& document) { Apply(settings, document); });
+        return Between(file, "\\pgbrdrfoot\\fet2", "}");
     };
-    for (const auto& [settings, words] : cases) {
-        Built built;
-        Apply(settings, *built.document);
-        built.document->AddSection();
-        // Text of two line breaks stands between the two kinds: only its delimiter is left for a reader.
-        const std::string actual = Words(built.File());
-        EXPECT_NE(actual.find("\\pgbrdrfoot\\fet2" + words + "\\sectd"), actual.npos) << words << "\n"
-                                                                                      << actual;
-        EXPECT_NE(actual.find("\\endnhere") == actual.npos, words.find("aendnotes") != words.npos);
-    }
+    EXPECT_EQ(words(SettingsOf("FootnoteLocation=1 FootnoteRestart=1 FootnoteStartAt=-5 "
+                               "FootnoteFormat=2 EndnoteLocation=2 EndnoteRestart=2 "
+                               "EndnoteStartAt=32767 EndnoteFormat=5")),
+              R"(\ftntj\ftnrstpg\ftnstart-5\ftnnalc\aenddoc\aftnrestart\aftnstart32767\aftnnruc)");
+    // A value of one setting, with the words of the others.
+    const auto ofEach = [&](const char* list, const char* property, const char* before, const char* after) {
+        ExpectWords(list, [&](std::int32_t value) {
+            return Between(words({{property, value}}) + "!", before, after);
+        });
+    };
+    ofEach("ftntj fntbj", "FootnoteLocation", "", "\\ftnrstcont\\ftnstart1\\ftnnar\\aendnotes\\aftnrstcont");
+    ofEach("ftnrstpg ftnrestart ftnrstcont", "FootnoteRestart", "\\fntbj", "\\ftnstart1\\ftnnar\\aendnotes");
+    ofEach("ftnnar ftnnalc ftnnauc ftnnrlc ftnnruc", "FootnoteFormat", "\\ftnstart1",
+           "\\aendnotes\\aftnrstc");
+    ofEach("aendnotes aenddoc", "EndnoteLocation", "\\ftnstart1\\ftnnar",
+           "\\aftnrstcont\\aftnstart1\\aftnnar!");
+    ofEach("aftnrstcont aftnrestart aftnrstcont", "EndnoteRestart", "\\aendnotes", "\\aftnstart1\\aftnnar!");
+    ofEach("aftnnar aftnnalc aftnnauc aftnnrlc aftnnruc", "EndnoteFormat", "\\aftnrstcont\\aftnstart1", "!");
+    // Notes at the end of the document do not stand at the ends of sections.
+    TestDocument document;
+    document->SetEndnoteLocation(dwELDocument);
+    document->AddSection();
+    EXPECT_EQ(document.Finish().find("endnhere"), std::string::npos);
 }
 
 TEST(Bookmark, IsADestinationInTheText) {
-    Built built;
-    auto paragraph = built.document->AddSection()->AddParagraph();
+    TestDocument built;
+    auto paragraph = built.AddParagraph();
     paragraph->AddBookmark("");
     auto total = paragraph->AddBookmark("x");
     total->SetName("Total");
     auto item = paragraph->AddTextItem("a");
     auto end = paragraph->AddBookmark("Total", false);
     EXPECT_EQ(paragraph->CurrentBookmark(), end);
-    EXPECT_EQ(Refusal([&] { item->AddText("b"); }),
-              "X109 Invalid operation.  Target already emitted TextItem.");
-    EXPECT_EQ(Refusal([&] { total->SetName("y"); }),
-              "X109 Invalid operation.  Target already emitted Bookmark.");
-    EXPECT_EQ(total->Name(), "Total");
-    const std::string bytes = built.File();
-    EXPECT_NE(bytes.find("{\\*\\bkmkstart }"), bytes.npos);  // the delimiter stands even before an empty name
+    EXPECT_EQ(Refusal([&] { item->AddText("b"); }), Emitted("TextItem"));
+    // The delimiter stands even before an empty name.
+    EXPECT_NE(built.Finish().find("{\\*\\bkmkstart }"), std::string::npos);
     EXPECT_EQ(built.Body(), R"(\pard~{\*\bkmkstart}{\*\bkmkstart Total}{a}{\*\bkmkend Total})");
 }
 

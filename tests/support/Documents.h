@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/Errors.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/Rtf.h"
 
@@ -8,71 +9,117 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace draftwick::test {
 
-/// The words of the characters and of the layout of a paragraph in which nothing is set.
-inline const std::string Plain = "\\plain\\fs24\\cf0";
-inline const std::string Spacing = "\\sb0\\sa0\\sl240\\slmult1";
+/// Properties by name, in the order in which they are set.
+using Settings = std::vector<std::pair<std::string_view, Variant>>;
 
-/// A document whose files stay in memory.
-class TestDocument {
-public:
-    Document* operator->() const { return document_.get(); }
-    Document& operator*() const { return *document_; }
-
-    /// A paragraph in the section that is open, or in a first one.
-    std::shared_ptr<Paragraph> AddParagraph() {
-        if (document_->CurrentSection() == nullptr) document_->AddSection();
-        return document_->CurrentSection()->AddParagraph();
+/// The same of a literal: "Wrap=5 LockAnchor=true Left=-10.0". Numbers with a point are lengths or reals.
+inline Settings SettingsOf(std::string_view text) {
+    Settings settings;
+    while (!text.empty()) {
+        const std::size_t middle = text.find('='), end = std::min(text.find(' '), text.size());
+        const std::string value{text.substr(middle + 1, end - middle - 1)};
+        const std::string_view name = text.substr(0, middle);
+        if (value == "true" || value == "false") {
+            settings.emplace_back(name, value == "true");
+        } else if (value.find('.') != value.npos) {
+            settings.emplace_back(name, std::stod(value));
+        } else {
+            settings.emplace_back(name, std::stoi(value));
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
     }
+    return settings;
+}
 
-    /// Finishes the document and gives the bytes of its file, which must be one whole RTF document.
-    std::string Finish() {
-        document_->Finish();
-        std::string bytes = files_->Bytes(document_->ActualFileName());
-        EXPECT_EQ(CheckFile(bytes), std::vector<std::string>{});
-        return bytes;
-    }
-    /// Finishes the document: the words from the tables of the header up to the settings of the document.
-    std::string FinishHeader() {
-        const std::string words = Words(Finish());
-        return words.substr(0, words.find("\\deftab"));
-    }
-    /// Finishes the document: the words from the first paragraph on, without the last brace.
-    std::string FinishBody() {
-        const std::string words = Words(Finish());
-        const std::size_t start = words.find("\\pard");
-        return words.substr(start, words.size() - start - 1);
-    }
+inline void Apply(const Settings& settings, Object& object) {
+    for (const auto& [name, value] : settings) Set(object, name, value);
+}
 
-private:
-    std::shared_ptr<MemoryFiles> files_ = std::make_shared<MemoryFiles>();
-    std::shared_ptr<Document> document_ = Document::Create(MakeFakePlatform(files_));
-};
+inline void AddText(Container& container, std::string_view text) {
+    container.AddParagraph()->AddTextItem(text);
+}
 
-/// The words of the file of a document that `build` fills. Its lengths are in twips.
-inline std::string Written(const std::function<void(Document&)>& build) {
-    TestDocument document;
-    document->SetScaleMode(dwTwips);
-    build(*document);
-    return Words(document.Finish());
+inline void ReplaceAll(std::string& text, std::string_view from, std::string_view to) {
+    for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size())) {
+        text.replace(at, from.size(), to);
+    }
 }
 
 /// What stands between the first `after` and the first `before` that follows it.
 inline std::string Between(const std::string& text, std::string_view after, std::string_view before) {
     const std::size_t start = text.find(after);
-    if (start == std::string::npos) return "no " + std::string{after};
+    if (start == text.npos) return "no " + std::string{after};
     const std::size_t from = start + after.size();
     const std::size_t end = text.find(before, from);
-    if (end == std::string::npos) return "no " + std::string{before};
-    return text.substr(from, end - from);
+    return end == text.npos ? "no " + std::string{before} : text.substr(from, end - from);
+}
+
+/// The words of the layout of a paragraph in which nothing is set.
+inline const std::string Spacing = "\\sb0\\sa0\\sl240\\slmult1";
+
+/// A document whose file stays in memory.
+struct TestDocument {
+    std::shared_ptr<MemoryFiles> files = std::make_shared<MemoryFiles>();
+    std::shared_ptr<Document> document = Document::Create(MakeFakePlatform(files));
+
+    explicit TestDocument(dwScaleMode scale = dwInches) { document->SetScaleMode(scale); }
+    Document* operator->() const { return document.get(); }
+
+    /// A paragraph in the section that is open, or in a first one.
+    std::shared_ptr<Paragraph> AddParagraph() const {
+        if (document->CurrentSection() == nullptr) document->AddSection();
+        return document->CurrentSection()->AddParagraph();
+    }
+
+    /// Finishes the document and gives the bytes of its file, which must be one whole RTF document.
+    std::string Finish(LineBreaks lineBreaks = LineBreaks::OnlyCrLf) const {
+        document->Finish();
+        std::string bytes = files->Bytes(document->ActualFileName());
+        EXPECT_EQ(CheckFile(bytes, lineBreaks), "");
+        return bytes;
+    }
+    /// The words of the finished file from its beginning to the settings of the document.
+    std::string Header() const {
+        const std::string words = Words(Finish());
+        return words.substr(0, words.find("\\deftab"));
+    }
+    /// The words of the finished file from behind those of the first section to the end of the last. "~" is the
+    /// look of a paragraph on which nothing was set, "\sectd#" the words of a further section.
+    std::string Body() const {
+        std::string words = Words(Finish());
+        words = words.substr(words.find("\\endnhere") + 9);
+        words.pop_back();
+        ReplaceAll(words, "\\plain\\fs24\\cf0" + Spacing, "~");
+        for (std::size_t at = 0; (at = words.find("\\sectd", at)) != words.npos; ++at) {
+            words.replace(at + 6, words.find("\\endnhere", at) + 3 - at, "#");
+        }
+        return words;
+    }
+};
+
+/// The words of the file of a document that `build` fills. Its lengths are in twips.
+inline std::string Written(const std::function<void(Document&)>& build) {
+    const TestDocument document(dwTwips);
+    build(*document.document);
+    return Words(document.Finish());
+}
+
+/// The body of a document with one section. Its lengths are in inches.
+inline std::string BodyOf(const std::function<void(Section&)>& build) {
+    const TestDocument document;
+    build(*document->AddSection());
+    return document.Body();
 }
 
 /// The words that one writer writes, without a document.
@@ -89,8 +136,8 @@ inline std::string WordsOf(const std::function<void(WritingContext&)>& write) {
 }
 
 /// Checks the words of an enumeration: one for each value from 1 on, divided by blanks, "-" where there is none.
-template <class Enumeration>
-void ExpectWords(const std::string& words, const std::function<std::string(Enumeration)>& write) {
+template <class Enumeration = std::int32_t, class Write>
+void ExpectWords(const std::string& words, const Write& write) {
     std::istringstream list(words);
     std::string word;
     for (std::int32_t value = 1; list >> word; ++value) {

@@ -8,6 +8,7 @@
 #include <set>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace draftwick::test {
@@ -30,7 +31,6 @@ public:
 
     /// A locked file cannot be deleted or overwritten: std::errc::device_or_resource_busy.
     void Lock(const std::string& name) { locked_.insert(name); }
-    void Unlock(const std::string& name) { locked_.erase(name); }
 
     /// How many files are open.
     int OpenFiles() const { return open_; }
