@@ -7,7 +7,7 @@
 namespace draftwick {
 
 namespace {
-constexpr std::size_t BlockSize = 64 * 1024;
+constexpr std::size_t BlockSize = std::size_t{64} * 1024;
 }
 
 void RaiseFileError(std::error_code error, std::string_view action, const std::string& name) {

@@ -8,7 +8,7 @@ namespace draftwick {
 namespace {
 
 /// What all classes have; a document is its own.
-const std::array<Property, 2> Common{{
+const std::array<ClassProperty, 2> Common{{
     {.name = "Parent",
      .rule = {.kind = Kind::Object},
      .get = [](Object& object) { return ToVariant(object.Parent()); }},
@@ -34,29 +34,29 @@ auto* FindRow(const Rows& rows, std::string_view name) {
 
 }  // namespace
 
-const Property* Class::FindProperty(std::string_view property) const {
-    const Property* own = FindRow(properties, property);
+const ClassProperty* Class::FindProperty(std::string_view property) const {
+    const ClassProperty* own = FindRow(properties, property);
     return own != nullptr ? own : FindRow(Common, property);
 }
 
-const Method* Class::FindMethod(std::string_view method) const { return FindRow(methods, method); }
+const ClassMethod* Class::FindMethod(std::string_view method) const { return FindRow(methods, method); }
 
 Variant Get(Object& object, std::string_view property) {
-    const Property* found = object.Description().FindProperty(property);
+    const ClassProperty* found = object.Description().FindProperty(property);
     if (found == nullptr) RaiseNoMember(object, property);
     if (found->get == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be written");
     return found->get(object);
 }
 
 void Set(Object& object, std::string_view property, const Variant& value) {
-    const Property* found = object.Description().FindProperty(property);
+    const ClassProperty* found = object.Description().FindProperty(property);
     if (found == nullptr) RaiseNoMember(object, property);
     if (found->set == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be read");
     found->set(object, value);
 }
 
 Variant Call(Object& object, std::string_view method, std::span<const Variant> arguments) {
-    const Method* found = object.Description().FindMethod(method);
+    const ClassMethod* found = object.Description().FindMethod(method);
     if (found == nullptr) RaiseNoMember(object, method);
     std::vector<Variant> all{arguments.begin(), arguments.end()};
     if (all.size() > found->arguments.size()) RaiseRuntimeError(dwRunInvalidCall, "too many arguments");

@@ -30,7 +30,7 @@ struct Rule {
     Variant initial{};  ///< the default; a length in twips; nothing where it depends on the document
 };
 
-struct Property {
+struct ClassProperty {
     std::string_view name;
     Rule rule;
     Variant (*get)(Object&) = nullptr;               ///< empty: write only
@@ -42,7 +42,7 @@ struct Argument {
     std::optional<Variant> initial{};  ///< empty: must be given
 };
 
-struct Method {
+struct ClassMethod {
     std::string_view name;
     std::vector<Argument> arguments;
     Variant (*call)(Object&, std::span<const Variant>) = nullptr;
@@ -53,12 +53,12 @@ struct Class {
     std::string_view name;
     std::string_view classId;  ///< fixed for ever, as is the next
     std::string_view interfaceId;
-    std::vector<Property> properties;
-    std::vector<Method> methods;
+    std::vector<ClassProperty> properties;
+    std::vector<ClassMethod> methods;
 
     /// nullptr when there is none. All classes have Parent and Document.
-    const Property* FindProperty(std::string_view property) const;
-    const Method* FindMethod(std::string_view method) const;
+    const ClassProperty* FindProperty(std::string_view property) const;
+    const ClassMethod* FindMethod(std::string_view method) const;
 };
 
 /// The value of a property. dwErrItemNotFound ("Section.MarginTop") when the class has no such property, error 5
@@ -220,11 +220,19 @@ template <std::int32_t Factor, std::int32_t Divisor>
 Rule RuleOfField(const Real<Factor, Divisor>& field) {
     return {.kind = Kind::Real, .initial = static_cast<double>(field)};
 }
+inline Rule RuleOfField(const FixedPoint& field) {
+    return {.kind = Kind::Real, .initial = static_cast<double>(field)};
+}
 template <class Plain>
 Rule RuleOfField(const Plain& field) {
     Rule rule = RuleOfValue<Plain>();
     rule.initial = ToVariant(field);
     return rule;
+}
+
+template <class Owner, class Value>
+Rule RuleOfSetter(void (Owner::*)(Value)) {
+    return RuleOfValue<std::decay_t<Value>>();
 }
 
 template <class Values, class Field>
@@ -238,8 +246,8 @@ Rule RuleOf(Field Values::*member) {
 /// A row of a class's table: a property with its getter, its setter (nullptr: read only) and the field that holds
 /// its rule and default (nullptr: the property has a mind of its own).
 template <auto Getter, auto Setter = nullptr, auto Field = nullptr>
-Property PropertyOf(std::string_view name) {
-    Property property{.name = name, .rule = {}, .get = detail::Read<Getter>, .set = nullptr};
+ClassProperty PropertyOf(std::string_view name) {
+    ClassProperty property{.name = name, .rule = {}, .get = detail::Read<Getter>, .set = nullptr};
     if constexpr (!std::is_null_pointer_v<decltype(Field)>) {
         property.rule = detail::RuleOf(Field);
     } else {
@@ -249,9 +257,15 @@ Property PropertyOf(std::string_view name) {
     return property;
 }
 
+/// A row of a class's table: a property that can be set but not read.
+template <auto Setter>
+ClassProperty WriteOnlyPropertyOf(std::string_view name) {
+    return {.name = name, .rule = detail::RuleOfSetter(Setter), .get = nullptr, .set = detail::Write<Setter>};
+}
+
 /// A row of a class's table: a method with the names and defaults of its arguments.
 template <auto Pointer>
-Method MethodOf(std::string_view name, std::vector<Argument> arguments = {}) {
+ClassMethod MethodOf(std::string_view name, std::vector<Argument> arguments = {}) {
     return {name, std::move(arguments), detail::Invoke<Pointer>};
 }
 

@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace draftwick {
@@ -47,7 +48,7 @@ private:
     std::int32_t index_ = 1;
 };
 
-/// A collection whose items have names, told apart without regard to case. It only grows.
+/// A collection whose items have names, told apart without regard to case.
 template <class Item>
 class NamedCollection : public Node {
 public:
@@ -80,7 +81,10 @@ public:
     std::int32_t IndexOf(std::string_view name) const { return static_cast<std::int32_t>(Find(name)); }
 
 protected:
-    /// An empty name is dwErrZeroLengthName with the collection's name, one that is taken error 457.
+    bool Contains(std::string_view name) const { return positions_.contains(FoldCase(name)); }
+
+    /// An empty name is dwErrZeroLengthName with the collection's name, one that is taken error 457. The item's
+    /// parent is the collection's: a font belongs to the document.
     std::shared_ptr<Item> AddItem(std::string_view name, std::string_view collection) {
         if (name.empty()) RaiseError(dwErrZeroLengthName, {std::string{collection}});
         std::string spelling = ToValidUtf8(name);
@@ -97,6 +101,16 @@ protected:
         return item;
     }
 
+    /// Takes the item at a position from 1 out; those behind it move up.
+    void RemoveItem(std::int32_t index) {
+        const auto removed = static_cast<std::size_t>(index - 1);
+        std::erase_if(positions_, [&](const auto& entry) { return entry.second == removed; });
+        for (auto& [key, position] : positions_) {
+            if (position > removed) --position;
+        }
+        items_.erase(items_.begin() + (index - 1));
+    }
+
 private:
     std::size_t Find(std::string_view name) const {
         const auto found = positions_.find(FoldCase(name));
@@ -108,9 +122,9 @@ private:
     std::unordered_map<std::string, std::size_t> positions_;
 };
 
-/// Items have the document as their parent: a font belongs to the document, not to its collection.
+/// The row of Items, by position or by name, in the class table of a named collection.
 template <class Collection>
-Method ItemsMethod() {
+ClassMethod ItemsMethod() {
     return MethodOf<&Collection::ItemOf>("Items", {{"Index"}});
 }
 

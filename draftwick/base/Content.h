@@ -43,16 +43,15 @@ protected:
     template <class Child, class... Arguments>
     std::shared_ptr<Child> Add(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
         PrepareAdd();
-        auto child = std::make_shared<Child>(OriginOfChild(), std::forward<Arguments>(arguments)...);
-        open_ = child;
-        slot = child;
-        return child;
+        slot = std::make_shared<Child>(OriginOfChild(), std::forward<Arguments>(arguments)...);
+        open_ = slot.get();
+        return slot;
     }
 
 private:
     void PrepareAdd();
 
-    std::shared_ptr<Content> open_;  // the child that is not finished yet
+    Content* open_ = nullptr;  // the child that is not finished yet; its slot keeps it
     bool emitted_ = false;
     bool finished_ = false;
 };

@@ -17,6 +17,7 @@ constexpr std::int32_t OwnRangeFirst = -2147220990;
 constexpr std::int32_t OwnRangeEnd = -2147155456;
 constexpr std::int32_t TextInParameters = -2147210989;  // the first parameter is the message itself
 constexpr std::string_view Product = "Draftwick";
+constexpr std::string_view ProductWithoutText = "Draftwick Except";
 constexpr std::string_view HelpFileName = "Draftwick.chm";
 
 std::atomic<bool> logging{false};
@@ -51,7 +52,7 @@ std::string_view RuntimeErrorText(dwRuntimeError number) {
 }  // namespace
 
 void RaiseError(std::int32_t number, std::initializer_list<Variant> parameters) {
-    std::string source{Product};
+    std::string_view source = Product;
     std::string text;
     std::vector<Variant> values{parameters};
     if (number == TextInParameters) {
@@ -59,7 +60,7 @@ void RaiseError(std::int32_t number, std::initializer_list<Variant> parameters) 
             text = std::get<std::string>(values.front());
             values.erase(values.begin());
         } else {
-            source += " Except";
+            source = ProductWithoutText;
         }
     } else if (number >= OwnRangeFirst && number < OwnRangeEnd) {
         text = MessageText(number - FirstMessage);
@@ -70,7 +71,7 @@ void RaiseError(std::int32_t number, std::initializer_list<Variant> parameters) 
         }
     }
     if (text.empty()) text = "There is no message for this error";
-    Raise(Error(number, text, source, std::string{HelpFileName}));
+    Raise(Error(number, text, source, HelpFileName));
 }
 
 void RaiseRuntimeError(dwRuntimeError number, const std::string& detail) {

@@ -44,21 +44,22 @@ enum dwRuntimeError : std::int32_t {
 /// them: these are std::system_error with the file's name in the text.
 class Error : public std::runtime_error {
 public:
-    Error(std::int32_t number, const std::string& description, std::string source, std::string helpFile)
-        : std::runtime_error(description), number_(number), source_(std::move(source)),
-          helpFile_(std::move(helpFile)) {}
+    /// The last two are texts that live as long as the program: copying an exception must not fail.
+    Error(std::int32_t number, const std::string& description, std::string_view source,
+          std::string_view helpFile)
+        : std::runtime_error(description), number_(number), source_(source), helpFile_(helpFile) {}
 
     /// A dwErrCode or a dwRuntimeError.
     std::int32_t Number() const noexcept { return number_; }
     /// "Draftwick" for a dwErrCode, empty for a dwRuntimeError.
-    const std::string& Source() const noexcept { return source_; }
+    std::string Source() const { return std::string{source_}; }
     /// "Draftwick.chm" for a dwErrCode, empty for a dwRuntimeError.
-    const std::string& HelpFile() const noexcept { return helpFile_; }
+    std::string HelpFile() const { return std::string{helpFile_}; }
 
 private:
     std::int32_t number_;
-    std::string source_;
-    std::string helpFile_;
+    std::string_view source_;
+    std::string_view helpFile_;
 };
 
 /// Raises Error with the message of `number`, in which %1, %2, ... stand for the parameters that are texts.

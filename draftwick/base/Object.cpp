@@ -48,7 +48,13 @@ std::shared_ptr<Object> Node::RequireParent() const {
 
 void Node::CheckNotEmitted() const { RequireParent()->CheckNotEmitted(); }
 
-std::shared_ptr<Object> Node::Self() const { return std::const_pointer_cast<Node>(weak_from_this().lock()); }
+std::shared_ptr<Object> Node::Self() const {
+    try {
+        return const_cast<Node*>(this)->shared_from_this();
+    } catch (const std::bad_weak_ptr&) {
+        return nullptr;  // an object that is not held by any shared pointer
+    }
+}
 
 // A part is changed through references to it, whoever asks for one.
 std::shared_ptr<Object> Part::Self() const { return {parent_->Self(), const_cast<Part*>(this)}; }

@@ -60,6 +60,17 @@ void Output::FlushLine() {
     hasReturn_ = false;
 }
 
+void Output::ReadFailed(std::error_code error, const std::string& name) {
+    readFailure_ = error;
+    unreadFile_ = name;
+}
+
+void Output::Checkpoint() {
+    if (stream_ != nullptr) stream_->Checkpoint();
+    const std::error_code failure = std::exchange(readFailure_, {});
+    if (failure) RaiseFileError(failure, "read", unreadFile_);
+}
+
 // Between two appends the line holds less than LongLine characters, and no control word is longer than a few
 // dozen: there is always room.
 void Output::AppendToLine(std::string_view ascii) {

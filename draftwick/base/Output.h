@@ -5,7 +5,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <system_error>
 
 namespace draftwick {
 
@@ -36,10 +38,12 @@ public:
     void WriteGroupEnd();
     /// Ends the line that was begun, if there is one.
     void FlushLine();
-    /// Reports a failure of the file that lines go to. Called between two objects, never within one.
-    void Checkpoint() {
-        if (stream_ != nullptr) stream_->Checkpoint();
-    }
+    /// Keeps the failure of a file that is read into the output, for the next Checkpoint: what was begun can still
+    /// be ended.
+    void ReadFailed(std::error_code error, const std::string& name);
+    /// Reports a failure of the file that lines go to, or of one that was read. Called between two objects, never
+    /// within one.
+    void Checkpoint();
 
 private:
     void AppendToLine(std::string_view ascii);
@@ -57,6 +61,8 @@ private:
     bool spilled_ = false;    // the line is longer than the buffer: its beginning is on its way already
     bool hasReturn_ = false;  // the buffer holds a CR
     char line_[Room];
+    std::error_code readFailure_;
+    std::string unreadFile_;
 };
 
 }  // namespace draftwick

@@ -4,6 +4,7 @@
 #include <draftwick/base/Units.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -87,26 +88,38 @@ public:
     constexpr Length(std::int16_t twips) noexcept : twips_(twips) {}
     constexpr std::int32_t Twips() const noexcept { return twips_; }
     void Set(double value, dwScaleMode scale) { twips_ = ToShort(ToTwips(value, scale)); }
+    bool operator==(const Length&) const = default;
 
 private:
     std::int16_t twips_;
 };
 
 /// A real number that is stored as given and written as a whole number, or in shape properties as text, after
-/// multiplication with Factor / Divisor. Error 6 when it is not finite or the product does not fit 32 bits.
+/// multiplication with Factor / Divisor. Error 6 when it is not finite or the product does not fit 32 bits, with
+/// either sign: some products are written negated.
 template <std::int32_t Factor, std::int32_t Divisor = 1>
 class Real {
 public:
     constexpr Real(double value) noexcept : value_(value) {}
     constexpr operator double() const noexcept { return value_; }
     void Set(double value) {
-        RoundHalfEven(value * Factor / Divisor);
-        RoundDown(value * Factor / Divisor);
+        RoundHalfEven(std::abs(value * Factor / Divisor));  // then rounding down fits, too
         value_ = value;
     }
 
 private:
     double value_;
+};
+
+/// A real number that is stored as a whole number of 65536ths, ties to even. Error 6 when that does not fit 32 bits.
+class FixedPoint {
+public:
+    constexpr FixedPoint(std::int16_t value) noexcept : parts_(value * 65536) {}
+    constexpr operator double() const noexcept { return parts_ / 65536.0; }
+    void Set(double value) { parts_ = RoundHalfEven(value * 65536); }
+
+private:
+    std::int32_t parts_;
 };
 
 /// Points that are written in twips.

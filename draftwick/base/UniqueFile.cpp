@@ -11,7 +11,9 @@ UniqueFile CreateUniqueFile(platform::FileSystem& files, std::string folder, std
     std::string end = extension.starts_with('.') ? "" : ".";
     end += extension;
     for (unsigned long number = 1;; ++number) {
-        std::string name = start + std::to_string(number) + end;
+        std::string name = start;
+        name += std::to_string(number);
+        name += end;
         std::error_code error;
         auto file = files.Create(name, mode, error);
         if (file != nullptr) return {std::move(name), std::move(file)};

@@ -15,16 +15,22 @@ class Fonts;
 class Lists;
 class Object;
 class ParagraphStyles;
+class Properties;
 class TextStyles;
+
+/// Where the writers of cells stand in the current row.
+struct RowState {
+    std::int16_t CellRightEdge = 0;  ///< twips: where the last cell ends
+    bool AtCellStart = false;        ///< a cell is defined and has no paragraph yet
+};
 
 /// Where the writers of paragraphs, rows and shapes stand in the document.
 struct LayoutState {
     bool SuppressNextParagraphMark = false;  ///< the next paragraph is not preceded by \par
     bool TableEndsSection = false;           ///< a row came last: the end of the section needs a \par
-    std::int16_t CellRightEdge = 0;          ///< twips: where the last cell of the current row ends
-    bool AtCellStart = false;                ///< a cell is defined and has no paragraph yet
-    bool ShapeTextPending = false;           ///< the first paragraph or row of a shape opens its text group
-    bool InlinePicture = false;              ///< the shape being written is a picture in the text
+    RowState row;
+    bool ShapeTextPending = false;  ///< the first paragraph or row of a shape opens its text group
+    bool InlinePicture = false;     ///< the shape being written is a picture in the text
 };
 
 /// What all objects of one document share. It lives as long as any of them; `document` ends with the document, and
@@ -49,6 +55,7 @@ public:
     draftwick::Lists* lists = nullptr;
     draftwick::ParagraphStyles* paragraphStyles = nullptr;
     draftwick::TextStyles* textStyles = nullptr;
+    draftwick::Properties* properties = nullptr;
     /// The position of the default font in `fonts`, or NoFont.
     std::int32_t defaultFont = NoFont;
     static constexpr std::int32_t NoFont = -1;

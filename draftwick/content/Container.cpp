@@ -1,6 +1,8 @@
 #include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Container.h>
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/format/Frame.h>
+#include <draftwick/structure/Table.h>
 
 namespace draftwick {
 
@@ -12,6 +14,20 @@ void Container::WriteParagraphMark() {
     if (!context.layout.SuppressNextParagraphMark) context.output.WriteControlWord("par");
     context.layout.SuppressNextParagraphMark = false;
     context.layout.TableEndsSection = false;
+}
+
+void Container::WriteParagraphPlace(const Frame* frame) {
+    if (frame != nullptr) EmitFrame(Writing(), frame->Stored());
+}
+
+std::shared_ptr<Table> RowContainer::AddTable() { return Add(currentTable_); }
+
+/// A row ends itself: what follows it needs no paragraph mark.
+void RowContainer::WriteRowMark() {
+    WritingContext& context = Writing();
+    if (!context.layout.SuppressNextParagraphMark) context.output.WriteControlWord("par");
+    context.layout.SuppressNextParagraphMark = true;
+    context.layout.TableEndsSection = true;
 }
 
 }  // namespace draftwick

@@ -4,9 +4,12 @@
 
 namespace draftwick {
 
+class Frame;
 class Paragraph;
+class Table;
 
-/// Everything that holds paragraphs.
+/// Everything that holds paragraphs. What a paragraph writes about the place where it stands is the container's
+/// business: the kinds of container differ in the Write functions below and in nothing else.
 class Container : public Content {
 public:
     using Content::Content;
@@ -20,11 +23,38 @@ public:
 
     // The rest is for the library.
 
-    /// Writes what stands between a paragraph and what comes before it.
+    /// Writes what stands before a paragraph's \pard: \par when another paragraph comes before it.
     virtual void WriteParagraphMark();
+    /// Writes what stands right after a paragraph's \pard: where the paragraph's own frame, if it has one, places
+    /// it. A paragraph in a cell goes where its row does.
+    virtual void WriteParagraphPlace(const Frame* frame);
+    /// Whether the container is a cell, or a note in a cell: then what stands in its paragraphs must leave the writers
+    /// of paragraphs and rows as it found them.
+    virtual bool StandsInCell() const { return false; }
 
 private:
     std::shared_ptr<Paragraph> currentParagraph_;
+};
+
+/// Everything that holds rows of tables beside paragraphs.
+class RowContainer : public Container {
+public:
+    using Container::Container;
+
+    /// Adds a row after everything that the container holds; rows that follow each other make one table. Refuses
+    /// once the container is finished, with the name of its class.
+    std::shared_ptr<Table> AddTable();
+
+    /// The row that was added last; empty before the first.
+    std::shared_ptr<Table> CurrentTable() const { return currentTable_; }
+
+    // The rest is for the library.
+
+    /// Writes what stands before a row's \trowd: \par when a paragraph comes before it.
+    virtual void WriteRowMark();
+
+private:
+    std::shared_ptr<Table> currentTable_;
 };
 
 }  // namespace draftwick

@@ -1,11 +1,15 @@
 #include <draftwick/base/Class.h>
 #include <draftwick/base/WritingContext.h>
+#include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/TextItem.h>
+#include <draftwick/drawing/Shape.h>
 #include <draftwick/format/BackgroundWriter.h>
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/structure/Bookmark.h>
+#include <draftwick/structure/Footnote.h>
 
 namespace draftwick {
 
@@ -30,15 +34,42 @@ void Paragraph::SetStyleName(std::string_view name) {
     style_ = index;
 }
 
+std::shared_ptr<Bookmark> Paragraph::AddBookmark(std::string_view name, bool isStart) {
+    return Add(currentBookmark_, name, isStart);
+}
+
+std::shared_ptr<Footnote> Paragraph::AddFootnote(bool isEndnote) { return Add(currentFootnote_, isEndnote); }
+
 std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw) {
     return Add(currentTextItem_, text, raw);
 }
 
-/// \par\pard\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
+std::shared_ptr<Field> Paragraph::AddField(std::string_view code, std::string_view text) {
+    return Add(currentField_, code, text);
+}
+
+std::shared_ptr<Shape> Paragraph::AddShape(dwShapeKind kind) {
+    Writing();
+    CheckNotFinished();
+    if (std::dynamic_pointer_cast<Shape>(RequireParent()) != nullptr) {
+        RaiseError(dwErrShapesCantContainShapes);
+    }
+    return Add(currentShape_, kind);
+}
+
+bool Paragraph::StandsInCell() const {
+    const std::shared_ptr<Object> container = Parent();
+    return container != nullptr && static_cast<const Container&>(*container).StandsInCell();
+}
+
+/// \par\pard\phcol...\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
-    static_cast<Container&>(*RequireParent()).WriteParagraphMark();
+    const std::shared_ptr<Object> parent = RequireParent();
+    auto& container = static_cast<Container&>(*parent);
+    container.WriteParagraphMark();
     context.output.WriteControlWord("pard");
+    container.WriteParagraphPlace(frame_.Find());
     if (style_ != Style::NoStyle) context.output.WriteControlWord("s", style_);
     if (const ParagraphBorders* borders = borders_.Find()) EmitParagraphBorders(context, *borders);
     if (const draftwick::Background* background = background_.Find())
@@ -56,6 +87,10 @@ const Class& Paragraph::Describe() {
         "{3F3895CF-38AE-4BB8-A68D-6E8A0CAC9FD3}",
         "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
+            PropertyOf<&P::CurrentBookmark>("CurrentBookmark"),
+            PropertyOf<&P::CurrentField>("CurrentField"),
+            PropertyOf<&P::CurrentFootnote>("CurrentFootnote"),
+            PropertyOf<&P::CurrentShape>("CurrentShape"),
             PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
             PropertyOf<&P::Emitted>("Emitted"),
             PropertyOf<&P::Finished>("Finished"),
@@ -63,10 +98,16 @@ const Class& Paragraph::Describe() {
             PropertyOf<&P::Borders>("Borders"),
             PropertyOf<&P::FontFormat>("FontFormat"),
             PropertyOf<&P::Format>("Format"),
+            PropertyOf<&P::Frame>("Frame"),
             PropertyOf<&P::TabStops>("TabStops"),
             PropertyOf<&P::StyleName, &P::SetStyleName>("StyleName"),
         },
         {
+            MethodOf<&P::AddBookmark>("AddBookmark", {{"Name"}, {"IsStart", Variant{true}}}),
+            MethodOf<&P::AddField>("AddField",
+                                   {{"Code", Variant{std::string{}}}, {"Text", Variant{std::string{}}}}),
+            MethodOf<&P::AddFootnote>("AddFootnote", {{"IsEndnote", Variant{false}}}),
+            MethodOf<&P::AddShape>("AddShape", {{"Kind"}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};
     return description;

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <draftwick/content/Container.h>
+#include <draftwick/drawing/ShapeKind.h>
 #include <draftwick/format/Background.h>
 #include <draftwick/format/Border.h>
 #include <draftwick/format/FontFormat.h>
+#include <draftwick/format/Frame.h>
 #include <draftwick/format/ParagraphFormat.h>
 #include <draftwick/format/TabStops.h>
 
@@ -12,6 +14,10 @@
 
 namespace draftwick {
 
+class Bookmark;
+class Field;
+class Footnote;
+class Shape;
 class TextItem;
 
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
@@ -23,21 +29,39 @@ public:
 
     /// The name of a paragraph style; empty (default) for none. Setting it looks the style up (dwErrItemNotFound),
     /// takes its spelling and copies everything that the style has into the paragraph, over what was set before;
-    /// what is set afterwards counts. An empty name copies nothing.
+    /// only borders on sides that the style does not have stay. What is set afterwards counts. An empty name copies
+    /// nothing.
     std::string StyleName() const;
     void SetStyleName(std::string_view name);
 
+    /// Alignment, indents, spacing, page breaks, outline level and list.
     std::shared_ptr<ParagraphFormat> Format() { return Share(format_); }
     /// The look of the paragraph's runs unless they say otherwise. Reading it once makes it the paragraph's own.
     std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_.Get(*this)); }
     std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
     std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_.Get(*this)); }
     std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_.Get(*this)); }
+    /// Styles have none.
+    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(*this)); }
 
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
 
-    /// The run that was added last; empty before the first.
+    /// Adds the start, or the end, of a bookmark at this place of the text.
+    std::shared_ptr<Bookmark> AddBookmark(std::string_view name, bool isStart = true);
+    /// Adds a field: an instruction and the text that is shown until a reader carries it out.
+    std::shared_ptr<Field> AddField(std::string_view code = {}, std::string_view text = {});
+    /// Adds a footnote, or an endnote, to this place of the text.
+    std::shared_ptr<Footnote> AddFootnote(bool isEndnote = false);
+    /// Adds a shape that is anchored in the paragraph. dwErrShapesCantContainShapes in the text box of a shape; in the
+    /// cells and notes of a text box there can be shapes.
+    std::shared_ptr<Shape> AddShape(dwShapeKind kind);
+
+    /// The children that were added last, by kind; empty before the first.
+    std::shared_ptr<Bookmark> CurrentBookmark() const { return currentBookmark_; }
+    std::shared_ptr<Field> CurrentField() const { return currentField_; }
+    std::shared_ptr<Footnote> CurrentFootnote() const { return currentFootnote_; }
+    std::shared_ptr<Shape> CurrentShape() const { return currentShape_; }
     std::shared_ptr<TextItem> CurrentTextItem() const { return currentTextItem_; }
 
     static const Class& Describe();
@@ -46,6 +70,7 @@ public:
     // The rest is for the library.
 
     const draftwick::FontFormat* OwnFontFormat() const noexcept { return fontFormat_.Find(); }
+    bool StandsInCell() const;
 
 protected:
     void WriteStart() override;
@@ -57,6 +82,11 @@ private:
     Lazy<draftwick::Background> background_;
     Lazy<ParagraphBorders> borders_;
     Lazy<draftwick::TabStops> tabStops_;
+    Lazy<draftwick::Frame> frame_;
+    std::shared_ptr<Bookmark> currentBookmark_;
+    std::shared_ptr<Field> currentField_;
+    std::shared_ptr<Footnote> currentFootnote_;
+    std::shared_ptr<Shape> currentShape_;
     std::shared_ptr<TextItem> currentTextItem_;
 };
 

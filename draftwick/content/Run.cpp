@@ -10,19 +10,15 @@ namespace draftwick {
 
 namespace {
 
-/// The words of a run's look are the difference between two formats; this is where the two are chosen. A run
-/// without a style differs from its paragraph, or from the default where the paragraph has no format; a run with
-/// one differs from the style.
-void EmitRunFormat(WritingContext& context, const FontFormat* own, const FontFormat* ofParagraph,
+/// The words of a run's own look are what differs from a reference, and this is where that is chosen: the run's style
+/// if it has one, else its paragraph's format, else the default. A run without a look of its own takes the
+/// reference's: nothing differs.
+void EmitRunFormat(WritingContext& context, const FontFormat& own, const Object& parent,
                    const TextStyle* style) {
-    if (own == nullptr) return;  // the paragraph's or the style's format: nothing differs
-    if (style != nullptr) {
-        EmitFontFormatChanges(context, own->Stored(), style->StoredFontFormat().Stored());
-    } else if (ofParagraph != nullptr) {
-        EmitFontFormatChanges(context, own->Stored(), ofParagraph->Stored());
-    } else {
-        EmitFontFormatChanges(context, own->Stored(), DefaultFontFormat(context));
-    }
+    const FontFormat* reference =
+        style != nullptr ? &style->StoredFontFormat() : static_cast<const Paragraph&>(parent).OwnFontFormat();
+    EmitFontFormatChanges(context, own.Stored(),
+                          reference != nullptr ? reference->Stored() : DefaultFontFormat(context));
 }
 
 }  // namespace
@@ -39,14 +35,14 @@ std::shared_ptr<draftwick::FontFormat> Run::FontFormat() {
 
 void Run::WriteRunStart() {
     WritingContext& context = Writing();
-    const std::shared_ptr<Object> parent = RequireParent();
     const TextStyle* style =
         styleName_.empty() ? nullptr : &context.textStyles->At(context.textStyles->IndexOf(styleName_));
     context.output.WriteGroupStart();
     if (style != nullptr) {
         context.output.WriteControlWord("cs", TextStyleNumber(context, style->StyleIndex()));
     }
-    EmitRunFormat(context, fontFormat_.Find(), static_cast<const Paragraph&>(*parent).OwnFontFormat(), style);
+    if (const draftwick::FontFormat* own = fontFormat_.Find())
+        EmitRunFormat(context, *own, *RequireParent(), style);
     if (const draftwick::Background* background = background_.Find()) {
         EmitCharacterBackground(context, background->Stored());
     }

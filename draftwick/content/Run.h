@@ -21,9 +21,13 @@ public:
     const std::string& StyleName() const { return styleName_; }
     void SetStyleName(std::string_view name) { Change(styleName_, name); }
 
-    /// The look of the text. It starts from the paragraph's FontFormat as that is when this one is first read.
+    /// The look of the text. It starts from the paragraph's FontFormat as that is when this one is first read, and
+    /// what differs from the text style, else from the paragraph's FontFormat, else from the default is written.
+    /// Before it is read nothing differs: with a text style, reading alone can change what is written.
     std::shared_ptr<draftwick::FontFormat> FontFormat();
+    /// What stands behind the text.
     std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
+    /// The line around the text.
     std::shared_ptr<TextBorder> Border() { return Share(border_.Get(*this)); }
 
 protected:

@@ -3,12 +3,13 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/SectionWriter.h>
+#include <draftwick/structure/Table.h>
 
 #include <utility>
 
 namespace draftwick {
 
-Section::Section(const Origin& origin) : Container(origin) {
+Section::Section(const Origin& origin) : RowContainer(origin), columns_(*this), pageBorders_(*this) {
     const DocumentSettings& document = Writing().settings;
     values_.page = document.page;
     values_.orientation = dwOrientation{document.orientation};
@@ -20,7 +21,28 @@ void Section::SetOrientation(dwOrientation orientation) {
     if (orientation != before) std::swap(values_.page.pageWidth, values_.page.pageHeight);
 }
 
-void Section::WriteStart() { EmitSection(Writing(), values_); }
+std::shared_ptr<Header> Section::AddHeader(dwHeaderKind kind) {
+    const WritingContext& context = Writing();
+    CheckNotFinished();
+    Emit();
+    const bool facing = context.settings.facingPage;
+    const bool everyPage = kind == dwHeader || kind == dwFooter;
+    const bool oneSide = kind >= dwHeaderLeft && kind <= dwFooterRight;
+    const bool firstPage = kind == dwHeaderFirst || kind == dwFooterFirst;
+    if ((facing && everyPage) || (!facing && oneSide) || (!values_.titlePage && firstPage)) {
+        RaiseError(dwErrInvalidHeaderKind);
+    }
+    if (!InRange(kind, dwHeader, dwFooterFirst)) {
+        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(kind));
+    }
+    bool& exists = hasHeader_[static_cast<std::size_t>(kind)];
+    if (exists) RaiseError(dwErrHeaderExists);
+    auto header = Add(currentHeader_, kind);
+    exists = true;
+    return header;
+}
+
+void Section::WriteStart() { EmitSection(Writing(), values_, columns_, pageBorders_); }
 
 void Section::WriteEnd() { WriteSectionEnd(Writing()); }
 
@@ -33,7 +55,10 @@ const Class& Section::Describe() {
         "{3CAFB903-D208-49F3-B0C5-36D94F5DA017}",
         "{BF26F119-5E51-4C4B-B429-8E789A325047}",
         {
+            PropertyOf<&S::Columns>("Columns"),
+            PropertyOf<&S::CurrentHeader>("CurrentHeader"),
             PropertyOf<&S::CurrentParagraph>("CurrentParagraph"),
+            PropertyOf<&S::CurrentTable>("CurrentTable"),
             PropertyOf<&S::Emitted>("Emitted"),
             PropertyOf<&S::Finished>("Finished"),
             PropertyOf<&S::MarginTop, &S::SetMarginTop, &P::marginTop>("MarginTop"),
@@ -66,9 +91,12 @@ const Class& Section::Describe() {
             PropertyOf<&S::PaperBinFirst, &S::SetPaperBinFirst, &V::paperBinFirst>("PaperBinFirst"),
             PropertyOf<&S::TitlePage, &S::SetTitlePage, &V::titlePage>("TitlePage"),
             PropertyOf<&S::VerticalAlign, &S::SetVerticalAlign, &V::verticalAlign>("VerticalAlign"),
+            PropertyOf<&S::PageBorders>("PageBorders"),
         },
         {
+            MethodOf<&S::AddHeader>("AddHeader", {{"Kind"}}),
             MethodOf<&S::AddParagraph>("AddParagraph"),
+            MethodOf<&S::AddTable>("AddTable"),
         }};
     return description;
 }

@@ -2,6 +2,11 @@
 
 #include <draftwick/base/DocumentSettings.h>
 #include <draftwick/content/Container.h>
+#include <draftwick/structure/Columns.h>
+#include <draftwick/structure/Header.h>
+#include <draftwick/structure/PageBorders.h>
+
+#include <array>
 
 namespace draftwick {
 
@@ -29,7 +34,7 @@ enum dwVerticalAlign : std::int32_t { dwVertTop = 1, dwVertBottom = 2, dwVertCen
 
 /// A part of the document with its own page, line and page numbers (RTF \sect). Its settings are written when its
 /// first header, paragraph or row is added; from then on setters refuse ("Section"). Lengths are 16 bits in twips.
-class Section final : public Container {
+class Section final : public RowContainer {
 public:
     struct Values {
         PageSetup page;
@@ -133,6 +138,20 @@ public:
     dwVerticalAlign VerticalAlign() const { return values_.verticalAlign; }
     void SetVerticalAlign(dwVerticalAlign align) { Change(values_.verticalAlign, align); }
 
+    std::shared_ptr<draftwick::PageBorders> PageBorders() { return Share(pageBorders_); }
+
+    /// The columns that the text runs in.
+    std::shared_ptr<draftwick::Columns> Columns() { return Share(columns_); }
+
+    /// Adds a header or footer after everything that the section holds; they belong at its beginning. Refuses once
+    /// the section is finished ("Section"). dwErrInvalidHeaderKind for the kinds for left and right pages in a
+    /// document without facing pages, for dwHeader and dwFooter in one with them, and for the first page without a
+    /// title page; error 9 for what is no kind; dwErrHeaderExists for a kind that the section has. A refusal leaves
+    /// the section without a new header, but its own settings are written.
+    std::shared_ptr<Header> AddHeader(dwHeaderKind kind);
+    /// The header or footer that was added last; empty before the first.
+    std::shared_ptr<Header> CurrentHeader() const { return currentHeader_; }
+
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
@@ -142,6 +161,10 @@ protected:
 
 private:
     Values values_;
+    draftwick::Columns columns_;
+    draftwick::PageBorders pageBorders_;
+    std::array<bool, dwFooterFirst + 1> hasHeader_{};  // by kind
+    std::shared_ptr<Header> currentHeader_;
 };
 
 }  // namespace draftwick

@@ -32,7 +32,8 @@ void WritePage(Output& output, const Section::Values& section) {
 
 }  // namespace
 
-void EmitSection(WritingContext& context, const Section::Values& section) {
+void EmitSection(WritingContext& context, const Section::Values& section, const Columns& columns,
+                 const PageBorders& pageBorders) {
     Output& output = context.output;
     if (!context.firstSection) output.WriteControlWord("sect");
     context.firstSection = false;
@@ -41,6 +42,7 @@ void EmitSection(WritingContext& context, const Section::Values& section) {
     if (section.paperBinFirst < 0) output.WriteControlWord("binfsxn", section.paperBinFirst);
     output.WriteControlWord("binsxn", section.paperBin);
     output.WriteWord(BreakWords, section.sectionBreak);
+    EmitColumns(context, columns);
     WriteLineNumbering(output, section);
     WritePage(output, section);
     if (section.titlePage) output.WriteControlWord("titlepg");
@@ -50,6 +52,7 @@ void EmitSection(WritingContext& context, const Section::Values& section) {
     output.WriteWord(PageRestartWords, section.pageNumberingRestart);
     output.WriteWord(PageNumberWords, section.pageNumberingFormat);
     output.WriteWord(VerticalWords, section.verticalAlign);
+    EmitPageBorders(context, pageBorders);
     if (context.settings.endnoteLocation == dwELSection) output.WriteControlWord("endnhere");
     context.layout.SuppressNextParagraphMark = true;
 }

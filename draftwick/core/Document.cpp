@@ -4,6 +4,7 @@
 #include <draftwick/content/Section.h>
 #include <draftwick/core/Document.h>
 #include <draftwick/core/DocumentWriter.h>
+#include <draftwick/core/Properties.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
@@ -32,10 +33,12 @@ void Document::CreateCollections() {
     lists_ = std::make_shared<draftwick::Lists>(OriginOfChild());
     paragraphStyles_ = std::make_shared<draftwick::ParagraphStyles>(OriginOfChild());
     textStyles_ = std::make_shared<draftwick::TextStyles>(OriginOfChild());
+    properties_ = std::make_shared<draftwick::Properties>(OriginOfChild());
     context_->fonts = fonts_.get();
     context_->lists = lists_.get();
     context_->paragraphStyles = paragraphStyles_.get();
     context_->textStyles = textStyles_.get();
+    context_->properties = properties_.get();
 }
 
 Document::~Document() {
@@ -45,6 +48,7 @@ Document::~Document() {
     context_->lists = nullptr;
     context_->paragraphStyles = nullptr;
     context_->textStyles = nullptr;
+    context_->properties = nullptr;
 }
 
 std::shared_ptr<Section> Document::AddSection() {
@@ -121,6 +125,7 @@ const Class& Document::Describe() {
             PropertyOf<&D::Fonts>("Fonts"),
             PropertyOf<&D::Lists>("Lists"),
             PropertyOf<&D::ParagraphStyles>("ParagraphStyles"),
+            PropertyOf<&D::Properties>("Properties"),
             PropertyOf<&D::TextStyles>("TextStyles"),
             PropertyOf<&D::Filename, &D::SetFilename, &V::filename>("Filename"),
             PropertyOf<&D::TempPath, &D::SetTempPath, &V::tempPath>("TempPath"),

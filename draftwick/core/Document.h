@@ -16,6 +16,7 @@ namespace draftwick {
 class Fonts;
 class Lists;
 class ParagraphStyles;
+class Properties;
 class Section;
 class TextStyles;
 
@@ -78,6 +79,8 @@ public:
     std::shared_ptr<draftwick::Lists> Lists() const { return lists_; }
     std::shared_ptr<draftwick::ParagraphStyles> ParagraphStyles() const { return paragraphStyles_; }
     std::shared_ptr<draftwick::TextStyles> TextStyles() const { return textStyles_; }
+    /// Title, author and the like, and those of the host's own.
+    std::shared_ptr<draftwick::Properties> Properties() const { return properties_; }
 
     /// The font of everything that has no other; empty (default) leaves it to the reader. It takes the spelling of
     /// the font in Fonts; dwErrItemNotFound when there is none. Formats that exist already do not follow.
@@ -215,6 +218,7 @@ private:
     std::shared_ptr<draftwick::Lists> lists_;
     std::shared_ptr<draftwick::ParagraphStyles> paragraphStyles_;
     std::shared_ptr<draftwick::TextStyles> textStyles_;
+    std::shared_ptr<draftwick::Properties> properties_;
 };
 
 }  // namespace draftwick

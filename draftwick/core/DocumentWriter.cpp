@@ -1,5 +1,6 @@
 #include <draftwick/base/WritingContext.h>
 #include <draftwick/core/DocumentWriter.h>
+#include <draftwick/core/Properties.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
@@ -95,6 +96,7 @@ void WriteHeader(WritingContext& context) {
     context.colors.EmitColorTable(output);
     EmitStylesheet(context, *context.paragraphStyles, *context.textStyles);
     EmitListTable(context, *context.lists);
+    EmitProperties(context, *context.properties);
     output.FlushLine();
 }
 

@@ -61,6 +61,7 @@ void OutputFiles::OpenBody(WritingContext& context) {
 }
 
 void OutputFiles::AssembleOutputFile(WritingContext& context) {
+    context.output.Checkpoint();
     if (!ended_) {
         context.output.WriteGroupEnd();
         context.output.FlushLine();

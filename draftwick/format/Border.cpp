@@ -3,38 +3,26 @@
 
 namespace draftwick {
 
-ParagraphBorder::ParagraphBorder(Object& parent, dwParagraphBorder side) : Part(parent) {
+ParagraphBorder::ParagraphBorder(Object& parent, dwParagraphBorder side) : Border(parent) {
     const bool beside = side == dwPBorderLeft || side == dwPBorderRight || side == dwPBorderOutside;
     values_.spacing = beside ? 4 : 1;
 }
 
 const Class& TextBorder::Describe() {
-    using B = TextBorder;
-    using V = Values;
     static const Class description{"TextBorder",
                                    "{0C109FE5-908D-4CD0-9E41-5F35D9B7E8DF}",
                                    "{345DF448-B240-4C11-8CE9-12EC7F64081B}",
-                                   {
-                                       PropertyOf<&B::Style, &B::SetStyle, &V::style>("Style"),
-                                       PropertyOf<&B::Width, &B::SetWidth, &V::width>("Width"),
-                                       PropertyOf<&B::Color, &B::SetColor, &V::color>("Color"),
-                                   },
+                                   Rows(),
                                    {}};
     return description;
 }
 
 const Class& ParagraphBorder::Describe() {
-    using B = ParagraphBorder;
-    using V = Values;
     static const Class description{"ParagraphBorder",
                                    "{573EA448-A0C7-4A00-9481-3923E08DFB08}",
                                    "{FE9B674C-FAA1-45C4-9023-7A59189169DD}",
-                                   {
-                                       PropertyOf<&B::Style, &B::SetStyle, &V::style>("Style"),
-                                       PropertyOf<&B::Width, &B::SetWidth, &V::width>("Width"),
-                                       PropertyOf<&B::Spacing, &B::SetSpacing, &V::spacing>("Spacing"),
-                                       PropertyOf<&B::Color, &B::SetColor, &V::color>("Color"),
-                                   },
+                                   Rows({PropertyOf<&ParagraphBorder::Spacing, &ParagraphBorder::SetSpacing,
+                                                    &ParagraphBorderValues::spacing>("Spacing")}),
                                    {}};
     return description;
 }

@@ -4,14 +4,17 @@
 #include <draftwick/base/Object.h>
 
 #include <array>
+#include <initializer_list>
+#include <vector>
 
 namespace draftwick {
 
-/// The lines that borders of every kind are drawn with (RTF \brdrs and its siblings).
+/// The lines that borders of every kind are drawn with (RTF \brdrs to \brdrengrave). Of two or three lines of
+/// different weight the outermost is named first; the gap is what stands between them.
 enum dwBorderStyle : std::int32_t {
     dwBSNone = 1,
     dwBSSingle = 2,
-    dwBSShadow = 3,
+    dwBSShadow = 3,  ///< a single line that throws a shadow
     dwBSDouble = 4,
     dwBSDot = 5,
     dwBSDash = 6,
@@ -38,9 +41,49 @@ enum dwBorderStyle : std::int32_t {
 /// The style of one side of a border.
 using BorderStyle = Choice<"Border.Style", dwBSNone, dwBSEngrave>;
 
+/// What borders of all kinds have: a line, its width and its colour. Kinds differ in how they keep the width, and
+/// some have more. Refuses when what it belongs to refuses.
+template <class BorderValues>
+class Border : public Part {
+public:
+    using Values = BorderValues;
+    using Part::Part;
+
+    /// Default dwBSNone: no border.
+    dwBorderStyle Style() const { return values_.style; }
+    void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
+
+    /// Points whatever the ScaleMode; written in twips, rounded down (RTF \brdrw). Default 1. Error 6 when the twips
+    /// do not fit 32 bits.
+    double Width() const { return values_.width; }
+    void SetWidth(double points) { Change(values_.width, points); }
+
+    /// Red in the lowest byte, then green, then blue. Default black.
+    std::int32_t Color() const { return values_.color; }
+    void SetColor(std::int32_t color) { Change(values_.color, color); }
+
+    const Values& Stored() const noexcept { return values_; }
+    void CopyFrom(const Border& other) { values_ = other.values_; }
+
+protected:
+    /// The rows of the members above and then `more`, for the table of a class.
+    static std::vector<ClassProperty> Rows(std::initializer_list<ClassProperty> more = {}) {
+        using V = Values;
+        std::vector<ClassProperty> rows{
+            PropertyOf<&Border::Style, &Border::SetStyle, &V::style>("Style"),
+            PropertyOf<&Border::Width, &Border::SetWidth, &V::width>("Width"),
+            PropertyOf<&Border::Color, &Border::SetColor, &V::color>("Color"),
+        };
+        rows.insert(rows.end(), more);
+        return rows;
+    }
+
+    Values values_;
+};
+
 /// The borders of an object, one for each side. A side is created when it is first read; sides that were never
-/// read are never written.
-template <class Border, class Side, std::int32_t SideCount>
+/// read are never written. Walking over a collection reads all of its sides.
+template <class SideBorder, class Side, std::int32_t SideCount>
 class BorderCollection : public Part {
 public:
     using Part::Part;
@@ -49,7 +92,7 @@ public:
     std::int32_t Count() const noexcept { return SideCount; }
 
     /// The border of a side. Error 9 for a side that there is not.
-    std::shared_ptr<Border> Items(Side side) {
+    std::shared_ptr<SideBorder> Items(Side side) {
         if (!InRange(side, 1, SideCount)) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(side));
         return this->Share(Create(side));
     }
@@ -59,13 +102,13 @@ public:
 
     // The rest is for the library.
 
-    std::shared_ptr<Border> ItemAt(std::int32_t index) { return Items(static_cast<Side>(index)); }
+    std::shared_ptr<SideBorder> ItemAt(std::int32_t index) { return Items(static_cast<Side>(index)); }
 
     /// Calls `use` with each side that was created, in the order of the enumeration.
     template <class Use>
     void ForEach(Use&& use) const {
         for (std::int32_t i = 0; i < SideCount; ++i) {
-            if (const Border* border = sides_[static_cast<std::size_t>(i)].Find()) {
+            if (const SideBorder* border = sides_[static_cast<std::size_t>(i)].Find()) {
                 use(static_cast<Side>(i + 1), *border);
             }
         }
@@ -73,97 +116,64 @@ public:
 
     /// Takes over the sides that the other one has and leaves the others.
     void CopyFrom(const BorderCollection& other) {
-        other.ForEach([&](Side side, const Border& border) { Create(side).CopyFrom(border); });
+        other.ForEach([&](Side side, const SideBorder& border) { Create(side).CopyFrom(border); });
     }
 
 private:
-    Border& Create(Side side) { return sides_[static_cast<std::size_t>(side - 1)].Get(Whole(), side); }
+    SideBorder& Create(Side side) { return sides_[static_cast<std::size_t>(side - 1)].Get(Whole(), side); }
 
-    std::array<Lazy<Border>, static_cast<std::size_t>(SideCount)> sides_;
+    std::array<Lazy<SideBorder>, static_cast<std::size_t>(SideCount)> sides_;
 };
 
-/// The line around a run of text (RTF \chbrdr). Refuses when the run refuses.
-class TextBorder final : public Part {
+struct TextBorderValues {
+    dwBorderStyle style =
+        dwBSNone;  // not checked: a value outside of the enumeration writes a border without a line
+    Points width{1};
+    std::int32_t color = 0;
+};
+
+/// The line around a run of text, the same on all four sides (RTF \chbrdr). Unlike other borders it takes any Style.
+/// Refuses when the run or style that it belongs to refuses.
+class TextBorder final : public Border<TextBorderValues> {
 public:
-    struct Values {
-        dwBorderStyle style = dwBSNone;
-        Points width{1};
-        std::int32_t color = 0;
-    };
-
-    using Part::Part;
-
-    /// Default dwBSNone: no border. Not checked: a value outside of the enumeration writes a border without a line.
-    dwBorderStyle Style() const { return values_.style; }
-    void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
-
-    /// Points. Default 1.
-    double Width() const { return values_.width; }
-    void SetWidth(double points) { Change(values_.width, points); }
-
-    /// Default black.
-    std::int32_t Color() const { return values_.color; }
-    void SetColor(std::int32_t color) { Change(values_.color, color); }
+    using Border::Border;
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
-
-    const Values& Stored() const noexcept { return values_; }
-    void CopyFrom(const TextBorder& other) { values_ = other.values_; }
-
-private:
-    Values values_;
 };
 
-/// Which side of a paragraph a border stands on.
+/// Which side of a paragraph a border stands on, in the order in which they are written.
 enum dwParagraphBorder : std::int32_t {
-    dwPBorderTop = 1,
-    dwPBorderLeft = 2,
-    dwPBorderRight = 3,
-    dwPBorderBottom = 4,
-    dwPBorderBetween = 5,  ///< between this paragraph and one with the same borders
-    dwPBorderOutside = 6,  ///< the bar beside the paragraph, on the outer side of the page
+    dwPBorderTop = 1,      ///< RTF \brdrt
+    dwPBorderLeft = 2,     ///< RTF \brdrl
+    dwPBorderRight = 3,    ///< RTF \brdrr
+    dwPBorderBottom = 4,   ///< RTF \brdrb
+    dwPBorderBetween = 5,  ///< between this paragraph and the next one with the same borders (RTF \brdrbtw)
+    dwPBorderOutside = 6,  ///< the bar beside the paragraph, on the outer side of the page (RTF \brdrbar)
+};
+
+struct ParagraphBorderValues {
+    BorderStyle style{dwBSNone};
+    Points width{1};
+    Points spacing{1};
+    std::int32_t color = 0;
 };
 
 /// One side of the borders of a paragraph or paragraph style. Refuses when the owner refuses.
-class ParagraphBorder final : public Part {
+class ParagraphBorder final : public Border<ParagraphBorderValues> {
 public:
-    struct Values {
-        BorderStyle style{dwBSNone};
-        Points width{1};
-        Points spacing{1};
-        std::int32_t color = 0;
-    };
-
     ParagraphBorder(Object& parent, dwParagraphBorder side);
 
-    /// Default dwBSNone: no border.
-    dwBorderStyle Style() const { return values_.style; }
-    void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
-
-    /// Points. Default 1.
-    double Width() const { return values_.width; }
-    void SetWidth(double points) { Change(values_.width, points); }
-
-    /// From the text to the border: points. Default 1; 4 on the left, on the right and for the bar.
+    /// From the text to the border, in points as Width (RTF \brsp). Default 1; 4 on the left, on the right and for
+    /// the bar.
     double Spacing() const { return values_.spacing; }
     void SetSpacing(double points) { Change(values_.spacing, points); }
 
-    /// Default black.
-    std::int32_t Color() const { return values_.color; }
-    void SetColor(std::int32_t color) { Change(values_.color, color); }
-
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
-
-    const Values& Stored() const noexcept { return values_; }
-    void CopyFrom(const ParagraphBorder& other) { values_ = other.values_; }
-
-private:
-    Values values_;
 };
 
-/// The borders of a paragraph or paragraph style.
+/// The borders of a paragraph or paragraph style: six sides.
 class ParagraphBorders final : public BorderCollection<ParagraphBorder, dwParagraphBorder, 6> {
 public:
     using BorderCollection::BorderCollection;

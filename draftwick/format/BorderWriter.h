@@ -20,7 +20,7 @@ void EmitParagraphBorder(WritingContext& context, dwParagraphBorder side,
 /// All sides that were created, in the order of the enumeration.
 void EmitParagraphBorders(WritingContext& context, const ParagraphBorders& borders);
 
-/// The words that all borders end with: the style, the width in twips and the colour, whose word differs.
+/// \brdrs\brdrw20\brdrref0: the style, the width in twips and the colour, whose word differs from kind to kind.
 void EmitBorderLine(WritingContext& context, std::int32_t style, double width, std::string_view colorWord,
                     std::int32_t color);
 

@@ -15,7 +15,8 @@ enum dwFontFamily : std::int32_t {
     dwTech = 7,  ///< symbols
 };
 
-/// A font of the document. Setters refuse once the document is emitted ("Document").
+/// A font of the document (an entry of RTF \fonttbl). Its parent is the document. Setters refuse once the document
+/// is emitted ("Document").
 class Font final : public Node {
 public:
     struct Values {
@@ -26,10 +27,11 @@ public:
     Font(const Origin& origin, std::string name, std::int32_t index)
         : Node(origin), name_(std::move(name)), index_(index) {}
 
-    /// The name it was added with. Written as it is: a name with braces or backslashes breaks the file.
+    /// The name it was added with. Written as it is: braces, backslashes and semicolons break the file.
     const std::string& Name() const noexcept { return name_; }
 
-    /// The name of a font to take in its place (RTF \falt). Default empty. Written as it is.
+    /// The name of a font to take where there is none of this name (RTF \falt), as it is. Default empty: not
+    /// written.
     const std::string& AltName() const { return values_.altName; }
     void SetAltName(std::string_view name) { Change(values_.altName, name); }
 
@@ -49,7 +51,8 @@ private:
     Values values_;
 };
 
-/// The fonts of a document. A font must be added before its name can be used.
+/// The fonts of a document, in the order in which they were added. A font must be added before its name can be
+/// used; none is ever added by itself.
 class Fonts final : public NamedCollection<Font> {
 public:
     using NamedCollection::NamedCollection;

@@ -21,12 +21,13 @@ enum dwListNumberStyle : std::int32_t {
     dwLNSDecimalLeadingZero = 9,
     dwLNSBullet = 10,  ///< no number: the level's Format is the bullet
 };
+/// How the number stands at its place (RTF \leveljc).
 enum dwListNumberAlign : std::int32_t { dwLNALeft = 1, dwLNARight = 2, dwLNACenter = 3 };
-/// What stands between the number and the text.
+/// What stands between the number and the text (RTF \levelfollow).
 enum dwListNumberFollow : std::int32_t { dwLNFNothing = 1, dwLNFSpace = 2, dwLNFTab = 3 };
 
-/// How the numbers of one level of a list look. Levels can be changed at any time: what holds at
-/// Document::Finish is written.
+/// How the numbers of one level of a list look (RTF \listlevel). It never refuses for being written: what holds at
+/// Document::Finish counts, also for paragraphs that were added before.
 class ListLevel final : public Part {
 public:
     struct Values {
@@ -59,19 +60,21 @@ public:
     const std::string& Format() const { return values_.format; }
     void SetFormat(std::string_view format) { Change(values_.format, format); }
 
-    /// Numbers of other styles are written in decimal here (RTF \levellegal).
+    /// The numbers of higher levels are shown in decimal here, whatever their style (RTF \levellegal). Default
+    /// false.
     bool Legal() const { return values_.legal; }
     void SetLegal(bool on) { Change(values_.legal, on); }
 
-    /// The numbers go on after a paragraph of a higher level (RTF \levelnorestart).
+    /// The numbers go on after a paragraph of a higher level (RTF \levelnorestart). Default false: they start again.
     bool NoLevelRestart() const { return values_.noLevelRestart; }
     void SetNoLevelRestart(bool on) { Change(values_.noLevelRestart, on); }
 
-    /// The first number, 16 bits. Default 1.
+    /// The first number, 16 bits (RTF \levelstartat). Default 1.
     std::int32_t StartAt() const { return values_.startAt; }
     void SetStartAt(std::int32_t number) { Change(values_.startAt, number); }
 
-    /// Where the text begins after dwLNFTab. Length of 16 bits in twips, default 360 twips.
+    /// Where the text begins after dwLNFTab (RTF \jclisttab\tx). Length of 16 bits in twips, default 360 twips. The
+    /// indents are those of the paragraph.
     double TabPosition() const { return Read(values_.tabPosition); }
     void SetTabPosition(double length) { Change(values_.tabPosition, length); }
 
@@ -89,7 +92,9 @@ private:
     draftwick::FontFormat fontFormat_;
 };
 
-/// A numbered or bulleted list of nine levels. Paragraphs join it by its name.
+/// A numbered or bulleted list of nine levels (RTF \list). Paragraphs join it by its name, with
+/// ParagraphFormat::SetListName. While no paragraph uses a level below the first, that level alone is written. It
+/// never refuses for being written.
 class List final : public Node {
 public:
     List(const Origin& origin, std::string name, std::int32_t index);
@@ -100,7 +105,6 @@ public:
     /// Level 1 to 9. Error 9 for any other.
     std::shared_ptr<ListLevel> Levels(std::int32_t level);
 
-    /// A list can be changed at any time.
     void CheckNotEmitted() const override {}
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
@@ -130,13 +134,13 @@ private:
     std::unordered_map<std::int32_t, std::int32_t> numberOfPairing_;
 };
 
-/// The lists of a document.
+/// The lists of a document, in the order in which they were added.
 class Lists final : public NamedCollection<List> {
 public:
     using NamedCollection::NamedCollection;
 
-    /// Adds a list, at any time before Document::Finish. An empty name is dwErrZeroLengthName ("Lists"), a name that
-    /// is there, in any case of letters, error 457.
+    /// Adds a list, also after the first section; one that is added after Document::Finish is not written. An empty
+    /// name is dwErrZeroLengthName ("Lists"), a name that is there, in any case of letters, error 457.
     std::shared_ptr<List> Add(std::string_view name);
 
     static const Class& Describe();

@@ -4,6 +4,7 @@
 
 namespace draftwick {
 
+/// How the lines of a paragraph stand between its indents (RTF \qr, \qc, \qj).
 enum dwParagraphAlign : std::int32_t {
     dwAlignLeft = 1,
     dwAlignRight = 2,
@@ -18,7 +19,8 @@ enum dwLineSpacingStyle : std::int32_t {
     dwSpacingExactly = 3,   ///< exactly LineSpacingDistance
 };
 
-/// The layout of a paragraph or paragraph style. Refuses when what it belongs to refuses.
+/// The layout of a paragraph or paragraph style. Indents are lengths in the document's ScaleMode, spacing is in
+/// points. What is on or off is off by default, except WidowOrphanControl. Refuses when what it belongs to refuses.
 class ParagraphFormat final : public Part {
 public:
     struct Values {
@@ -52,23 +54,23 @@ public:
     dwParagraphAlign Align() const { return values_.align; }
     void SetAlign(dwParagraphAlign align) { Change(values_.align, align); }
 
-    /// Further indent of the first line, negative to the left. Length of 16 bits in twips, default 0.
+    /// Of the first line, from IndentLeft; negative to the left (RTF \fi). Length of 16 bits in twips, default 0.
     double IndentFirst() const { return Read(values_.indentFirst); }
     void SetIndentFirst(double length) { Change(values_.indentFirst, length); }
 
-    /// From the left margin. Length of 16 bits in twips, default 0.
+    /// From the left margin (RTF \li). Length of 16 bits in twips, default 0.
     double IndentLeft() const { return Read(values_.indentLeft); }
     void SetIndentLeft(double length) { Change(values_.indentLeft, length); }
 
-    /// From the right margin. Length of 16 bits in twips, default 0.
+    /// From the right margin (RTF \ri). Length of 16 bits in twips, default 0.
     double IndentRight() const { return Read(values_.indentRight); }
     void SetIndentRight(double length) { Change(values_.indentRight, length); }
 
-    /// Points whatever the ScaleMode. Default 0.
+    /// Points; written in twips, rounded down (RTF \sb). Default 0. Error 6 when these do not fit 32 bits.
     double SpaceBefore() const { return values_.spaceBefore; }
     void SetSpaceBefore(double points) { Change(values_.spaceBefore, points); }
 
-    /// Points whatever the ScaleMode. Default 0.
+    /// As SpaceBefore (RTF \sa).
     double SpaceAfter() const { return values_.spaceAfter; }
     void SetSpaceAfter(double points) { Change(values_.spaceAfter, points); }
 
@@ -76,11 +78,13 @@ public:
     dwLineSpacingStyle LineSpacingStyle() const { return values_.lineSpacingStyle; }
     void SetLineSpacingStyle(dwLineSpacingStyle style) { Change(values_.lineSpacingStyle, style); }
 
-    /// Lines, for dwSpacingMultiple. Default 1.
+    /// Lines, for dwSpacingMultiple; written in 1/240 of a line, ties to even. Default 1. Error 6 when these do not
+    /// fit 32 bits.
     double LineSpacingMultiple() const { return values_.lineSpacingMultiple; }
     void SetLineSpacingMultiple(double lines) { Change(values_.lineSpacingMultiple, lines); }
 
-    /// Points, for the other two styles. Default 0.
+    /// Points, for the other two styles; written in twips, ties to even. Default 0. Error 6 when these do not fit
+    /// 32 bits.
     double LineSpacingDistance() const { return values_.lineSpacingDistance; }
     void SetLineSpacingDistance(double points) { Change(values_.lineSpacingDistance, points); }
 
@@ -92,7 +96,7 @@ public:
     bool KeepWithNext() const { return values_.keepWithNext; }
     void SetKeepWithNext(bool on) { Change(values_.keepWithNext, on); }
 
-    /// RTF \pagebb.
+    /// The paragraph begins a page (RTF \pagebb).
     bool PageBreakBefore() const { return values_.pageBreakBefore; }
     void SetPageBreakBefore(bool on) { Change(values_.pageBreakBefore, on); }
 
@@ -100,29 +104,30 @@ public:
     bool NoLineNumbering() const { return values_.noLineNumbering; }
     void SetNoLineNumbering(bool on) { Change(values_.noLineNumbering, on); }
 
-    /// RTF \hyphpar0.
+    /// No automatic hyphens in the paragraph (RTF \hyphpar0).
     bool SuppressHyphen() const { return values_.suppressHyphen; }
     void SetSuppressHyphen(bool on) { Change(values_.suppressHyphen, on); }
 
-    /// No single first or last line on a page. Default: the document's WidowOrphanControl when the object was
-    /// created; written where it differs from the document's.
+    /// No single first or last line on a page (RTF \widctlpar, \nowidctlpar). Default: the document's
+    /// WidowOrphanControl when the object was created; written where it differs from the document's.
     bool WidowOrphanControl() const { return values_.widowOrphanControl; }
     void SetWidowOrphanControl(bool on) { Change(values_.widowOrphanControl, on); }
 
-    /// 1..9 in the document's outline, 0 (default) for body text.
+    /// 1..9 in the document's outline (RTF \outlinelevel), 0 (default) for body text. Error 6 outside of a byte.
     std::int32_t OutlineLevel() const { return values_.outlineLevel; }
     void SetOutlineLevel(std::int32_t level) { Change(values_.outlineLevel, level); }
 
-    /// The list that the paragraph belongs to; empty (default) for none. It takes the list's spelling;
-    /// dwErrItemNotFound when the document has no such list.
+    /// The list that the paragraph belongs to, in any case of letters; empty (default) for none (RTF \ls). It takes
+    /// the list's spelling; dwErrItemNotFound when the document has no such list.
     std::string ListName() const { return NameOfList(values_.list); }
     void SetListName(std::string_view name) { SetList(values_.list, name); }
 
-    /// The list whose look the paragraph's number takes instead; empty (default) for its own. As ListName.
+    /// The list whose look the number takes while it counts on in ListName; empty (default) for its own look. As
+    /// ListName.
     std::string ListFormatName() const { return NameOfList(values_.listFormat); }
     void SetListFormatName(std::string_view name) { SetList(values_.listFormat, name); }
 
-    /// 1..9, default 1.
+    /// 1..9, default 1 (RTF \ilvl). The name in the range error is "ParagraphList.Level". Error 6 outside of a byte.
     std::int32_t ListLevel() const { return values_.listLevel; }
     void SetListLevel(std::int32_t level) { Change(values_.listLevel, level); }
 

@@ -9,16 +9,17 @@
 
 namespace draftwick {
 
-/// What both kinds of style have: a name, a number and the style it was copied from. Setters refuse once the
-/// document is emitted ("Document"), and so do the setters of the style's parts.
+/// What both kinds of style have: a name and a number. Their parent is the document. Setters refuse once that is
+/// emitted ("Document"), and so do the setters of a style's parts.
 class Style : public Node {
 public:
     Style(const Origin& origin, std::string name, std::int32_t index)
         : Node(origin), name_(std::move(name)), index_(index) {}
 
-    /// The name it was added with. Written as it is.
+    /// The name it was added with. Written as it is: braces, backslashes and semicolons break the file.
     const std::string& Name() const noexcept { return name_; }
 
+    /// The position among the styles of its kind, from 0.
     std::int32_t StyleIndex() const noexcept { return index_; }
 
     static constexpr std::int32_t NoStyle = -1;
@@ -28,19 +29,20 @@ private:
     std::int32_t index_;
 };
 
-/// A named look of paragraphs (RTF \s).
+/// A named look of paragraphs (RTF \s), which take it with Paragraph::SetStyleName.
 class ParagraphStyle final : public Style {
 public:
     ParagraphStyle(const Origin& origin, std::string name, std::int32_t index);
 
-    /// The paragraph style that this one starts from; empty (default) for none. Setting it copies everything that
-    /// the other style has now; later changes to the other are not followed. dwErrItemNotFound when there is no such
-    /// style.
+    /// The paragraph style that this one starts from; empty (default) for none (RTF \sbasedon). Setting it copies
+    /// everything that the other style has now over what was set here; only borders on sides that the other does
+    /// not have stay. Later changes to the other are not followed. An empty name copies nothing. dwErrItemNotFound
+    /// when there is no such style.
     std::string BasedOn() const { return NameOf(basedOn_); }
     void SetBasedOn(std::string_view name);
 
-    /// The paragraph style that an editor gives to the paragraph after one of this style; empty (default) for the
-    /// same. dwErrItemNotFound when there is no such style.
+    /// The paragraph style that an editor gives to the paragraph after one of this style (RTF \snext); empty
+    /// (default) for the same. dwErrItemNotFound when there is no such style.
     std::string NextStyle() const { return NameOf(nextStyle_); }
     void SetNextStyle(std::string_view name);
 
@@ -76,7 +78,7 @@ private:
     draftwick::TabStops tabStops_;
 };
 
-/// A named look of runs of text (RTF \cs).
+/// A named look of runs of text (RTF \cs). Runs only name it, with Run::SetStyleName: the reader applies it.
 class TextStyle final : public Style {
 public:
     TextStyle(const Origin& origin, std::string name, std::int32_t index);

@@ -21,7 +21,7 @@ enum dwTabLeader : std::int32_t {
     dwTabLeaderUnderline = 4,
 };
 
-/// One tab stop. It cannot be changed.
+/// One tab stop (RTF \tx, or \tb for a bar). It cannot be changed.
 class TabStop final : public Node {
 public:
     struct Values {
@@ -46,7 +46,8 @@ private:
     Values values_;
 };
 
-/// The tab stops of a paragraph or paragraph style, in the order in which they were added.
+/// The tab stops of a paragraph or paragraph style, in the order in which they were added: they are neither sorted
+/// nor compared.
 class TabStops final : public Part {
 public:
     using Part::Part;

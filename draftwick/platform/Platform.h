@@ -4,6 +4,7 @@
 #include <draftwick/platform/Environment.h>
 #include <draftwick/platform/EventLog.h>
 #include <draftwick/platform/FileSystem.h>
+#include <draftwick/platform/Pictures.h>
 #include <draftwick/platform/Programs.h>
 #include <draftwick/platform/RegistryStore.h>
 
@@ -18,6 +19,7 @@ namespace draftwick::platform {
 struct Platform {
     std::shared_ptr<FileSystem> files;
     std::shared_ptr<Environment> environment;
+    std::shared_ptr<Pictures> pictures;
     std::shared_ptr<RegistryStore> registry;
     std::shared_ptr<Automation> automation;
     std::shared_ptr<Programs> programs;

@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace draftwick::test {
 
@@ -44,20 +45,6 @@ Image PixelsOf(const std::string& bytes, PictureKind kind, int width, int height
     return ReadRecorded(RecordWhole(*picture, width, height), bits);
 }
 
-struct BmpCase {
-    const char* name;
-    BmpForm form;
-};
-
-class BmpVarieties : public testing::TestWithParam<BmpCase> {};
-
-TEST_P(BmpVarieties, GiveTheSamePixels) {
-    Indices indices = sample;
-    if (GetParam().form.bits == 1)
-        for (auto& index : indices.pixels) index &= 1;
-    EXPECT_EQ(PixelsOf(MakeBmp(indices, GetParam().form), PictureKind::Bmp, 5, 3), Coloured(indices));
-}
-
 const std::string rle8 =
     "\0\3\7\6\5\0\2\0\0\0"    // bottom row: three pixels as they are and padding, two black
     "\3\5\1\6\1\7\0\0"        // middle row, all runs
@@ -66,31 +53,47 @@ const std::string rle4 = "\0\3\x76\x50\2\0\0\0"
                          "\3\x55\2\x67\0\0"
                          "\0\5\x01\x23\x40\0\0\1"s;
 
-INSTANTIATE_TEST_SUITE_P(
-    Pictures, BmpVarieties,
-    testing::Values(
-        BmpCase{"Core1", {.headerSize = 12, .bits = 1}}, BmpCase{"Core4", {.headerSize = 12, .bits = 4}},
-        BmpCase{"Core8", {.headerSize = 12, .bits = 8}}, BmpCase{"Core24", {.headerSize = 12}},
-        BmpCase{"Bits1", {.bits = 1}}, BmpCase{"Bits4", {.bits = 4}}, BmpCase{"Bits8", {.bits = 8}},
-        BmpCase{"Bits16", {.bits = 16, .masks = {0x7C00, 0x3E0, 0x1F}}}, BmpCase{"Bits24", {}},
-        BmpCase{"Bits32", {.bits = 32, .masks = {0xFF0000, 0xFF00, 0xFF}}},
-        BmpCase{"TopDown4", {.bits = 4, .topDown = true}}, BmpCase{"TopDown24", {.topDown = true}},
-        BmpCase{"Fields565", {.bits = 16, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}}},
-        BmpCase{"Fields4444", {.bits = 16, .compression = 3, .masks = {0xF00, 0xF0, 0xF}}},
-        BmpCase{"FieldsTenBits", {.bits = 32, .compression = 3, .masks = {0x3FF, 0xFFC00, 0x3FF00000}}},
-        BmpCase{"FieldsV2",
-                {.headerSize = 52, .bits = 32, .compression = 3, .masks = {0xFF000000, 0xFF00, 0xFF}}},
-        BmpCase{"FieldsV3", {.headerSize = 56, .bits = 16, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}}},
-        BmpCase{"V4", {.headerSize = 108, .bits = 8}}, BmpCase{"V5", {.headerSize = 124, .topDown = true}},
-        BmpCase{"FieldsV5",
-                {.headerSize = 124, .bits = 32, .compression = 3, .masks = {0xFF, 0xFF00, 0xFF0000}}},
-        BmpCase{"Os2V2", {.headerSize = 64, .bits = 4}}, BmpCase{"ShortPalette", {.bits = 8, .entries = 8}},
-        BmpCase{"LostOffset", {.bits = 8, .entries = 8, .claimedOffset = 0}},
-        BmpCase{"FarOffset", {.bits = 8, .claimedOffset = 5000}}, BmpCase{"Gap", {.bits = 4, .gap = 7}},
-        BmpCase{"Rle8", {.bits = 8, .compression = 1, .encoded = rle8}},
-        BmpCase{"Rle8NoEnd", {.bits = 8, .compression = 1, .encoded = rle8.substr(0, rle8.size() - 2)}},
-        BmpCase{"Rle4", {.bits = 4, .compression = 2, .encoded = rle4}}),
-    [](const auto& info) { return info.param.name; });
+TEST(Pictures, BitmapsOfEveryFormGiveTheSamePixels) {
+    using Masks = std::array<std::uint32_t, 3>;
+    const auto form = [](std::uint32_t headerSize, int bits, std::uint32_t compression = 0,
+                         Masks masks = {}) {
+        return BmpForm{.headerSize = headerSize, .bits = bits, .compression = compression, .masks = masks};
+    };
+    const BmpForm forms[] = {
+        form(12, 1),
+        form(12, 4),
+        form(12, 8),
+        form(12, 24),
+        form(40, 1),
+        form(40, 4),
+        form(40, 8),
+        form(40, 24),
+        form(40, 16, 0, {0x7C00, 0x3E0, 0x1F}),
+        form(40, 32, 0, {0xFF0000, 0xFF00, 0xFF}),
+        form(40, 16, 3, {0xF800, 0x7E0, 0x1F}),
+        form(40, 16, 3, {0xF00, 0xF0, 0xF}),
+        form(40, 32, 3, {0x3FF, 0xFFC00, 0x3FF00000}),
+        form(52, 32, 3, {0xFF000000, 0xFF00, 0xFF}),
+        form(56, 16, 3, {0xF800, 0x7E0, 0x1F}),
+        form(64, 4),
+        form(108, 8),
+        form(124, 32, 3, {0xFF, 0xFF00, 0xFF0000}),
+        {.bits = 4, .topDown = true},
+        {.headerSize = 124, .topDown = true},
+        {.bits = 8, .entries = 8},
+        {.bits = 8, .entries = 8, .claimedOffset = 0},
+        {.bits = 8, .claimedOffset = 5000},
+        {.bits = 4, .gap = 7},
+        {.bits = 8, .compression = 1, .encoded = rle8},
+        {.bits = 8, .compression = 1, .encoded = rle8.substr(0, rle8.size() - 2)},
+        {.bits = 4, .compression = 2, .encoded = rle4},
+    };
+    for (const BmpForm& one : forms) {
+        Indices indices = sample;
+        for (auto& index : indices.pixels) index &= one.bits == 1 ? 1 : 7;
+        EXPECT_EQ(PixelsOf(MakeBmp(indices, one), PictureKind::Bmp, 5, 3), Coloured(indices)) << &one - forms;
+    }
+}
 
 TEST(Pictures, WhatABitmapDoesNotPaintIsWhiteAndWhatItsPaletteLacksIsBlack) {
     // Two to the right and one up, a red pixel there, end. Then: a run that is longer than its row.
@@ -305,28 +308,14 @@ TEST(Pictures, RecordedMetafileByteForByte) {
     // 3 by 2 pixels are 79.375 by 52.917 HIMETRIC; the device has 1920 pixels on 508 mm, 96 per inch.
     std::error_code error;
     const auto picture = LoadBytes(MakeBmp({3, 2, {1, 2, 1, 3, 3, 2}}, {}), PictureKind::Bmp, error);
+    // The header, the record of the bitmap, the bitmap, whose bottom row comes first, and the end.
+    std::istringstream fields(
+        "1 108 0 0 2 1 0 0 80 53 1179469088 65536 320 3 1 0 0 0 1920 1440 508 381 0 0 0 508000 381000 "
+        "81 192 0 0 2 1 0 0 0 0 3 2 80 104 184 8 0 13369376 3 2 "
+        "40 3 2 262145 0 8 0 0 16 0 16711680 65280 255 0 0 0 0 0 0 0 0 0 0 0 0 0 4130 1 "
+        "14 20 0 16 20");
     std::string expected;
-    for (const std::uint32_t field :
-         {1U,     108U, 0U, 0U, 2U, 1U,    0U,    0U,   80U,  53U, 0x464D4520U, 0x10000U, 108U + 192U + 20U,
-          3U,     1U,   0U, 0U, 0U, 1920U, 1440U, 508U, 381U, 0U,  0U,          0U,       508000U,
-          381000U})
-        expected += Le32(field);
-    for (const std::uint32_t field : {81U,  80U + 40U + 64U + 8U,
-                                      0U,   0U,
-                                      2U,   1U,
-                                      0U,   0U,
-                                      0U,   0U,
-                                      3U,   2U,
-                                      80U,  104U,
-                                      184U, 8U,
-                                      0U,   0xCC0020U,
-                                      3U,   2U})
-        expected += Le32(field);
-    for (const std::uint32_t field : {40U, 3U, 2U, 0x40001U, 0U, 8U, 0U, 0U, 16U, 0U})
-        expected += Le32(field);
-    expected += Le32(0xFF0000) + Le32(0x00FF00) + Le32(0x0000FF) + std::string(13 * 4, '\0');
-    expected += "\x22\x10\0\0\x01\0\0\0"s;  // the bottom row comes first
-    for (const std::uint32_t field : {14U, 20U, 0U, 16U, 20U}) expected += Le32(field);
+    for (std::uint32_t field = 0; fields >> field;) expected += Le32(field);
     EXPECT_EQ(RecordWhole(*picture, 3, 2), expected);
 }
 

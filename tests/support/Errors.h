@@ -19,6 +19,11 @@ inline std::string Refusal(const std::function<void()>& action) {
     return "accepted";
 }
 
+/// What an object is refused with that is written already.
+inline std::string Emitted(const std::string& object) {
+    return "X109 Invalid operation.  Target already emitted " + object + ".";
+}
+
 /// The number of the refusal, 0 when there was none.
 inline std::int32_t RefusalNumber(const std::function<void()>& action) {
     try {

@@ -1,15 +1,14 @@
 #include "tests/support/FakePlatform.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace draftwick::test {
 
 class MemoryFiles::OpenFile final : public platform::File {
 public:
-    OpenFile(std::shared_ptr<MemoryFiles> files, Content content, bool writing)
-        : files_(std::move(files)), content_(std::move(content)), writing_(writing) {
+    OpenFile(std::shared_ptr<MemoryFiles> files, Content content)
+        : files_(std::move(files)), content_(std::move(content)) {
         ++files_->open_;
     }
     ~OpenFile() override { Release(); }
@@ -17,16 +16,15 @@ public:
     OpenFile& operator=(const OpenFile&) = delete;
 
     std::size_t Write(const char* bytes, std::size_t size, std::error_code& error) override {
-        error = Begin(writing_);
-        if (error) size = error == std::errc::bad_file_descriptor ? 0 : std::min(size, files_->taken_);
-        if (size > 0) content_->append(bytes, size);
-        return size;
+        error = files_->Count();
+        const std::size_t taken = error ? std::min(size, files_->taken_) : size;
+        content_->append(bytes, taken);
+        return taken;
     }
 
     std::size_t Read(char* bytes, std::size_t size, std::error_code& error) override {
-        error = Begin(!writing_);
-        if (error) return 0;
-        const std::size_t taken = content_->copy(bytes, size, std::min(position_, content_->size()));
+        error = files_->Count();
+        const std::size_t taken = error ? 0 : content_->copy(bytes, size, position_);
         position_ += taken;
         return taken;
     }
@@ -39,10 +37,6 @@ public:
     }
 
 private:
-    std::error_code Begin(bool allowed) {
-        const std::error_code error = files_->Count();
-        return content_ && allowed ? error : std::make_error_code(std::errc::bad_file_descriptor);
-    }
     void Release() {
         if (content_) --files_->open_;
         content_.reset();
@@ -50,7 +44,6 @@ private:
 
     std::shared_ptr<MemoryFiles> files_;
     Content content_;
-    bool writing_;
     std::size_t position_ = 0;
 };
 
@@ -92,13 +85,13 @@ std::unique_ptr<platform::File> MemoryFiles::Create(const std::string& name, pla
         return nullptr;
     }
     Put(name, {});
-    return std::make_unique<OpenFile>(shared_from_this(), files_[name], true);
+    return std::make_unique<OpenFile>(shared_from_this(), files_[name]);
 }
 
 std::unique_ptr<platform::File> MemoryFiles::OpenForReading(const std::string& name, std::error_code& error) {
     const Content content = Find(name, error);
     if (!content) return nullptr;
-    return std::make_unique<OpenFile>(shared_from_this(), content, false);
+    return std::make_unique<OpenFile>(shared_from_this(), content);
 }
 
 std::uint64_t MemoryFiles::Length(const std::string& name, std::error_code& error) {
@@ -131,6 +124,7 @@ platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
     return {
         .files = std::move(files),
         .environment = std::make_shared<FakeEnvironment>(),
+        .pictures = platform::SystemPictures(),
         .registry = desktop,
         .automation = desktop,
         .programs = desktop,

@@ -10,6 +10,7 @@
 #include <set>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace draftwick::test {
@@ -32,7 +33,6 @@ public:
 
     /// A locked file cannot be deleted or overwritten: std::errc::device_or_resource_busy.
     void Lock(const std::string& name) { locked_.insert(name); }
-    void Unlock(const std::string& name) { locked_.erase(name); }
 
     /// How many files are open.
     int OpenFiles() const { return open_; }
@@ -69,7 +69,8 @@ public:
     std::string TempFolder() override { return tempFolder; }
 };
 
-/// A platform with these files, a FakeEnvironment and a FakeDesktop on which there is nothing.
+/// A platform with these files, a FakeEnvironment, a FakeDesktop on which there is nothing and the system's pictures
+/// service.
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files);
 platform::Platform MakeFakePlatform(std::shared_ptr<MemoryFiles> files,
                                     std::shared_ptr<FakeEnvironment> environment);

@@ -112,10 +112,7 @@ std::string MakeGif(const Indices& frame, const GifForm& form) {
             EGifPutLine(gif, pixels.data() + y * frame.width, frame.width);
     };
     if (form.interlaced) {
-        putRows(0, 8);
-        putRows(4, 8);
-        putRows(2, 4);
-        putRows(1, 2);
+        for (const auto& [first, step] : {std::pair(0, 8), {4, 8}, {2, 4}, {1, 2}}) putRows(first, step);
     } else {
         putRows(0, 1);
     }

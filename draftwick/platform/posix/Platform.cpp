@@ -35,6 +35,7 @@ Platform SystemPlatform() {
     static const Platform system{
         .files = posix::MakeFileSystem(),
         .environment = std::make_shared<PosixEnvironment>(),
+        .pictures = SystemPictures(),
         .registry = posix::MakeRegistryStore(),
         .automation = posix::MakeAutomation(),
         .programs = posix::MakePrograms(),

@@ -1,0 +1,206 @@
+// One workload as a whole process, for scripts/bench.
+//
+// usage: draftwick_workload long PARAGRAPHS FILE        one long document
+//        draftwick_workload small DOCUMENTS THREADS FOLDER   many small documents
+//        draftwick_workload text MEGABYTES FILE         items of 1 MB of mixed text
+//        draftwick_workload formatted PARAGRAPHS FILE   every run and paragraph with a look of its own
+//        draftwick_workload floor BYTES FILE            the same number of bytes without a library
+#include <draftwick/draftwick.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+using namespace draftwick;
+
+namespace {
+
+/// "Line 000042 plain run, ": the text with the number in it, without any cost to speak of.
+class Numbered {
+public:
+    Numbered(std::string_view before, std::string_view after) : digits_(before.size()) {
+        text_ = before;
+        text_ += "000000";
+        text_ += after;
+    }
+    std::string_view operator()(long number) {
+        for (std::size_t i = 6; i-- > 0; number /= 10)
+            text_[digits_ + i] = static_cast<char>('0' + number % 10);
+        return text_;
+    }
+
+private:
+    std::size_t digits_;
+    std::string text_;
+};
+
+void WriteRow(Section& section, long number) {
+    static thread_local std::array<Numbered, 4> texts{Numbered{"Cell ", " A"}, Numbered{"Cell ", " B"},
+                                                      Numbered{"Cell ", " C"}, Numbered{"Cell ", " D"}};
+    auto row = section.AddTable();
+    for (Numbered& text : texts) {
+        auto cell = row->AddCell();
+        cell->SetWidth(2268);
+        cell->AddParagraph()->AddTextItem(text(number));
+    }
+}
+
+/// Three runs, and after every tenth paragraph a row of four cells.
+void WriteParagraphs(Document& document, long count) {
+    document.SetScaleMode(dwTwips);
+    auto section = document.AddSection();
+    Numbered plain{"Line ", " plain run, "};
+    for (long i = 1; i <= count; ++i) {
+        auto paragraph = section->AddParagraph();
+        paragraph->AddTextItem(plain(i));
+        paragraph->AddTextItem("bold run of this one, ")->FontFormat()->SetBold(true);
+        paragraph->AddTextItem("red end of para.")->FontFormat()->SetColor(200);
+        if (i % 10 == 0) WriteRow(*section, i);
+    }
+    document.Finish();
+}
+
+void WriteLong(long paragraphs, const std::string& file) {
+    auto document = Document::Create();
+    document->SetFilename(file);
+    WriteParagraphs(*document, paragraphs);
+}
+
+void WriteSmall(long documents, long threads, const std::string& folder) {
+    std::vector<std::thread> workers;
+    for (long thread = 0; thread < threads; ++thread) {
+        workers.emplace_back([=] {
+            for (long i = thread; i < documents; i += threads) {
+                auto document = Document::Create();
+                document->SetFilename(folder + "/" + std::to_string(i) + ".rtf");
+                WriteParagraphs(*document, 20);
+            }
+        });
+    }
+    for (std::thread& worker : workers) worker.join();
+}
+
+void WriteText(long megabytes, const std::string& file) {
+    std::string text;
+    while (text.size() < 1 << 20) {
+        text += "Plain words make most of a page, some caf\u00e9s do not, \u201cquotations\u201d \u2014 and "
+                "dashes \u2014 "
+                "stand between them; braces like {these} are rare. ";
+    }
+    auto document = Document::Create();
+    document->SetFilename(file);
+    auto section = document->AddSection();
+    for (long i = 0; i < megabytes; ++i) section->AddParagraph()->AddTextItem(text);
+    document->Finish();
+}
+
+void WriteFormatted(long paragraphs, const std::string& file) {
+    auto document = Document::Create();
+    document->SetFilename(file);
+    constexpr int Variants = 50;
+    const auto name = [](const char* kind, long i) { return kind + std::to_string(i % Variants); };
+    for (long i = 0; i < Variants; ++i) {
+        document->Fonts()->Add(name("Font ", i));
+        document->Lists()->Add(name("List ", i));
+        auto style = document->ParagraphStyles()->Add(name("Style ", i));
+        style->FontFormat()->SetFontName(name("Font ", i));
+        style->Borders()->Items(dwPBorderTop)->SetStyle(dwBSSingle);
+        style->TabStops()->Add(1, dwTabRight, dwTabLeaderDots);
+    }
+    auto section = document->AddSection();
+    for (long i = 0; i < paragraphs; ++i) {
+        auto paragraph = section->AddParagraph();
+        paragraph->SetStyleName(name("Style ", i));
+        auto format = paragraph->Format();
+        format->SetListName(name("List ", i));
+        format->SetListLevel(static_cast<std::int32_t>(i % 9 + 1));
+        for (long run = 0; run < 4; ++run) {
+            auto item = paragraph->AddTextItem("a run with a look of its own ");
+            auto font = item->FontFormat();
+            font->SetFontName(name("Font ", i + run));
+            font->SetSize(static_cast<double>(8 + run));
+            font->SetColor(static_cast<std::int32_t>((i * 4 + run) % 1000));
+            item->Background()->SetTexture(dwTextureSolid);
+            item->Background()->SetBackColor(static_cast<std::int32_t>(0xFFFFFF - i % 1000));
+        }
+    }
+    document->Finish();
+}
+
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+File Open(const std::string& name, const char* mode) {
+    File file(std::fopen(name.c_str(), mode), std::fclose);
+    if (file == nullptr) throw std::runtime_error("cannot open " + name);
+    std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    return file;
+}
+
+/// What every document has to cost: its bytes through a block of 64 KiB to a temporary file, once more to the final
+/// one, and the temporary file deleted.
+void WriteFloor(long bytes, const std::string& name) {
+    std::vector<char> block(64 * 1024, 'x');
+    const std::string temporary = name + ".tmp";
+    {
+        const File file = Open(temporary, "wb");
+        for (long left = bytes; left > 0; left -= static_cast<long>(block.size())) {
+            std::fill(block.begin(), block.end(), static_cast<char>('a' + left % 26));
+            std::fwrite(block.data(), 1,
+                        static_cast<std::size_t>(std::min<long>(left, static_cast<long>(block.size()))),
+                        file.get());
+        }
+    }
+    {
+        const File from = Open(temporary, "rb");
+        const File to = Open(name, "wb");
+        while (const std::size_t size = std::fread(block.data(), 1, block.size(), from.get())) {
+            std::fwrite(block.data(), 1, size, to.get());
+        }
+    }
+    std::remove(temporary.c_str());
+}
+
+long Number(std::string_view text) {
+    long number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc{} || end != text.data() + text.size())
+        throw std::runtime_error("no number: " + std::string{text});
+    return number;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    try {
+        if (words.size() == 4 && words[0] == "small") {
+            WriteSmall(Number(words[1]), Number(words[2]), words[3]);
+            return 0;
+        }
+        if (words.size() == 3) {
+            const std::string& workload = words[0];
+            const auto run = workload == "long"        ? WriteLong
+                             : workload == "text"      ? WriteText
+                             : workload == "formatted" ? WriteFormatted
+                             : workload == "floor"     ? WriteFloor
+                                                       : nullptr;
+            if (run != nullptr) {
+                run(Number(words[1]), words[2]);
+                return 0;
+            }
+        }
+    } catch (const std::exception& error) {
+        std::cerr << "draftwick_workload: " << error.what() << '\n';
+        return 1;
+    }
+    std::cerr
+        << "usage: draftwick_workload long|text|formatted|floor COUNT FILE, or small COUNT THREADS FOLDER\n";
+    return 2;
+}

@@ -1,0 +1,204 @@
+#pragma once
+
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/content/Container.h>
+#include <draftwick/drawing/ShapeFill.h>
+#include <draftwick/drawing/ShapeKind.h>
+#include <draftwick/drawing/ShapeLine.h>
+#include <draftwick/drawing/ShapeShadow.h>
+#include <draftwick/drawing/ShapeTextFormat.h>
+#include <draftwick/drawing/ShapeThreeD.h>
+#include <draftwick/drawing/ShapeWordArt.h>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace draftwick {
+
+class OpenPicture;
+
+/// What Left is counted from.
+enum dwShapeReferenceX : std::int32_t { dwSRXPage = 1, dwSRXColumn = 2, dwSRXMargin = 3 };
+/// What Top is counted from.
+enum dwShapeReferenceY : std::int32_t { dwSRYPage = 1, dwSRYParagraph = 2, dwSRYMargin = 3 };
+/// How text goes around a shape (RTF \shpwr).
+enum dwShapeWrap : std::int32_t {
+    dwSWTopBottom = 1,
+    dwSWAround = 2,
+    dwSWNone = 3,  ///< the shape stands in front of the text or behind it
+    dwSWTightly = 4,
+    dwSWThrough = 5,
+};
+/// On which sides of a shape there is text (RTF \shpwrk).
+enum dwShapeWrapSides : std::int32_t { dwSWSBoth = 1, dwSWSLeft = 2, dwSWSRight = 3, dwSWSLargest = 4 };
+/// How text goes around a shape; no property takes it.
+enum dwShapeTextWrap : std::int32_t {
+    dwSTWSquare = 1,
+    dwSTWTight = 2,
+    dwSTWNone = 3,
+    dwSTWTopBottom = 4,
+    dwSTWThrough = 5,
+};
+
+/// A drawing anchored in a paragraph (RTF \shp): a geometric figure, a text box or a picture. Its settings are
+/// written when its first paragraph or row is added or when it is closed; from then on they and those of its parts
+/// refuse ("Shape"). Lengths are 16 bits in twips.
+///
+/// A shape without text takes the place of the mark between its paragraph and the next, which then goes on in the same
+/// line: anchor such shapes in the last paragraph, or before one that has a text box.
+///
+/// Pictures are looked up, judged and, where they must be, converted when the shape is about to be written. The call
+/// that would write it is then refused with dwErrPictureFileNotFound (also for a folder, and for a picture frame
+/// without a picture), dwErrUnsupportedFileType (also for an extension in capitals), error 481 (a file that is not
+/// the picture that its name promises) or std::system_error; nothing is written yet, and the name or the file can
+/// still be mended. If a file turns out to be unreadable in the middle, the shape is written with what there is, and
+/// the call reports it as std::system_error.
+class Shape final : public RowContainer {
+public:
+    struct Values {
+        dwShapeKind kind = dwSKRectangle;
+        std::int32_t nextIndex = 0;
+        Choice<"Shape.ReferenceX", dwSRXPage, dwSRXMargin> referenceX{dwSRXMargin};
+        Choice<"Shape.ReferenceY", dwSRYPage, dwSRYMargin> referenceY{dwSRYMargin};
+        Choice<"Shape.Wrap", dwSWTopBottom, dwSWThrough> wrap{dwSWNone};
+        Choice<"Shape.WrapSides", dwSWSBoth, dwSWSLargest> wrapSides{dwSWSBoth};
+        bool lockAnchor = false;
+        FixedPoint rotation{0};
+        bool flipV = false;
+        bool flipH = false;
+        bool behindText = false;
+        bool inLine = false;
+        std::array<std::int32_t, 10> adjustValues{};
+        Length top{0};
+        Length left{0};
+        Length width{1440};
+        Length height{1440};
+        Length wrapTop{0};
+        Length wrapLeft{0};
+        Length wrapRight{0};
+        Length wrapBottom{0};
+    };
+
+    Shape(const Origin& origin, dwShapeKind kind);
+    ~Shape() override;
+
+    /// The geometry; what the shape was added with until it is changed. Not checked: any number is written.
+    void SetKind(dwShapeKind kind) { Change(values_.kind, kind); }
+    /// The number of the shape in its document, from 1 in the order in which shapes are added.
+    std::int32_t Index() const noexcept { return index_; }
+    /// The Index of the shape that the text goes on in when this one is full. Default 0: none.
+    std::int32_t NextIndex() const { return values_.nextIndex; }
+    void SetNextIndex(std::int32_t index) { Change(values_.nextIndex, index); }
+
+    /// From the references to the shape. Default 0.
+    double Top() const { return Read(values_.top); }
+    void SetTop(double length) { Change(values_.top, length); }
+    double Left() const { return Read(values_.left); }
+    void SetLeft(double length) { Change(values_.left, length); }
+    /// Default 1440 twips.
+    double Width() const { return Read(values_.width); }
+    void SetWidth(double length) { Change(values_.width, length); }
+    double Height() const { return Read(values_.height); }
+    void SetHeight(double length) { Change(values_.height, length); }
+    /// Default dwSRXMargin.
+    dwShapeReferenceX ReferenceX() const { return values_.referenceX; }
+    void SetReferenceX(dwShapeReferenceX reference) { Change(values_.referenceX, reference); }
+    /// Default dwSRYMargin.
+    dwShapeReferenceY ReferenceY() const { return values_.referenceY; }
+    void SetReferenceY(dwShapeReferenceY reference) { Change(values_.referenceY, reference); }
+    /// The shape stays with its paragraph. Default false.
+    bool LockAnchor() const { return values_.lockAnchor; }
+    void SetLockAnchor(bool on) { Change(values_.lockAnchor, on); }
+
+    /// Default dwSWNone.
+    dwShapeWrap Wrap() const { return values_.wrap; }
+    void SetWrap(dwShapeWrap wrap) { Change(values_.wrap, wrap); }
+    /// Default dwSWSBoth.
+    dwShapeWrapSides WrapSides() const { return values_.wrapSides; }
+    void SetWrapSides(dwShapeWrapSides sides) { Change(values_.wrapSides, sides); }
+    /// From the shape to the text around it. Default 0.
+    double WrapTop() const { return Read(values_.wrapTop); }
+    void SetWrapTop(double length) { Change(values_.wrapTop, length); }
+    double WrapLeft() const { return Read(values_.wrapLeft); }
+    void SetWrapLeft(double length) { Change(values_.wrapLeft, length); }
+    double WrapRight() const { return Read(values_.wrapRight); }
+    void SetWrapRight(double length) { Change(values_.wrapRight, length); }
+    double WrapBottom() const { return Read(values_.wrapBottom); }
+    void SetWrapBottom(double length) { Change(values_.wrapBottom, length); }
+    /// Default false: in front of it.
+    bool BehindText() const { return values_.behindText; }
+    void SetBehindText(bool on) { Change(values_.behindText, on); }
+
+    /// Degrees clockwise, kept as a whole number of 65536ths; written only when it is above 0. Default 0. Error 6 beyond
+    /// 32767.
+    double Rotation() const { return values_.rotation; }
+    void SetRotation(double degrees) { Change(values_.rotation, degrees); }
+    /// Mirrored from left to right. Default false.
+    bool FlipH() const { return values_.flipH; }
+    void SetFlipH(bool on) { Change(values_.flipH, on); }
+    /// Mirrored from top to bottom. Default false.
+    bool FlipV() const { return values_.flipV; }
+    void SetFlipV(bool on) { Change(values_.flipV, on); }
+    /// The numbers, 1 to 10, that change the proportions of a geometry; what each means depends on Kind. Default 0: not
+    /// written. dwErrPropertyOutOfRange with "Shape.AdjustValues.Index".
+    std::int32_t AdjustValues(std::int32_t index) const;
+    void SetAdjustValues(std::int32_t index, std::int32_t value);
+
+    /// If the shape is a picture frame, indicates that it's part of a paragraph. Default false. Such a picture is scaled
+    /// to Width and Height, which are taken as twips whatever ScaleMode says: use dwTwips. Error 11 when the picture
+    /// has no size of its own that could be scaled.
+    bool InLine() const { return values_.inLine; }
+    void SetInLine(bool on) { Change(values_.inLine, on); }
+
+    std::shared_ptr<ShapeFill> Fill() { return Share(fill_.Get(*this)); }
+    std::shared_ptr<ShapeLine> Line() { return Share(line_.Get(*this)); }
+    std::shared_ptr<ShapeShadow> Shadow() { return Share(shadow_.Get(*this)); }
+    std::shared_ptr<ShapeTextFormat> TextFormat() { return Share(textFormat_.Get(*this)); }
+    std::shared_ptr<ShapeThreeD> ThreeD() { return Share(threeD_.Get(*this)); }
+    std::shared_ptr<ShapeWordArt> WordArt() { return Share(wordArt_.Get(*this)); }
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+    // The rest is for the library.
+
+    const Values& Stored() const noexcept { return values_; }
+    const ShapeFill::Values& StoredFill() const { return OwnOrDefault(fill_); }
+    const ShapeLine::Values& StoredLine() const { return OwnOrDefault(line_); }
+    const ShapeShadow::Values& StoredShadow() const { return OwnOrDefault(shadow_); }
+    const ShapeTextFormat::Values& StoredTextFormat() const { return OwnOrDefault(textFormat_); }
+    const ShapeThreeD::Values& StoredThreeD() const { return OwnOrDefault(threeD_); }
+    const ShapeWordArt::Values& StoredWordArt() const { return OwnOrDefault(wordArt_); }
+    bool IsPictureFrame() const noexcept { return values_.kind == dwSKPictureFrame; }
+    bool IsInlinePicture() const noexcept { return IsPictureFrame() && values_.inLine; }
+
+    void WriteParagraphMark() override;
+    void WriteRowMark() override;
+
+protected:
+    void WriteStart() override;
+    void WriteEnd() override;
+
+private:
+    template <class Settings>
+    static const typename Settings::Values& OwnOrDefault(const Lazy<Settings>& settings) {
+        static const typename Settings::Values defaults{};
+        return settings.Find() != nullptr ? settings.Find()->Stored() : defaults;
+    }
+    void OpenText();
+
+    std::int32_t index_;
+    Values values_;
+    Lazy<ShapeFill> fill_;
+    Lazy<ShapeLine> line_;
+    Lazy<ShapeShadow> shadow_;
+    Lazy<ShapeTextFormat> textFormat_;
+    Lazy<ShapeThreeD> threeD_;
+    Lazy<ShapeWordArt> wordArt_;
+    std::unique_ptr<OpenPicture> inlinePicture_;  // from the first half to the second
+    LayoutState
+        outerLayout_;  // where the writers stood around this shape, which can be in another shape's cell
+};
+
+}  // namespace draftwick

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <draftwick/base/Object.h>
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace draftwick {
+
+/// How the inside of a shape is painted.
+enum dwShapeFillStyle : std::int32_t {
+    dwSFSNone = 1,
+    dwSFSSolid = 2,
+    dwSFSPattern = 3,     ///< Picture in the two colours, side by side
+    dwSFSPicTile = 4,     ///< Picture, side by side
+    dwSFSPicStretch = 5,  ///< Picture, as large as the shape
+    dwSFSShade = 6,       ///< from one colour to the other along a line
+    dwSFSShadeRect = 7,   ///< from one colour to the other around a rectangle
+};
+
+/// The inside of a shape. Refuses once the shape is written ("Shape"). Colours have red in the lowest byte, then
+/// green, then blue. Percentages go from 0 to 100, which is not checked.
+class ShapeFill final : public Part {
+public:
+    /// Written as a fraction of 65536.
+    using Percent = Real<65536, 100>;
+    /// Written as the distance from 100 percent, which must fit, too.
+    using PercentFromFarEdge = Real<656>;
+
+    struct Values {
+        Choice<"ShapeFill.Style", dwSFSNone, dwSFSShadeRect> style{dwSFSNone};
+        std::int32_t color = 0;
+        Percent opacity{100};
+        std::int32_t backColor = 0;
+        Percent backOpacity{100};
+        Real<65536> shadeAngle{0};
+        bool shadeFocus = false;
+        PercentFromFarEdge shadeToTop{0};
+        PercentFromFarEdge shadeToLeft{0};
+        Percent shadeToRight{0};
+        Percent shadeToBottom{0};
+        std::string shadeArray;
+        std::string picture;
+    };
+
+    using Part::Part;
+
+    /// Default dwSFSNone: nothing is painted and none of the other settings is written.
+    dwShapeFillStyle Style() const { return values_.style; }
+    void SetStyle(dwShapeFillStyle style) { Change(values_.style, style); }
+
+    /// The colour of a solid fill, and the first one of a pattern or shade. Default black.
+    std::int32_t Color() const { return values_.color; }
+    void SetColor(std::int32_t color) { Change(values_.color, color); }
+    /// Percent; 100 (default) lets nothing shine through. Error 6, for every percentage and angle, when it is not
+    /// finite or does not fit 32 bits as a number of 65536ths.
+    double Opacity() const { return values_.opacity; }
+    void SetOpacity(double percent) { Change(values_.opacity, percent); }
+
+    /// The second colour of a pattern or shade. Default black.
+    std::int32_t BackColor() const { return values_.backColor; }
+    void SetBackColor(std::int32_t color) { Change(values_.backColor, color); }
+    /// Percent. Default 100.
+    double BackOpacity() const { return values_.backOpacity; }
+    void SetBackOpacity(double percent) { Change(values_.backOpacity, percent); }
+
+    /// The direction of dwSFSShade in degrees. Default 0.
+    double ShadeAngle() const { return values_.shadeAngle; }
+    void SetShadeAngle(double degrees) { Change(values_.shadeAngle, degrees); }
+    /// dwSFSShade reaches the second colour in the middle and goes back to the first. Default false.
+    bool ShadeFocus() const { return values_.shadeFocus; }
+    void SetShadeFocus(bool on) { Change(values_.shadeFocus, on); }
+
+    /// The rectangle in the middle of dwSFSShadeRect: percent of the shape's height and width. Default 0. Top and left
+    /// are written as their distance from 100, right and bottom as given.
+    double ShadeToTop() const { return values_.shadeToTop; }
+    void SetShadeToTop(double percent) { Change(values_.shadeToTop, percent); }
+    double ShadeToLeft() const { return values_.shadeToLeft; }
+    void SetShadeToLeft(double percent) { Change(values_.shadeToLeft, percent); }
+    double ShadeToRight() const { return values_.shadeToRight; }
+    void SetShadeToRight(double percent) { Change(values_.shadeToRight, percent); }
+    double ShadeToBottom() const { return values_.shadeToBottom; }
+    void SetShadeToBottom(double percent) { Change(values_.shadeToBottom, percent); }
+
+    /// The colours of a shade of more than two: whole numbers separated by commas, colour and position in percent
+    /// by turns, "255,0,65535,40,16711680,100". Blanks around a number do not count. Empty (default) for none.
+    /// Error 5 for anything else; error 6 for a position that does not fit 32 bits as a fraction of 65536.
+    const std::string& ShadeArray() const { return values_.shadeArray; }
+    void SetShadeArray(std::string_view colors);
+
+    /// The file of the picture or pattern, or of the picture that a picture frame shows: ".jpg", ".jpeg", ".emf",
+    /// ".wmf", ".gif" or ".bmp", in small letters. Empty (default) for none. It is looked up when the shape is
+    /// written, see Shape.
+    const std::string& Picture() const { return values_.picture; }
+    void SetPicture(std::string_view fileName);
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+    // The rest is for the library.
+
+    const Values& Stored() const noexcept { return values_; }
+
+    struct ShadeColor {
+        std::int32_t color = 0;
+        std::int32_t position = 0;  ///< as it is written: of 65536
+    };
+    static std::vector<ShadeColor> ReadShadeArray(std::string_view colors);
+
+private:
+    Values values_;
+};
+
+/// {\sp{\sn fFilled}{\sv 1}}{\sp{\sn fillType}{\sv 0}}...
+void EmitShapeFill(WritingContext& context, const ShapeFill::Values& fill);
+
+}  // namespace draftwick

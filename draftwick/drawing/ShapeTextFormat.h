@@ -1,0 +1,47 @@
+#pragma once
+
+#include <draftwick/base/Object.h>
+
+namespace draftwick {
+
+/// Which way the lines of a text box run. Both vertical directions are written with the same number.
+enum dwShapeTextFlow : std::int32_t { dwSTFHorizontal = 1, dwSTFTopToBottom = 2, dwSTFBottomToTop = 3 };
+
+/// The text box of a shape: its margins and direction. Refuses once the shape is written ("Shape"). Lengths are 16
+/// bits in twips.
+class ShapeTextFormat final : public Part {
+public:
+    struct Values {
+        Length spacingTop{72};
+        Length spacingBottom{72};
+        Length spacingLeft{144};
+        Length spacingRight{144};
+        dwShapeTextFlow flow = dwSTFHorizontal;
+    };
+
+    using Part::Part;
+
+    /// From the edge of the shape to its text. Default 72 twips above and below, 144 on the left and on the right.
+    double SpacingTop() const { return Read(values_.spacingTop); }
+    void SetSpacingTop(double length) { Change(values_.spacingTop, length); }
+    double SpacingBottom() const { return Read(values_.spacingBottom); }
+    void SetSpacingBottom(double length) { Change(values_.spacingBottom, length); }
+    double SpacingLeft() const { return Read(values_.spacingLeft); }
+    void SetSpacingLeft(double length) { Change(values_.spacingLeft, length); }
+    double SpacingRight() const { return Read(values_.spacingRight); }
+    void SetSpacingRight(double length) { Change(values_.spacingRight, length); }
+
+    /// Default dwSTFHorizontal. Not checked: a value outside of the enumeration is written as none.
+    dwShapeTextFlow Flow() const { return values_.flow; }
+    void SetFlow(dwShapeTextFlow flow) { Change(values_.flow, flow); }
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+    const Values& Stored() const noexcept { return values_; }
+
+private:
+    Values values_;
+};
+
+}  // namespace draftwick

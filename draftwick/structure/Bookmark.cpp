@@ -1,0 +1,35 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/Utf8.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/structure/Bookmark.h>
+
+namespace draftwick {
+
+Bookmark::Bookmark(const Origin& origin, std::string_view name, bool isStart)
+    : Content(origin), values_{.name = ToValidUtf8(name), .isStart = isStart} {}
+
+/// "{\*\bkmkstart Total}"
+void Bookmark::WriteStart() {
+    Output& output = Writing().output;
+    output.WriteDestinationStart();
+    output.WriteControlWord(values_.isStart ? "bkmkstart" : "bkmkend");
+    output.WriteText(values_.name);
+    output.WriteGroupEnd();
+}
+
+const Class& Bookmark::Describe() {
+    using B = Bookmark;
+    using V = Values;
+    static const Class description{"Bookmark",
+                                   "{2CACD51E-5C7F-4B57-930F-9C371CB76854}",
+                                   "{8AA0A6A5-3FC7-4826-8191-C0119E6AD305}",
+                                   {
+                                       PropertyOf<&B::Emitted>("Emitted"),
+                                       PropertyOf<&B::IsStart, &B::SetIsStart, &V::isStart>("IsStart"),
+                                       PropertyOf<&B::Name, &B::SetName, &V::name>("Name"),
+                                   },
+                                   {}};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <draftwick/base/Content.h>
+
+#include <string>
+#include <string_view>
+
+namespace draftwick {
+
+/// One end of a named part of the text (RTF \bkmkstart, \bkmkend). Two bookmarks of the same name, a start and an
+/// end, make one; nothing checks that they do. Refuses changes once it is written, which is when its paragraph gets
+/// its next child or is closed ("Bookmark").
+class Bookmark final : public Content {
+public:
+    struct Values {
+        std::string name;
+        bool isStart = true;
+    };
+
+    Bookmark(const Origin& origin, std::string_view name, bool isStart);
+
+    /// Written as it is: braces and backslashes in it break the file.
+    const std::string& Name() const { return values_.name; }
+    void SetName(std::string_view name) { Change(values_.name, name); }
+
+    /// Whether it is the start, not the end. Default true.
+    bool IsStart() const { return values_.isStart; }
+    void SetIsStart(bool on) { Change(values_.isStart, on); }
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+protected:
+    void WriteStart() override;
+
+private:
+    Values values_;
+};
+
+}  // namespace draftwick

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <draftwick/content/Container.h>
+#include <draftwick/format/Background.h>
+#include <draftwick/structure/CellBorders.h>
+
+namespace draftwick {
+
+/// Which cells are one to the reader (RTF \clmgf and its siblings).
+enum dwCellMerge : std::int32_t {
+    dwMergeNone = 1,
+    dwMergeFirstHorizontal = 2,  ///< the first of cells merged across
+    dwMergeFirstVertical = 3,    ///< the first of cells merged down
+    dwMergeFirstBoth = 4,        ///< the first of cells merged across and down
+    dwMergeHorizontal = 5,       ///< belongs to the cell on its left
+    dwMergeVertical = 6,         ///< belongs to the cell above
+};
+/// Where text stands in a cell that it does not fill (RTF \clvertalt and its siblings).
+enum dwCellVerticalAlign : std::int32_t { dwCVATop = 1, dwCVABottom = 2, dwCVACenter = 3 };
+/// The direction of the text: across, upwards or downwards.
+enum dwCellOrientation : std::int32_t { dwReadNormal = 1, dwReadRight = 2, dwReadLeft = 3 };
+
+/// A cell of a row (RTF \cellx). Its settings are written when its first paragraph is added; from then on setters
+/// refuse ("Cell"). A cell without a paragraph is an empty cell.
+class Cell final : public Container {
+public:
+    struct Values {
+        Choice<"Cell.Merge", dwMergeNone, dwMergeVertical> merge{dwMergeNone};
+        Choice<"Cell.VerticalAlign", dwCVATop, dwCVACenter> verticalAlign{dwCVATop};
+        // No value of the enumeration, to which a host cannot return.
+        Choice<"Cell.Orientation", dwReadNormal, dwReadLeft> orientation{dwCellOrientation{}};
+        Length width{1440};
+    };
+
+    using Container::Container;
+
+    /// Default dwMergeNone.
+    dwCellMerge Merge() const { return values_.merge; }
+    void SetMerge(dwCellMerge merge) { Change(values_.merge, merge); }
+
+    /// Default dwCVATop.
+    dwCellVerticalAlign VerticalAlign() const { return values_.verticalAlign; }
+    void SetVerticalAlign(dwCellVerticalAlign align) { Change(values_.verticalAlign, align); }
+
+    /// Default 0: nothing is written, as for dwReadNormal. The word stands after the cell's right edge, where
+    /// readers take it for the next cell.
+    dwCellOrientation Orientation() const { return values_.orientation; }
+    void SetOrientation(dwCellOrientation orientation) { Change(values_.orientation, orientation); }
+
+    /// 16 bits in twips, as is the sum over the row: where that goes beyond 32767 twips, the call that would write the
+    /// cell is refused with error 6. Default 1440 twips.
+    double Width() const { return Read(values_.width); }
+    void SetWidth(double length) { Change(values_.width, length); }
+
+    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
+    std::shared_ptr<CellBorders> Borders() { return Share(borders_.Get(*this)); }
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+    // The rest is for the library.
+
+    void WriteParagraphMark() override;
+    void WriteParagraphPlace(const Frame* frame) override;
+    bool StandsInCell() const override { return true; }
+
+protected:
+    void WriteStart() override;
+    void WriteEnd() override;
+
+private:
+    Values values_;
+    Lazy<draftwick::Background> background_;
+    Lazy<CellBorders> borders_;
+};
+
+}  // namespace draftwick

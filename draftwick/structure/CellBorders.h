@@ -1,0 +1,39 @@
+#pragma once
+
+#include <draftwick/format/Border.h>
+
+namespace draftwick {
+
+/// Which side of a cell a border stands on.
+enum dwCellBorder : std::int32_t {
+    dwCBorderTop = 1,
+    dwCBorderLeft = 2,
+    dwCBorderRight = 3,
+    dwCBorderBottom = 4,
+};
+
+struct CellBorderValues {
+    BorderStyle style{dwBSNone};
+    Rounded width{1};
+    std::int32_t color = 0;
+};
+
+/// One side of the borders of a cell (RTF \clbrdrt and its siblings). Its Width is kept in whole points of 16 bits, ties
+/// to even, unlike that of a row's border: 0.5 is 0 and 0.75 is 1. Refuses once the cell is written ("Cell").
+class CellBorder final : public Border<CellBorderValues> {
+public:
+    CellBorder(Object& cell, dwCellBorder) : Border(cell) {}
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+};
+
+/// The borders of a cell.
+class CellBorders final : public BorderCollection<CellBorder, dwCellBorder, 4> {
+public:
+    using BorderCollection::BorderCollection;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+};
+
+}  // namespace draftwick

@@ -1,0 +1,111 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/structure/Columns.h>
+
+#include <limits>
+
+namespace draftwick {
+
+namespace {
+
+constexpr std::int32_t MostColumns = std::numeric_limits<std::uint8_t>::max();
+
+}  // namespace
+
+std::shared_ptr<Column> Columns::Add(double width, double spacing) {
+    const dwScaleMode scale = OpenForChange();
+    if (Listed() == MostColumns) RaiseRuntimeError(dwRunOverflow, "a section has at most 255 columns");
+    Column::Values values{.number = static_cast<std::uint8_t>(Listed() + 1)};
+    values.width.Set(width, scale);
+    values.spacing.Set(spacing, scale);
+    return list_.emplace_back(std::make_shared<Column>(OriginOfChild(), values));
+}
+
+void Columns::Auto(std::int32_t count, double spacing) {
+    Length converted{0};
+    converted.Set(spacing, OpenForChange());
+    list_.clear();
+    values_.automatic = count;
+    values_.spacing = converted;
+}
+
+void Columns::Clear() {
+    OpenForChange();
+    list_.clear();
+    values_ = {.lineBetween = values_.lineBetween};
+}
+
+std::int32_t Columns::Count() const noexcept { return list_.empty() ? values_.automatic : Listed(); }
+
+std::shared_ptr<Column> Columns::Items(std::int32_t index) const {
+    if (!InRange(index, 0, MostColumns)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
+    if (list_.empty()) return nullptr;
+    if (!InRange(index, 1, Listed())) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
+    return ItemAt(index);
+}
+
+// The length in twips is assigned again as a length in the document's unit, and so on. Hosts know how that ends.
+void Columns::SetSpacing(double length) {
+    const dwScaleMode scale = OpenForChange();
+    for (;;) {
+        const double twips = ToShort(ToTwips(length, scale));
+        if (twips == length)
+            RaiseRuntimeError(dwRunOutOfStackSpace, "Columns.Spacing is set by Columns.Auto");
+        length = twips;
+    }
+}
+
+void EmitColumns(WritingContext& context, const Columns& columns) {
+    Output& output = context.output;
+    const std::int32_t count = columns.Count();
+    if (count < 1) return;
+    if (columns.Stored().lineBetween) output.WriteControlWord("linebetcol");
+    output.WriteControlWord("cols", count);
+    if (columns.Listed() == 0) {
+        output.WriteControlWord("colsx", columns.Stored().spacing.Twips());
+        return;
+    }
+    for (const auto& column : columns) {
+        const Column::Values& values = column->Stored();
+        output.WriteControlWord("colno", values.number);
+        output.WriteControlWord("colw", values.width.Twips());
+        if (values.number != count) output.WriteControlWord("colsr", values.spacing.Twips());
+    }
+}
+
+const Class& Column::Describe() {
+    using C = Column;
+    using V = Values;
+    static const Class description{"Column",
+                                   "{2936F283-8B8D-4957-BCA2-0081B04426EC}",
+                                   "{FECDAF70-75A5-43D4-9CFA-44AB61EF9363}",
+                                   {
+                                       PropertyOf<&C::Spacing, &C::SetSpacing, &V::spacing>("Spacing"),
+                                       PropertyOf<&C::Width, &C::SetWidth, &V::width>("Width"),
+                                   },
+                                   {}};
+    return description;
+}
+
+const Class& Columns::Describe() {
+    using C = Columns;
+    using V = Values;
+    static const Class description{
+        "Columns",
+        "{B72F9836-9192-4FEE-83D8-F8B9765EB17C}",
+        "{1B822AED-3874-4EB2-9AD0-30D658935DCA}",
+        {
+            PropertyOf<&C::Count>("Count"),
+            PropertyOf<&C::LineBetween, &C::SetLineBetween, &V::lineBetween>("LineBetween"),
+            PropertyOf<&C::Spacing, &C::SetSpacing>("Spacing"),
+        },
+        {
+            MethodOf<&C::Items>("Items", {{"Index"}}),
+            MethodOf<&C::Add>("Add", {{"Width"}, {"Spacing"}}),
+            MethodOf<&C::Auto>("Auto", {{"Count"}, {"Spacing"}}),
+            MethodOf<&C::Clear>("Clear"),
+        }};
+    return description;
+}
+
+}  // namespace draftwick

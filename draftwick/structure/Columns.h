@@ -1,0 +1,95 @@
+#pragma once
+
+#include <draftwick/base/Collection.h>
+
+namespace draftwick {
+
+/// One column of a section whose columns are listed. Refuses once the section is written ("Section"). Lengths are
+/// 16 bits in twips.
+class Column final : public Node {
+public:
+    struct Values {
+        std::uint8_t number = 1;
+        Length width{0};
+        Length spacing{0};
+    };
+
+    Column(const Origin& origin, const Values& values) : Node(origin), values_(values) {}
+
+    /// Default: what Add was told.
+    double Width() const { return Read(values_.width); }
+    void SetWidth(double length) { Change(values_.width, length); }
+
+    /// Between this column and the next; not written for the last. Default: what Add was told.
+    double Spacing() const { return Read(values_.spacing); }
+    void SetSpacing(double length) { Change(values_.spacing, length); }
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+    const Values& Stored() const noexcept { return values_; }
+
+private:
+    Values values_;
+};
+
+/// The columns that the text of a section runs in (RTF \cols): a number of equal columns, or a list of columns that
+/// each have a width. A new section has neither and writes nothing. Refuses once the section is written ("Section").
+class Columns final : public Part {
+public:
+    struct Values {
+        std::int32_t automatic = 0;
+        bool lineBetween = false;
+        Length spacing{360};
+    };
+
+    using Part::Part;
+
+    /// Adds a column to the list, which then counts and not what Auto said. Error 6 for the 256th.
+    std::shared_ptr<Column> Add(double width, double spacing);
+    /// Empties the list and asks for `count` equal columns with `spacing` between them.
+    void Auto(std::int32_t count, double spacing);
+    /// Back to no columns, with a Spacing of 360 twips. LineBetween stays.
+    void Clear();
+
+    /// The number of columns in the list or, when that is empty, the number that Auto asked for.
+    std::int32_t Count() const noexcept;
+    /// The column of the list at a position from 1; nothing when the list is empty. Error 6 outside of a byte,
+    /// error 9 when there is no such column.
+    std::shared_ptr<Column> Items(std::int32_t index) const;
+
+    /// Walks the list.
+    CollectionIterator<const Columns> begin() const { return {this, 1}; }
+    CollectionIterator<const Columns> end() const { return {this, Listed() + 1}; }
+
+    /// A line is drawn between the columns. Default false.
+    bool LineBetween() const { return values_.lineBetween; }
+    void SetLineBetween(bool on) { Change(values_.lineBetween, on); }
+
+    /// Between the columns that Auto made. Default 360 twips.
+    double Spacing() const { return Read(values_.spacing); }
+    /// Never succeeds and changes nothing: error 6, or error 28 where the length in twips is the same number (0, or
+    /// twips as the unit). Use Auto.
+    void SetSpacing(double length);
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+    // The rest is for the library.
+
+    const Values& Stored() const noexcept { return values_; }
+    /// How many columns the list has.
+    std::int32_t Listed() const noexcept { return static_cast<std::int32_t>(list_.size()); }
+    std::shared_ptr<Column> ItemAt(std::int32_t index) const {
+        return list_[static_cast<std::size_t>(index - 1)];
+    }
+
+private:
+    Values values_;
+    std::vector<std::shared_ptr<Column>> list_;
+};
+
+/// \linebetcol\cols2\colsx720, or for a list \cols2\colno1\colw4320\colsr720\colno2\colw2880.
+void EmitColumns(WritingContext& context, const Columns& columns);
+
+}  // namespace draftwick

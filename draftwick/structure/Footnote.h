@@ -1,0 +1,37 @@
+#pragma once
+
+#include <draftwick/content/Container.h>
+
+namespace draftwick {
+
+/// A footnote or endnote (RTF \footnote), with paragraphs and rows. It takes no more of them once its paragraph gets
+/// its next child or is closed ("Footnote").
+///
+/// The number of the note is the host's business: add Special::Footnote to the paragraph before the note and to the
+/// note's first paragraph. Nothing is written between the paragraphs of a note, so that they run together in a
+/// reader: one paragraph is what a note should have.
+class Footnote final : public RowContainer {
+public:
+    Footnote(const Origin& origin, bool isEndnote) : RowContainer(origin), isEndnote_(isEndnote) {}
+
+    /// Whether it is an endnote: what AddFootnote was told.
+    bool IsEndnote() const noexcept { return isEndnote_; }
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+    // The rest is for the library.
+
+    void WriteParagraphMark() override {}
+    void WriteRowMark() override {}
+    bool StandsInCell() const override;
+
+protected:
+    void WriteStart() override;
+    void WriteEnd() override;
+
+private:
+    bool isEndnote_;
+};
+
+}  // namespace draftwick

@@ -1,0 +1,53 @@
+#include <draftwick/base/Class.h>
+#include <draftwick/content/Container.h>
+#include <draftwick/structure/Cell.h>
+#include <draftwick/structure/TableWriter.h>
+
+#include <utility>
+
+namespace draftwick {
+
+std::shared_ptr<Cell> Table::AddCell() { return Add(currentCell_); }
+
+void Table::WriteStart() {
+    WritingContext& context = Writing();
+    const std::shared_ptr<Object> parent = RequireParent();
+    static_cast<RowContainer&>(*parent).WriteRowMark();
+    outerRow_ = std::exchange(context.layout.row, {});
+    EmitTableRow(context, values_, borders_.Find());
+}
+
+void Table::WriteEnd() {
+    WritingContext& context = Writing();
+    EndTableRow(context);
+    context.layout.row = outerRow_;
+}
+
+const Class& Table::Describe() {
+    using T = Table;
+    using V = Values;
+    static const Class description{
+        "Table",
+        "{D18F7EE2-208D-4313-ADCC-44B011B03408}",
+        "{0E64CEF8-4F48-400A-A818-FD553BCB25E8}",
+        {
+            PropertyOf<&T::CurrentCell>("CurrentCell"),
+            PropertyOf<&T::Emitted>("Emitted"),
+            PropertyOf<&T::Finished>("Finished"),
+            PropertyOf<&T::Align, &T::SetAlign, &V::align>("Align"),
+            PropertyOf<&T::Borders>("Borders"),
+            PropertyOf<&T::Frame>("Frame"),
+            PropertyOf<&T::Gap, &T::SetGap, &V::gap>("Gap"),
+            PropertyOf<&T::Header, &T::SetHeader, &V::header>("Header"),
+            PropertyOf<&T::Height, &T::SetHeight, &V::height>("Height"),
+            PropertyOf<&T::HeightExactly, &T::SetHeightExactly, &V::heightExactly>("HeightExactly"),
+            PropertyOf<&T::KeepTogether, &T::SetKeepTogether, &V::keepTogether>("KeepTogether"),
+            PropertyOf<&T::Left, &T::SetLeft, &V::left>("Left"),
+        },
+        {
+            MethodOf<&T::AddCell>("AddCell"),
+        }};
+    return description;
+}
+
+}  // namespace draftwick

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <draftwick/base/Content.h>
+#include <draftwick/base/WritingContext.h>
+#include <draftwick/format/Frame.h>
+#include <draftwick/structure/TableBorders.h>
+
+namespace draftwick {
+
+class Cell;
+
+/// How a row stands between the margins (RTF \trql and its siblings).
+enum dwTableAlign : std::int32_t { dwTALeft = 1, dwTACenter = 2, dwTARight = 3 };
+
+/// One row of a table (RTF \trowd); rows that are added one after the other make one table. Its settings are
+/// written when its first cell is added; from then on setters refuse ("Table"). Lengths are 16 bits in twips.
+class Table final : public Content {
+public:
+    struct Values {
+        Choice<"Table.Align", dwTALeft, dwTARight> align{dwTALeft};
+        // Together these two put the text of the first cell on the margin.
+        Length gap{95};
+        Length left{-95};
+        bool header = false;
+        Length height{0};
+        bool heightExactly = false;
+        bool keepTogether = false;
+    };
+
+    using Content::Content;
+
+    /// Adds a cell to the right of the others and closes the one before. Refuses once the row is finished ("Table").
+    /// Error 6 when the cell before would end beyond 32767 twips: it can still be made narrower.
+    std::shared_ptr<Cell> AddCell();
+    /// The cell that was added last; empty before the first.
+    std::shared_ptr<Cell> CurrentCell() const { return currentCell_; }
+
+    /// Default dwTALeft.
+    dwTableAlign Align() const { return values_.align; }
+    void SetAlign(dwTableAlign align) { Change(values_.align, align); }
+
+    /// Half of the space between the texts of two cells (RTF \trgaph). Default 95 twips.
+    double Gap() const { return Read(values_.gap); }
+    void SetGap(double length) { Change(values_.gap, length); }
+
+    /// Where the row begins, from the left margin. It does not move the right edges of the cells. Default -95 twips.
+    double Left() const { return Read(values_.left); }
+    void SetLeft(double length) { Change(values_.left, length); }
+
+    /// The row is repeated at the top of each page that its table goes on to. Default false.
+    bool Header() const { return values_.header; }
+    void SetHeader(bool on) { Change(values_.header, on); }
+
+    /// Default 0: as high as its text.
+    double Height() const { return Read(values_.height); }
+    void SetHeight(double length) { Change(values_.height, length); }
+    /// Whether Height is the height of the row, not the least height. Default false.
+    bool HeightExactly() const { return values_.heightExactly; }
+    void SetHeightExactly(bool on) { Change(values_.heightExactly, on); }
+
+    /// The row stands on one page. Default false.
+    bool KeepTogether() const { return values_.keepTogether; }
+    void SetKeepTogether(bool on) { Change(values_.keepTogether, on); }
+
+    std::shared_ptr<TableBorders> Borders() { return Share(borders_.Get(*this)); }
+    /// Where the row stands on the page; all rows of a table should say the same.
+    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(*this)); }
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+
+    // The rest is for the library.
+
+    const draftwick::Frame* OwnFrame() const noexcept { return frame_.Find(); }
+
+protected:
+    void WriteStart() override;
+    void WriteEnd() override;
+
+private:
+    Values values_;
+    Lazy<TableBorders> borders_;
+    Lazy<draftwick::Frame> frame_;
+    std::shared_ptr<Cell> currentCell_;
+    RowState outerRow_;  // where the writers stood in the row around this one, which has it in a cell's note
+};
+
+}  // namespace draftwick

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <draftwick/format/Border.h>
+
+namespace draftwick {
+
+/// Which line of a row a border is.
+enum dwTableBorder : std::int32_t {
+    dwTBorderTop = 1,
+    dwTBorderLeft = 2,
+    dwTBorderRight = 3,
+    dwTBorderBottom = 4,
+    dwTBorderHorizontal = 5,  ///< between this row and its neighbours
+    dwTBorderVertical = 6,    ///< between the cells
+};
+
+struct TableBorderValues {
+    BorderStyle style{dwBSNone};
+    Points width{1};
+    std::int32_t color = 0;
+};
+
+/// One of the borders of a row (RTF \trbrdrt and its siblings). Refuses once the row is written ("Table").
+class TableBorder final : public Border<TableBorderValues> {
+public:
+    TableBorder(Object& table, dwTableBorder) : Border(table) {}
+
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+};
+
+/// The borders of a row.
+class TableBorders final : public BorderCollection<TableBorder, dwTableBorder, 6> {
+public:
+    using BorderCollection::BorderCollection;
+    static const Class& Describe();
+    const Class& Description() const override { return Describe(); }
+};
+
+}  // namespace draftwick

@@ -1,0 +1,292 @@
+#include "tests/drawing/Drawn.h"
+#include "tests/support/PictureFiles.h"
+#include "tests/support/TempFolder.h"
+
+#include <system_error>
+
+namespace draftwick::test {
+
+namespace {
+
+std::string Hex(std::string_view bytes) {
+    std::string digits;
+    for (const char c : bytes) {
+        for (const int digit : {static_cast<unsigned char>(c) / 16, c & 15}) {
+            digits += "0123456789ABCDEF"[digit];
+        }
+    }
+    return digits;
+}
+
+/// Two inches by one, of 88 bytes.
+const std::string Emf = MakeEmf(0, 0, 5080, 2540);
+/// 100 bytes: only the header of a JPEG is looked at.
+const std::string Jpeg = [] {
+    std::string bytes = MakeJpeg(8, 8, 1, 96, 96);
+    bytes.resize(100);
+    return bytes;
+}();
+const Indices Checks{3, 2, {0, 1, 2, 3, 4, 7}};
+
+/// A document whose first paragraph has one shape.
+struct WithShape : TestDocument {
+    std::shared_ptr<Section> section;
+    std::shared_ptr<Shape> shape;
+    explicit WithShape(dwShapeKind kind = dwSKPictureFrame) : TestDocument(dwTwips) {
+        section = document->AddSection();
+        shape = section->AddParagraph()->AddShape(kind);
+        files->Put("a.emf", Emf);
+        files->Put("a.jpeg", Jpeg);
+    }
+    std::vector<std::string> Temporary() const {
+        std::vector<std::string> names = files->Names();
+        std::erase_if(names, [](const std::string& name) { return name.find("~DWGC") == name.npos; });
+        return names;
+    }
+};
+
+std::string FillOf(int type) {
+    const std::string number = std::to_string(type);
+    return "<fFilled=1><fillType=" + number + "><fillType=" + number
+           + "><fillColor=0><fillBackColor=0><fillToTop=65536><fillToLeft=65536><fillToRight=0><fillToBottom="
+             "0>";
+}
+
+std::string Property(const std::string& name, const std::string& data) {
+    return R"({\sp{\sn )" + name + R"(}{\sv{\pict)" + data + "}}}";
+}
+
+}  // namespace
+
+TEST(Picture, StandsInThePropertyThatItIsFor) {
+    const std::string emf = R"(\emfblip )" + Hex(Emf);
+    const std::string jpeg = R"(\jpegblip )" + Hex(Jpeg);
+    struct {
+        dwShapeKind kind;
+        dwShapeFillStyle style;
+        const char* fill;
+        dwShapeLineTexture texture;
+        const char* line;
+        std::string fillWords, pictures;
+    } const cases[]{
+        // A frame has no other pictures.
+        {dwSKPictureFrame, dwSFSNone, "a.jpeg", dwSLTPicture, "none.jpg", "", Property("pib", jpeg)},
+        {dwSKRectangle, dwSFSPattern, "a.emf", dwSLTNone, "", FillOf(1), Property("fillBlip", emf)},
+        {dwSKRectangle, dwSFSPicTile, "a.jpeg", dwSLTPattern, "a.emf", FillOf(2),
+         Property("fillBlip", jpeg) + Property("lineFillBlip", emf)},
+        {dwSKRectangle, dwSFSPicStretch, "", dwSLTPicture, "a.jpeg", FillOf(3),
+         Property("lineFillBlip", jpeg)},
+        // Styles that have no picture.
+        {dwSKRectangle, dwSFSSolid, "none.jpg", dwSLTNone, "none.jpg", FillOf(0), ""},
+    };
+    for (const auto& [kind, style, fill, texture, line, fillWords, pictures] : cases) {
+        WithShape built(kind);
+        Apply({{"Style", style}, {"Picture", fill}}, *built.shape->Fill());
+        Apply({{"Texture", texture}, {"Picture", line}}, *built.shape->Line());
+        Drawn expected{.fill = fillWords, .shadow = pictures};
+        ReplaceAll(expected.head, "Type=1>", kind == dwSKRectangle ? "Type=1>" : "Type=75>");
+        ReplaceAll(expected.line, "<lineType=0>", "<lineType=" + std::to_string(texture - 1) + ">");
+        EXPECT_EQ(Pairs(built.Body()), "\\pard~" + expected.All()) << fill << " and " << line;
+    }
+}
+
+// The space that Words leaves out stands in the file.
+TEST(Picture, IsWrittenInTextsOf64Bytes) {
+    WithShape built;
+    built.shape->Fill()->SetPicture("a.jpeg");
+    const std::string digits = Hex(Jpeg);
+    EXPECT_NE(built.Finish().find("{\\sv {\\pict\\jpegblip " + digits.substr(0, 128) + "\r\n"
+                                  + digits.substr(128) + "}}}"),
+              std::string::npos);
+}
+
+TEST(Picture, LosesThePlaceableHeaderOfAMetafile) {
+    const std::string wmf = MakeWmf(0, 0, 10, 10, 96);
+    for (const std::size_t size : {wmf.size(), std::size_t{23}, std::size_t{22}}) {
+        WithShape built;
+        built.files->Put("a.wmf", wmf.substr(0, size));
+        built.shape->Fill()->SetPicture("a.wmf");
+        const std::string data = Hex(std::string_view{wmf}.substr(22, size - 22));
+        EXPECT_EQ(Between(built.Body(), "\\pict\\wmetafile8", "}}}"), data.empty() ? "" : " " + data);
+    }
+}
+
+TEST(InlinePicture, IsScaledByNumbersThatAreTakenAsTwips) {
+    struct {
+        dwScaleMode scale;
+        double width, height;
+        const char* file;
+        std::string data;
+    } const cases[]{
+        {dwTwips, 2880, 720, "a.emf", R"(\emfblip\picscalex100\picscaley50 )" + Hex(Emf)},
+        // One inch is taken as one twip: 1.76 HIMETRIC, so 2, of 5080 and 2540. Half an inch: ties to even.
+        {dwInches, 1, 1, "a.emf", R"(\emfblip\picscalex0\picscaley0 )" + Hex(Emf)},
+        {dwInches, 0.5, 1, "a.emf", R"(\emfblip )" + Hex(Emf)},
+        {dwPoints, 720, 360, "a.emf", R"(\emfblip\picscalex25\picscaley25 )" + Hex(Emf)},
+        {dwTwips, 720, 0, "flat.emf", R"(\emfblip )" + Hex(MakeEmf(0, 0, 0, 0))},
+        {dwTwips, -720, 720, "a.emf", R"(\emfblip )" + Hex(Emf)},
+    };
+    for (const auto& [scale, width, height, file, data] : cases) {
+        WithShape built;
+        built.files->Put("flat.emf", MakeEmf(0, 0, 0, 0));
+        built->SetScaleMode(scale);
+        Apply({{"InLine", true}, {"FlipH", true}, {"Width", width}, {"Height", height}}, *built.shape);
+        built.shape->Fill()->SetPicture(file);
+        AddText(*built.section, "z");
+        EXPECT_EQ(Pairs(built.Body()),
+                  R"(\pard~{\pict{\*\picprop\shplid1<ShapeType=75><FFlipH=1>}})" + data + R"(\pard~{z})");
+    }
+}
+
+TEST(InlinePicture, CanHoldTextBeforeItsData) {
+    WithShape built;
+    built.shape->SetInLine(true);
+    built.shape->Fill()->SetPicture("a.emf");
+    AddText(*built.shape, "a");
+    std::error_code error;
+    built.files->Delete("a.emf", error);  // it is open already
+    built->SetScaleMode(dwInches);        // what counts is the unit when the shape ends
+    EXPECT_EQ(Pairs(built.Body()), R"(\pard~{\pict{\*\picprop\shplid1<ShapeType=75>}{\shptxt\pard~{a}}})"
+                                   R"(\emfblip\picscalex0\picscaley0 )"
+                                       + Hex(Emf));
+}
+
+// As every record, this one starts with its kind, 1, and after the rectangles of its header comes " EMF".
+TEST(Picture, OfPixelsBecomesAMetafile) {
+    const std::string files[2][2]{{"a.bmp", MakeBmp(Checks, {.bits = 4})}, {"a.gif", MakeGif(Checks, {})}};
+    for (const bool inLine : {false, true}) {
+        for (const auto& [name, content] : files) {
+            WithShape built;
+            built.files->Put(name, content);
+            built.files->Put("/temp/~DWGC1.tmp", "another's");
+            built.shape->SetInLine(inLine);
+            built.shape->Fill()->SetPicture(name);
+            const std::string expected = inLine ? R"(}}\emfblip\picscalex)" : R"({\pict\emfblip )";
+            const std::string words = built.Body();
+            const std::string data = Between(words.substr(words.find(expected)) + "}", " ", "}");
+            EXPECT_EQ(data.substr(0, 8), "01000000") << name;
+            EXPECT_EQ(data.substr(32, 16), "0200000001000000") << name;  // the last pixel of 3 by 2
+            EXPECT_EQ(data.substr(80, 8), "20454D46") << name;
+            EXPECT_EQ(Hex(Le32(static_cast<std::uint32_t>(data.size() / 2))), data.substr(96, 8)) << name;
+            EXPECT_EQ(built.Temporary(), std::vector<std::string>{"/temp/~DWGC1.tmp"});
+            EXPECT_EQ(built.files->OpenFiles(), 0);
+        }
+    }
+}
+
+// A picture that cannot be written is refused before the first byte of its shape: the host mends it and goes on.
+TEST(Picture, IsJudgedBeforeItsShape) {
+    const std::string notFound = "X107 Picture '";
+    struct {
+        const char* file;
+        std::string content;  // empty: no such file
+        std::string refusal;
+    } const cases[]{
+        {"none.jpg", "", notFound + "none.jpg' not found."},
+        {"", "", notFound + "' not found."},
+        {"photo.JPG", Jpeg, "X105 Unsupported File Type: photo.JPG"},
+        {"xjpeg", Jpeg, "X105 Unsupported File Type: xjpeg"},
+        {"a.jpg.", Jpeg, "X105 Unsupported File Type: a.jpg."},
+        {"b.jpg", Emf, "481"},
+        {"b.emf", Jpeg, "481"},
+        {"b.gif", MakeBmp(Checks, {}), "481"},
+        {"b.bmp", MakeGif(Checks, {}), "481"},
+        {"c.bmp", MakeBmp(Checks, {}).substr(0, 60), "481"},
+        {"c.gif", MakeGif(Checks, {}).substr(0, 20), "481"},
+        {"flat.emf", MakeEmf(0, 0, 0, 0), "11"},
+        {"flat.wmf", std::string(40, '\1'), "11"},
+    };
+    for (const auto& [file, content, refusal] : cases) {
+        WithShape built;
+        if (!content.empty()) built.files->Put(file, content);
+        built.shape->SetInLine(true);
+        built.shape->Fill()->SetPicture(file);
+        const std::string actual = Refusal([&] { built.section->AddParagraph(); });
+        EXPECT_EQ(actual.substr(0, refusal.size()), refusal) << file;
+        EXPECT_FALSE(built.shape->Emitted());
+        EXPECT_EQ(Refusal([&] { built->Finish(); }), actual);
+        built.shape->Fill()->SetPicture("a.emf");
+        AddText(*built.section, "z");
+        EXPECT_EQ(Pairs(built.Body()), R"(\pard~{\pict{\*\picprop\shplid1<ShapeType=75>}}\emfblip)"
+                                       R"(\picscalex50\picscaley100 )"
+                                           + Hex(Emf) + R"(\pard~{z})");
+        EXPECT_EQ(built.Temporary(), std::vector<std::string>{});
+    }
+}
+
+TEST(Picture, WithTheLineRefusedLeavesNoFileOfTheFill) {
+    WithShape built(dwSKRectangle);
+    built.files->Put("a.bmp", MakeBmp(Checks, {}));
+    Apply({{"Style", dwSFSPicTile}, {"Picture", "a.bmp"}}, *built.shape->Fill());
+    Apply({{"Texture", dwSLTPicture}, {"Picture", "none.gif"}}, *built.shape->Line());
+    EXPECT_EQ(RefusalNumber([&] { built.shape->AddParagraph(); }), dwErrPictureFileNotFound);
+    EXPECT_EQ(built.Temporary(), std::vector<std::string>{});
+    EXPECT_EQ(built.files->OpenFiles(), 1);  // the body
+}
+
+// In a real file system: a folder, a file that cannot be read, no folder for the converted picture.
+TEST(Picture, ReportsWhatTheFileSystemSays) {
+    const TempFolder folder;
+    platform::Platform services = platform::SystemPlatform();
+    const auto environment = std::make_shared<FakeEnvironment>();
+    environment->tempFolder = folder / "none";
+    services.environment = environment;
+    auto document = Document::Create(services);
+    document->SetTempPath(folder.Path());
+    document->SetFilename(folder / "a.rtf");
+    auto paragraph = document->AddSection()->AddParagraph();
+    auto shape = paragraph->AddShape(dwSKPictureFrame);
+    std::filesystem::create_directory(folder / "folder.jpg");
+    shape->Fill()->SetPicture(folder / "folder.jpg");
+    EXPECT_EQ(RefusalNumber([&] { document->Finish(); }), dwErrPictureFileNotFound);
+    WriteFile(folder / "a.bmp", MakeBmp(Checks, {}));
+    shape->Fill()->SetPicture(folder / "a.bmp");
+    EXPECT_THROW(document->Finish(), std::system_error);
+    environment->tempFolder = folder.Path();
+    document->Finish();
+    EXPECT_EQ(CheckFile(ReadFile(folder / "a.rtf")), "");
+    const std::filesystem::directory_iterator left(folder.Path());
+    EXPECT_EQ(std::distance(begin(left), end(left)), 3);  // folder.jpg, a.bmp, a.rtf
+}
+
+// Every operation on files fails once. Whichever it is, the host hears of it, can go on, and has one whole document
+// and no other file.
+TEST(Picture, SurvivesAFailureAtEveryOperation) {
+    for (int operation = 1;; ++operation) {
+        WithShape built(dwSKRectangle);
+        built.files->Put("a.bmp", MakeBmp(Checks, {}));
+        built.files->Put("long.emf", Emf + std::string(100'000, 'x'));
+        Apply({{"Style", dwSFSPicTile}, {"Picture", "a.bmp"}}, *built.shape->Fill());
+        Apply({{"Texture", dwSLTPicture}, {"Picture", "long.emf"}}, *built.shape->Line());
+        const int before = built.files->Operations();
+        built.files->FailAt(before + operation, std::errc::io_error);
+        int failures = 0;
+        const auto persist = [&](const std::function<void()>& action) {
+            for (int attempt = 0; attempt < 3; ++attempt) {
+                try {
+                    return action();
+                } catch (const std::system_error& error) {
+                    EXPECT_EQ(error.code(), std::errc::io_error) << operation;
+                    ++failures;
+                }
+            }
+        };
+        persist([&] { AddText(*built.shape, "a"); });
+        persist([&] {
+            auto frame = built.section->AddParagraph()->AddShape(dwSKPictureFrame);
+            frame->SetInLine(true);
+            frame->Fill()->SetPicture("a.bmp");
+        });
+        persist([&] { built->Finish(); });
+        if (built.files->Operations() < before + operation) break;
+        ASSERT_LT(operation, 1000);
+        // Only of a temporary file that cannot be deleted the host does not hear.
+        EXPECT_EQ(failures, built.Temporary().empty() ? 1 : 0) << operation;
+        const std::string bytes = built.files->Bytes(built->ActualFileName());
+        EXPECT_EQ(CheckFile(bytes), "") << operation;
+        EXPECT_NE(bytes.find("\\shptxt"), bytes.npos) << operation;
+        EXPECT_EQ(built.files->OpenFiles(), 0) << operation;
+    }
+}
+
+}  // namespace draftwick::test
