@@ -1,6 +1,6 @@
-#include <draftwick/base/CodePage.h>
 #include <draftwick/base/Output.h>
 #include <draftwick/base/Utf8.h>
+#include <draftwick/platform/CodePage.h>
 
 #include <algorithm>
 #include <charconv>
@@ -82,7 +82,7 @@ void Output::AppendToLine(std::string_view ascii) {
 void Output::AppendEncoded(std::string_view text) {
     std::size_t at = 0;
     while (at < text.size()) {
-        if (length_ == Room) MakeRoom();
+        if (Room - length_ < platform::LongestAnsiCharacter) MakeRoom();
         const std::size_t run =
             SkipAscii(text.substr(0, std::min(text.size(), at + Room - length_)), at) - at;
         if (run > 0) {
@@ -91,7 +91,7 @@ void Output::AppendEncoded(std::string_view text) {
             length_ += run;
             at += run;
         } else {
-            line_[length_++] = ToAnsi(DecodeUtf8(text, at));
+            length_ += platform::EncodeAnsi(DecodeUtf8(text, at), line_ + length_);
         }
     }
 }

@@ -1,9 +1,9 @@
 #include "tests/support/Errors.h"
 
-#include <draftwick/base/CodePage.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Text.h>
 #include <draftwick/base/Units.h>
+#include <draftwick/platform/CodePage.h>
 #include <draftwick/platform/Platform.h>
 
 #include <gtest/gtest.h>
@@ -184,8 +184,11 @@ TEST(CodePage, IsWindows1252WithItsHolesAndNoBestFit) {
     } cases[] = {{U'A', 'A'},    {0x7F, 0x7F},  {0x80, '?'},  {0x81, 0x81},  {0x8D, 0x8D},  {0x8F, 0x8F},
                  {0x90, 0x90},   {0x9D, 0x9D},  {0x92, '?'},  {0xA0, 0xA0},  {0xFF, 0xFF},  {0x20AC, 0x80},
                  {0x2019, 0x92}, {0x178, 0x9F}, {0x100, '?'}, {0xFF21, '?'}, {0xFFFD, '?'}, {0x1F600, '?'}};
-    for (const auto& [character, byte] : cases)
-        EXPECT_EQ(ToAnsi(character), static_cast<char>(byte)) << static_cast<std::uint32_t>(character);
+    for (const auto& [character, byte] : cases) {
+        char bytes[platform::LongestAnsiCharacter];
+        ASSERT_EQ(platform::EncodeAnsi(character, bytes), 1U);
+        EXPECT_EQ(bytes[0], static_cast<char>(byte)) << static_cast<std::uint32_t>(character);
+    }
 }
 
 }  // namespace draftwick::test

@@ -1,9 +1,9 @@
-#include <draftwick/base/CodePage.h>
+#include <draftwick/platform/CodePage.h>
 
 #include <algorithm>
 #include <iterator>
 
-namespace draftwick {
+namespace draftwick::platform {
 
 namespace {
 
@@ -16,10 +16,14 @@ constexpr char16_t High[] = {
 
 }  // namespace
 
-char ToAnsi(char32_t character) noexcept {
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
+std::size_t EncodeAnsi(char32_t character, char* bytes) noexcept {
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
+        *bytes = static_cast<char>(character);
+        return 1;
+    }
     const auto* found = std::find(std::begin(High), std::end(High), character);
-    return found == std::end(High) ? '?' : static_cast<char>(0x80 + (found - std::begin(High)));
+    *bytes = found == std::end(High) ? '?' : static_cast<char>(0x80 + (found - std::begin(High)));
+    return 1;
 }
 
-}  // namespace draftwick
+}  // namespace draftwick::platform
