@@ -18,9 +18,6 @@ enum class RegistryType : std::uint32_t {
     Number = 4,  ///< 32 bits, the lowest byte first
 };
 
-/// What a key is opened for.
-enum class RegistryAccess { Read, Write };
-
 /// How long a name can be to be listed, in characters, with a terminating zero.
 inline constexpr std::size_t RegistryNameRoom = 255;
 
@@ -52,9 +49,9 @@ class RegistryStore {
 public:
     virtual ~RegistryStore() = default;
 
-    /// Opens a key that exists; nullptr and the result code otherwise.
+    /// Opens a key that exists, for reading; nullptr and the result code otherwise.
     virtual std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::string& path,
-                                              RegistryAccess access, std::error_code& error) = 0;
+                                              std::error_code& error) = 0;
     /// Opens a key for writing; it and the keys above it are made when they are not there.
     virtual std::unique_ptr<RegistryKey> Create(RegistryRoot root, const std::string& path,
                                                 std::error_code& error) = 0;

@@ -13,7 +13,6 @@ namespace draftwick {
 
 namespace {
 
-using platform::RegistryAccess;
 using platform::RegistryKey;
 using platform::RegistryType;
 
@@ -63,7 +62,7 @@ std::string Registry::KeyPath(std::string_view section) const {
 
 std::unique_ptr<RegistryKey> Registry::OpenKey(std::string_view section) const {
     std::error_code ignored;
-    return store_.Open(root_, KeyPath(section), RegistryAccess::Read, ignored);
+    return store_.Open(root_, KeyPath(section), ignored);
 }
 
 std::unique_ptr<RegistryKey> Registry::CreateKey(std::string_view section) const {
@@ -163,7 +162,7 @@ void Registry::DeleteSection(std::string_view section) const {
     if (open == nullptr) return;
     // A key that has subkeys cannot be deleted: the deepest go first.
     for (const std::string& name : ReadAllSubKeys(section)) {
-        DeleteSection(std::string{section} + "\\" + name);
+        DeleteSection(section.empty() ? name : std::string{section} + "\\" + name);
     }
     open->DeleteKey(std::string{section});
 }

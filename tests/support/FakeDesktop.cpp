@@ -82,7 +82,7 @@ std::string FakeDesktop::TakeLog() {
 }
 
 std::unique_ptr<platform::RegistryKey> FakeDesktop::Open(platform::RegistryRoot root, const std::string& path,
-                                                         platform::RegistryAccess, std::error_code& error) {
+                                                         std::error_code& error) {
     error.clear();
     const auto found = settings.find({root, path});
     if (found != settings.end()) return std::make_unique<FakeKey>(found->second);

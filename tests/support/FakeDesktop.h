@@ -41,7 +41,6 @@ public:
     std::int32_t lastTask = 100;  // counted up before use
 
     std::unique_ptr<platform::RegistryKey> Open(platform::RegistryRoot root, const std::string& path,
-                                                platform::RegistryAccess access,
                                                 std::error_code& error) override;
     std::unique_ptr<platform::RegistryKey> Create(platform::RegistryRoot root, const std::string& path,
                                                   std::error_code& error) override;

@@ -37,7 +37,8 @@ protected:
     std::string StoredText(const std::string& name) const {
         RegistryType type{};
         std::string bytes;
-        EXPECT_FALSE(Key()->QueryValue(name, type, bytes));
+        std::error_code error;
+        EXPECT_FALSE(store->Open(registry.Root(), registry.Path(), error)->QueryValue(name, type, bytes));
         EXPECT_EQ(type, RegistryType::Text);
         return bytes;
     }
@@ -149,7 +150,7 @@ TEST_F(Settings, ListAndDeleteWhatTheyHold) {
     EXPECT_EQ(registry.ReadLong("Sections", "Second", 0), 2);
     registry.DeleteSection("");
     std::error_code error;
-    EXPECT_EQ(store->Open(registry.Root(), registry.Path(), platform::RegistryAccess::Read, error), nullptr);
+    EXPECT_EQ(store->Open(registry.Root(), registry.Path(), error), nullptr);
     EXPECT_EQ(error, std::errc::no_such_file_or_directory);
 }
 

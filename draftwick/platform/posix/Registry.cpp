@@ -190,16 +190,14 @@ private:
 
 class Store final : public RegistryStore {
 public:
-    std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::string& path, RegistryAccess access,
+    std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::string& path,
                                       std::error_code& error) override {
         error.clear();
         RegistryTree tree;
         if (root == RegistryRoot::CurrentUser) {
             error = ReadUserTree(SettingsFolder(), tree);
-        } else if (access == RegistryAccess::Read) {
-            tree = MachineTree();
         } else {
-            error = Failure(std::errc::permission_denied);
+            tree = MachineTree();
         }
         if (error) return nullptr;
         RegistryTree* key = tree.Find(path);
@@ -224,7 +222,7 @@ public:
             tree.Make(path);
             return std::error_code{};
         });
-        return error ? nullptr : Open(root, path, RegistryAccess::Write, error);
+        return error ? nullptr : Open(root, path, error);
     }
 };
 

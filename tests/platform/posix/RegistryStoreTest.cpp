@@ -13,7 +13,6 @@ namespace draftwick::test {
 
 namespace {
 
-using platform::RegistryAccess;
 using platform::RegistryRoot;
 
 class Store : public testing::Test {
@@ -127,8 +126,7 @@ TEST_F(Store, AnswersForTheMachineWithTheDesktopsViewer) {
     registry.DeleteSection("command");
     EXPECT_EQ(command(), "soffice --view \"%1\"");
     std::error_code error;
-    EXPECT_EQ(store->Open(RegistryRoot::LocalMachine, registry.Path(), RegistryAccess::Write, error),
-              nullptr);
+    EXPECT_EQ(store->Create(RegistryRoot::LocalMachine, registry.Path(), error), nullptr);
     EXPECT_EQ(error, std::errc::permission_denied);
 }
 
