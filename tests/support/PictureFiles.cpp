@@ -1,12 +1,7 @@
 #include "tests/support/PictureFiles.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
-
-#include <gif_lib.h>
-#include <jpeglib.h>
 
 namespace draftwick::test {
 
@@ -81,72 +76,102 @@ std::string MakeBmp(const Indices& indices, const BmpForm& form) {
     return "BM" + Le32(0) + Le32(0) + Le32(static_cast<std::uint32_t>(claimed)) + front + pixels;
 }
 
+namespace {
+
+/// Codes of a few bits each, the lowest bit first, as GIF has them.
+class CodeWriter {
+public:
+    void Put(std::uint32_t code, int bits) {
+        pending_ |= code << count_;
+        for (count_ += bits; count_ >= 8; count_ -= 8, pending_ >>= 8)
+            bytes_ += static_cast<char>(pending_ & 0xFF);
+    }
+    /// All codes in blocks of up to 255 bytes, and the empty block that ends them.
+    std::string Blocks() {
+        if (count_ > 0) Put(0, 8 - count_);
+        std::string blocks;
+        for (std::size_t at = 0; at < bytes_.size(); at += 255) {
+            const std::string block = bytes_.substr(at, 255);
+            blocks += static_cast<char>(block.size()) + block;
+        }
+        return blocks + '\0';
+    }
+
+private:
+    std::string bytes_;
+    std::uint32_t pending_ = 0;
+    int count_ = 0;
+};
+
+std::string Be16(int value) {
+    return {static_cast<char>(value >> 8 & 0xFF), static_cast<char>(value & 0xFF)};
+}
+
+/// A segment of a JPEG: marker, length and content.
+std::string Segment(int marker, const std::string& content) {
+    return std::string{'\xFF', static_cast<char>(marker)} + Be16(static_cast<int>(content.size()) + 2)
+           + content;
+}
+
+}  // namespace
+
 std::string MakeGif(const Indices& frame, const GifForm& form) {
-    std::string bytes;
-    const auto write = [](GifFileType* gif, const GifByteType* data, int size) {
-        static_cast<std::string*>(gif->UserData)
-            ->append(reinterpret_cast<const char*>(data), static_cast<std::size_t>(size));
-        return size;
+    std::string palette;
+    for (const std::uint32_t rgb : eightColours) {
+        for (const int shift : {16, 8, 0}) palette += static_cast<char>(rgb >> shift & 0xFF);
+    }
+    const auto size = [](int width, int height) {
+        return Le16(static_cast<std::uint32_t>(width)) + Le16(static_cast<std::uint32_t>(height));
     };
-    std::array<GifColorType, 8> colours{};
-    for (std::size_t i = 0; i < colours.size(); ++i) {
-        const std::uint32_t rgb = eightColours[i];
-        colours[i] = {static_cast<GifByteType>(rgb >> 16), static_cast<GifByteType>(rgb >> 8 & 0xFF),
-                      static_cast<GifByteType>(rgb & 0xFF)};
-    }
-    ColorMapObject* palette = GifMakeMapObject(8, colours.data());
-    GifFileType* gif = EGifOpen(&bytes, write, nullptr);
-    EGifSetGifVersion(gif, true);
-    EGifPutScreenDesc(gif, form.screenWidth, form.screenHeight, 8, 0, form.localPalette ? nullptr : palette);
+    constexpr std::uint32_t ThreeBits = 2;  // a palette of 2 to the 3rd colours
+    constexpr std::uint32_t HasPalette = 0x80 | ThreeBits;
+    std::string bytes = "GIF89a" + size(form.screenWidth, form.screenHeight)
+                        + static_cast<char>(form.localPalette ? ThreeBits : HasPalette) + std::string(2, '\0')
+                        + (form.localPalette ? "" : palette);
     if (form.transparent >= 0) {
-        const GraphicsControlBlock control{0, false, 0, form.transparent};
-        std::array<GifByteType, 4> extension{};
-        EGifGCBToExtension(&control, extension.data());
-        EGifPutExtension(gif, GRAPHICS_EXT_FUNC_CODE, 4, extension.data());
+        bytes += "!\xF9\x04\x01" + std::string(2, '\0') + static_cast<char>(form.transparent) + '\0';
     }
-    EGifPutImageDesc(gif, form.left, form.top, frame.width, frame.height, form.interlaced,
-                     form.localPalette ? palette : nullptr);
-    std::vector<std::uint8_t> pixels = frame.pixels;
+    bytes += "," + size(form.left, form.top) + size(frame.width, frame.height)
+             + static_cast<char>((form.localPalette ? HasPalette : 0) | (form.interlaced ? 0x40 : 0))
+             + (form.localPalette ? palette : "") + '\x03';
+    // The table of codes is cleared before it grows out of four bits, so that it never matters.
+    CodeWriter codes;
+    constexpr std::uint32_t Clear = 8;
+    int written = 0;
     const auto putRows = [&](int first, int step) {
-        for (int y = first; y < frame.height; y += step)
-            EGifPutLine(gif, pixels.data() + y * frame.width, frame.width);
+        for (int y = first; y < frame.height; y += step) {
+            for (int x = 0; x < frame.width; ++x) {
+                if (written++ % 4 == 0) codes.Put(Clear, 4);
+                codes.Put(frame.pixels.at(static_cast<std::size_t>(y * frame.width + x)), 4);
+            }
+        }
     };
     if (form.interlaced) {
         for (const auto& [first, step] : {std::pair(0, 8), {4, 8}, {2, 4}, {1, 2}}) putRows(first, step);
     } else {
         putRows(0, 1);
     }
-    EGifCloseFile(gif, nullptr);
-    GifFreeMapObject(palette);
-    return bytes;
+    codes.Put(Clear + 1, 4);
+    return bytes + codes.Blocks() + ";";
 }
 
 std::string MakeJpeg(int width, int height, int unit, int densityX, int densityY) {
-    jpeg_compress_struct info{};
-    jpeg_error_mgr errors{};
-    info.err = jpeg_std_error(&errors);
-    jpeg_create_compress(&info);
-    unsigned char* data = nullptr;
-    unsigned long size = 0;
-    jpeg_mem_dest(&info, &data, &size);
-    info.image_width = static_cast<JDIMENSION>(width);
-    info.image_height = static_cast<JDIMENSION>(height);
-    info.input_components = 1;
-    info.in_color_space = JCS_GRAYSCALE;
-    jpeg_set_defaults(&info);
-    info.write_JFIF_header = unit >= 0 ? TRUE : FALSE;
-    info.density_unit = static_cast<UINT8>(std::max(unit, 0));
-    info.X_density = static_cast<UINT16>(densityX);
-    info.Y_density = static_cast<UINT16>(densityY);
-    jpeg_start_compress(&info, TRUE);
-    std::vector<JSAMPLE> row(static_cast<std::size_t>(width), 128);
-    JSAMPROW rows = row.data();
-    while (info.next_scanline < info.image_height) jpeg_write_scanlines(&info, &rows, 1);
-    jpeg_finish_compress(&info);
-    std::string bytes(reinterpret_cast<char*>(data), size);
-    jpeg_destroy_compress(&info);
-    std::free(data);
-    return bytes;
+    std::string bytes = "\xFF\xD8";
+    if (unit >= 0) {
+        bytes += Segment(0xE0, "JFIF" + std::string{'\0', 1, 1, static_cast<char>(unit)} + Be16(densityX)
+                                   + Be16(densityY) + std::string(2, '\0'));
+    }
+    bytes += Segment(0xC0, "\x08" + Be16(height) + Be16(width) + std::string{1, 1, 0x11, 0});
+    bytes += Segment(0xDB, std::string(1, '\0') + std::string(64, 1));
+    // Two tables of one code, "0", each: no change of the average grey, and the end of the block.
+    for (const int table : {0x00, 0x10}) {
+        bytes += Segment(0xC4, static_cast<char>(table) + std::string{1} + std::string(16, '\0'));
+    }
+    bytes += Segment(0xDA, std::string{1, 1, 0, 0, 63, 0});
+    const int bits = (width + 7) / 8 * ((height + 7) / 8) * 2;
+    bytes += std::string(static_cast<std::size_t>(bits / 8), '\0');
+    if (bits % 8 != 0) bytes += static_cast<char>(0xFF >> bits % 8);
+    return bytes + "\xFF\xD9";
 }
 
 std::string MakeEmf(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) {
@@ -170,19 +195,26 @@ std::string MakeWmf(int left, int top, int right, int bottom, std::uint32_t unit
 }
 
 Image ReadRecorded(const std::string& emf, int* bits) {
-    const std::size_t record = Number(emf, 4, 4);  // after the header
-    const std::size_t info = record + Number(emf, record + 48, 4);
-    const std::size_t bitmap = record + Number(emf, record + 56, 4);
+    // The one record that draws: EMR_BITBLT or EMR_STRETCHDIBITS. They have the same at different places.
+    std::size_t record = 0;
+    while (Number(emf, record, 4) != 76 && Number(emf, record, 4) != 81) record += Number(emf, record + 4, 4);
+    const std::size_t offsets = Number(emf, record, 4) == 76 ? 84 : 48;
+    const std::size_t info = record + Number(emf, record + offsets, 4);
+    const std::size_t bitmap = record + Number(emf, record + offsets + 8, 4);
     const auto depth = static_cast<std::size_t>(Number(emf, info + 14, 2));
-    Image image{static_cast<int>(Number(emf, info + 4, 4)), static_cast<int>(Number(emf, info + 8, 4)), {}};
-    const auto width = static_cast<std::size_t>(image.width);
-    const auto height = static_cast<std::size_t>(image.height);
+    const auto signedHeight = static_cast<std::int32_t>(Number(emf, info + 8, 4));
+    // The part of the bitmap that is shown.
+    Image image{static_cast<int>(Number(emf, record + 16, 4) - Number(emf, record + 8, 4)) + 1,
+                static_cast<int>(Number(emf, record + 20, 4) - Number(emf, record + 12, 4)) + 1,
+                {}};
+    const auto width = static_cast<std::size_t>(Number(emf, info + 4, 4));
+    const auto height = static_cast<std::size_t>(std::abs(signedHeight));
     const std::size_t rowSize = (width * depth + 31) / 32 * 4;
-    for (std::size_t y = 0; y < height; ++y) {
-        const std::size_t row = bitmap + (height - 1 - y) * rowSize;
-        for (std::size_t x = 0; x < width; ++x) {
-            if (depth == 24) {
-                image.pixels.push_back(Number(emf, row + x * 3, 3));
+    for (std::size_t y = 0; y < static_cast<std::size_t>(image.height); ++y) {
+        const std::size_t row = bitmap + (signedHeight < 0 ? y : height - 1 - y) * rowSize;
+        for (std::size_t x = 0; x < static_cast<std::size_t>(image.width); ++x) {
+            if (depth >= 24) {
+                image.pixels.push_back(Number(emf, row + x * depth / 8, 3));
             } else {
                 const std::size_t bit = x * depth;
                 const std::uint32_t byte = Number(emf, row + bit / 8, 1);

@@ -1,27 +1,10 @@
 #include <draftwick/platform/posix/PicturesParts.h>
 
-#include <cmath>
 #include <stdexcept>
 
 namespace draftwick::platform {
 
 namespace posix {
-
-std::optional<Bitmap> MakeBitmap(std::int64_t width, std::int64_t height) {
-    if (width < 1 || height < 1 || width > MaxBitmapSide || height > MaxBitmapSide) return {};
-    if (width * height > MaxBitmapPixels) return {};
-    Bitmap bitmap{static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}};
-    bitmap.pixels.assign(bitmap.RowSize() * static_cast<std::size_t>(height), 0xFF);
-    return bitmap;
-}
-
-std::int32_t HimetricFromPixels(std::int32_t pixels, int twipsPerPixel) {
-    // pixels * twips * 2540 / 1440, rounded up.
-    auto himetric = (std::int64_t{pixels} * twipsPerPixel * 127 + 71) / 72;
-    // Whoever converts back does so in floating point, where a whole number can come out a hair too small.
-    if (std::floor(static_cast<double>(himetric) / 2540 * 1440 / twipsPerPixel) < pixels) ++himetric;
-    return static_cast<std::int32_t>(himetric);
-}
 
 namespace {
 
@@ -75,10 +58,10 @@ private:
     std::unique_ptr<const Picture> Read(PictureSource& source, PictureKind kind) const {
         switch (kind) {
         case PictureKind::Jpeg: return Wrap(ReadJpegSize(source, twipsPerPixel_));
-        case PictureKind::Emf: return Wrap(ReadEmfSize(source));
-        case PictureKind::Wmf: return Wrap(ReadWmfSize(source));
+        case PictureKind::Emf: return Wrap(pictures::ReadEmfSize(source));
+        case PictureKind::Wmf: return Wrap(pictures::ReadWmfSize(source));
         case PictureKind::Gif: return Wrap(ReadGif(source));
-        case PictureKind::Bmp: return Wrap(ReadBmp(source));
+        case PictureKind::Bmp: return Wrap(pictures::ReadBmp(source));
         }
         return nullptr;
     }

@@ -10,10 +10,6 @@ namespace draftwick::platform::posix {
 
 namespace {
 
-/// No code of the compressed data stands for more pixels than the code table has entries. A file that claims
-/// more per byte is lying about its size.
-constexpr std::int64_t MaxPixelsPerByte = 4096;
-
 int ReadBytes(GifFileType* gif, GifByteType* bytes, int size) {
     auto* source = static_cast<PictureSource*>(gif->UserData);
     return static_cast<int>(source->Read(bytes, static_cast<std::size_t>(size)));
@@ -114,10 +110,10 @@ std::optional<Bitmap> ReadGif(PictureSource& source) {
     const std::int64_t height = gif->SHeight > 0 ? gif->SHeight : frame.Top + frame.Height;
     const std::int64_t framePixels = std::int64_t{frame.Width} * frame.Height;
     if (framePixels > MaxBitmapPixels) return {};
-    if (static_cast<std::uint64_t>(std::max(width * height, framePixels) / MaxPixelsPerByte)
+    if (static_cast<std::uint64_t>(std::max(width * height, framePixels) / pictures::MaxGifPixelsPerByte)
         > source.Length())
         return {};
-    auto bitmap = MakeBitmap(width, height);
+    auto bitmap = pictures::MakeBitmap(width, height);
     if (!bitmap || !Painter(gif.get(), *bitmap, *colours, transparent).Paint()) return {};
     return bitmap;
 }

@@ -7,7 +7,7 @@
 #include <exception>
 #include <system_error>
 
-namespace draftwick::platform::posix {
+namespace draftwick::platform::pictures {
 
 /// Reads a picture file from front to back through a small buffer.
 /// A failure of the file ends the data, so that readers need to know only one kind of end; ThrowIfFailed and
@@ -57,4 +57,4 @@ inline std::uint32_t U32(const std::uint8_t* p) {
 inline std::int16_t I16(const std::uint8_t* p) { return static_cast<std::int16_t>(U16(p)); }
 inline std::int32_t I32(const std::uint8_t* p) { return static_cast<std::int32_t>(U32(p)); }
 
-}  // namespace draftwick::platform::posix
+}  // namespace draftwick::platform::pictures

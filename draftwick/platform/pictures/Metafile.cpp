@@ -1,4 +1,4 @@
-#include <draftwick/platform/posix/PicturesParts.h>
+#include <draftwick/platform/pictures/Parts.h>
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 
 // The headers of metafiles: [MS-EMF] 2.3.4.2 and [MS-WMF] 2.3.2.3 describe them.
 
-namespace draftwick::platform::posix {
+namespace draftwick::platform::pictures {
 
 namespace {
 
@@ -57,4 +57,4 @@ std::optional<Size> ReadWmfSize(PictureSource& source) {
     return Size{himetric(6, 10), himetric(8, 12)};
 }
 
-}  // namespace draftwick::platform::posix
+}  // namespace draftwick::platform::pictures

@@ -1,4 +1,4 @@
-#include <draftwick/platform/posix/PicturesParts.h>
+#include <draftwick/platform/pictures/Parts.h>
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 // Bitmap files: the Windows headers from BITMAPINFOHEADER to BITMAPV5HEADER and the OS/2 ones before and beside
 // them. [MS-WMF] 2.2.2.9 describes what they share.
 
-namespace draftwick::platform::posix {
+namespace draftwick::platform::pictures {
 
 namespace {
 
@@ -296,4 +296,4 @@ std::optional<Bitmap> ReadBmp(PictureSource& source) {
     return bitmap;
 }
 
-}  // namespace draftwick::platform::posix
+}  // namespace draftwick::platform::pictures

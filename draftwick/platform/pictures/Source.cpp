@@ -1,9 +1,9 @@
-#include <draftwick/platform/posix/PicturesSource.h>
+#include <draftwick/platform/pictures/Source.h>
 
 #include <algorithm>
 #include <cstring>
 
-namespace draftwick::platform::posix {
+namespace draftwick::platform::pictures {
 
 bool PictureSource::Fill() noexcept {
     next_ = end_ = 0;
@@ -40,4 +40,4 @@ bool PictureSource::Skip(std::uint64_t size) noexcept {
     return size == 0;
 }
 
-}  // namespace draftwick::platform::posix
+}  // namespace draftwick::platform::pictures
