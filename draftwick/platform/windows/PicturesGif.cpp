@@ -29,7 +29,7 @@ const std::uint8_t* At(std::string_view bytes, std::size_t position) {
 
 }  // namespace
 
-// https://www.w3.org/Graphics/GIF/spec-gif89a.txt, sections 17 to 23.
+// As the definition of GIF89a has it in its sections 17 to 23.
 std::optional<GifLayout> ReadGifLayout(std::string_view bytes) {
     if (bytes.size() < 13 || !bytes.starts_with("GIF8")) return {};
     GifLayout layout{U16(At(bytes, 6)), U16(At(bytes, 8)), 0, 0, 0, 0};
