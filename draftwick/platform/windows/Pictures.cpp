@@ -1,11 +1,10 @@
-#include <draftwick/platform/Pictures.h>
+#include <draftwick/platform/pictures/Loader.h>
 #include <draftwick/platform/windows/PicturesParts.h>
 #include <draftwick/platform/windows/Windows.h>
 
 #include <cstring>
 #include <ocidl.h>
 #include <olectl.h>
-#include <stdexcept>
 #include <type_traits>
 
 namespace draftwick::platform {
@@ -14,7 +13,6 @@ namespace windows {
 
 namespace {
 
-using pictures::HimetricFromPixels;
 using pictures::PictureSource;
 using pictures::Size;
 
@@ -122,10 +120,9 @@ Bitmap Draw(IPicture& picture, const GifLayout& layout) {
     return SUCCEEDED(drawn) ? std::move(bitmap) : nullptr;
 }
 
-class LoadedPicture final : public Picture {
+class LoadedBitmap final : public Picture {
 public:
-    explicit LoadedPicture(Size size) : Picture(size.width, size.height) {}
-    LoadedPicture(Size size, Bitmap bitmap, std::int32_t pixelsWide, std::int32_t pixelsHigh)
+    LoadedBitmap(Size size, Bitmap bitmap, std::int32_t pixelsWide, std::int32_t pixelsHigh)
         : Picture(size.width, size.height), bitmap_(std::move(bitmap)), pixelsWide_(pixelsWide),
           pixelsHigh_(pixelsHigh) {}
 
@@ -135,9 +132,9 @@ public:
     HBITMAP Pixels() const { return bitmap_.get(); }
 
 private:
-    Bitmap bitmap_;  // empty for a picture that is embedded as it is
-    std::int32_t pixelsWide_ = 0;
-    std::int32_t pixelsHigh_ = 0;
+    Bitmap bitmap_;
+    std::int32_t pixelsWide_;
+    std::int32_t pixelsHigh_;
 };
 
 /// The bytes of a metafile that shows the top left part of a bitmap; empty when the system has no memory for it.
@@ -158,27 +155,13 @@ std::string RecordBitmap(HBITMAP bitmap, std::int32_t width, std::int32_t height
     return bytes;
 }
 
-class WindowsPictures final : public Pictures {
+class WindowsPictures final : public pictures::Loader {
 public:
-    explicit WindowsPictures(int twipsPerPixel) : twipsPerPixel_(twipsPerPixel) {}
-
-    std::unique_ptr<const Picture> Load(FileSystem& files, const std::string& name, PictureKind kind,
-                                        std::error_code& error) override {
-        const std::uint64_t length = files.Length(name, error);
-        if (error) return nullptr;
-        const auto file = files.OpenForReading(name, error);
-        if (error) return nullptr;
-        PictureSource source(*file, length);
-        auto picture = Read(source, kind);
-        error = source.Outcome();
-        if (error) return nullptr;
-        if (!picture) error = PictureError::Unreadable;
-        return picture;
-    }
+    using Loader::Loader;
 
     void Record(const Picture& picture, std::int32_t width, std::int32_t height, FileSystem& files,
                 const std::string& name, std::error_code& error) override {
-        const auto* loaded = dynamic_cast<const LoadedPicture*>(&picture);
+        const auto* loaded = dynamic_cast<const LoadedBitmap*>(&picture);
         if (loaded == nullptr || !loaded->Has(width, height)) {
             error = std::make_error_code(std::errc::invalid_argument);
             return;
@@ -191,30 +174,11 @@ public:
         if (!error) file->Close(error);
     }
 
-    int TwipsPerPixel() const override { return twipsPerPixel_; }
-
 private:
-    std::unique_ptr<const Picture> Read(PictureSource& source, PictureKind kind) const {
-        switch (kind) {
-        case PictureKind::Jpeg: return Wrap(ReadJpegSize(source, twipsPerPixel_));
-        case PictureKind::Emf: return Wrap(pictures::ReadEmfSize(source));
-        case PictureKind::Wmf: return Wrap(pictures::ReadWmfSize(source));
-        case PictureKind::Gif: return ReadGif(source);
-        case PictureKind::Bmp: return ReadBmp(source);
-        }
-        return nullptr;
+    std::optional<Size> ReadJpegSize(PictureSource& source) const override {
+        return windows::ReadJpegSize(source, TwipsPerPixel());
     }
-
-    static std::unique_ptr<const Picture> Wrap(std::optional<Size> size) {
-        return size ? std::make_unique<LoadedPicture>(*size) : nullptr;
-    }
-
-    std::unique_ptr<const Picture> ReadBmp(PictureSource& source) const {
-        const auto decoded = pictures::ReadBmp(source);
-        return decoded ? Wrap(MakeBitmap(*decoded), decoded->width, decoded->height) : nullptr;
-    }
-
-    std::unique_ptr<const Picture> ReadGif(PictureSource& source) const {
+    Loaded ReadGif(PictureSource& source) const override {
         if (source.Length() > LongestGif) return nullptr;
         std::string bytes(static_cast<std::size_t>(source.Length()), '\0');
         bytes.resize(source.Read(reinterpret_cast<std::uint8_t*>(bytes.data()), bytes.size()));
@@ -222,17 +186,15 @@ private:
         if (!layout) return nullptr;
         const Apartment apartment;
         const ComPointer<IPicture> picture = LoadPicture(bytes);
-        return picture != nullptr ? Wrap(Draw(*picture, *layout), layout->width, layout->height) : nullptr;
+        return picture != nullptr ? Keep(Draw(*picture, *layout), layout->width, layout->height) : nullptr;
     }
-
-    std::unique_ptr<const Picture> Wrap(Bitmap bitmap, std::int32_t width, std::int32_t height) const {
+    Loaded Wrap(pictures::Bitmap decoded) const override {
+        return Keep(MakeBitmap(decoded), decoded.width, decoded.height);
+    }
+    Loaded Keep(Bitmap bitmap, std::int32_t width, std::int32_t height) const {
         if (bitmap == nullptr) return nullptr;
-        const Size size{HimetricFromPixels(width, twipsPerPixel_),
-                        HimetricFromPixels(height, twipsPerPixel_)};
-        return std::make_unique<LoadedPicture>(size, std::move(bitmap), width, height);
+        return std::make_unique<LoadedBitmap>(SizeOf(width, height), std::move(bitmap), width, height);
     }
-
-    int twipsPerPixel_;
 };
 
 /// What the screen says; 0 when there is none.
@@ -248,9 +210,7 @@ int ScreenTwipsPerPixel() {
 
 }  // namespace windows
 
-std::shared_ptr<Pictures> SystemPictures(int twipsPerPixel) {
-    if (twipsPerPixel < 1 || twipsPerPixel > 1440)
-        throw std::invalid_argument("A pixel is 1 to 1440 twips wide");
+std::shared_ptr<Pictures> pictures::MakePictures(int twipsPerPixel) {
     const int screen = windows::ScreenTwipsPerPixel();
     return std::make_shared<windows::WindowsPictures>(screen > 0 ? screen : twipsPerPixel);
 }
