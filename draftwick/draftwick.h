@@ -16,6 +16,7 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/platform/Platform.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Columns.h>
@@ -23,4 +24,4 @@
 #include <draftwick/structure/Header.h>
 #include <draftwick/structure/Table.h>
 #include <draftwick/viewer/AutomationObject.h>
-#include <draftwick/viewer/Viewer.h>
+#include <draftwick/viewer/ViewerKind.h>

@@ -49,7 +49,7 @@ struct ClassMethod {
 };
 
 /// One class of the object model.
-struct Class {
+struct DRAFTWICK_API Class {
     std::string_view name;
     std::string_view classId;  ///< fixed for ever, as is the next
     std::string_view interfaceId;
@@ -63,12 +63,13 @@ struct Class {
 
 /// The value of a property. dwErrItemNotFound ("Section.MarginTop") when the class has no such property, error 5
 /// when it cannot be read.
-Variant Get(Object& object, std::string_view property);
+DRAFTWICK_API Variant Get(Object& object, std::string_view property);
 /// Sets a property. As Get; error 13 when the value is of the wrong kind; and what the property itself refuses.
-void Set(Object& object, std::string_view property, const Variant& value);
+DRAFTWICK_API void Set(Object& object, std::string_view property, const Variant& value);
 /// Calls a method. Arguments with a default can be left out at the end; error 5 for too few or too many.
-Variant Call(Object& object, std::string_view method, std::span<const Variant> arguments);
-Variant Call(Object& object, std::string_view method, std::initializer_list<Variant> arguments = {});
+DRAFTWICK_API Variant Call(Object& object, std::string_view method, std::span<const Variant> arguments);
+DRAFTWICK_API Variant Call(Object& object, std::string_view method,
+                           std::initializer_list<Variant> arguments = {});
 
 // What the class tables are written with.
 
@@ -76,13 +77,13 @@ Variant Call(Object& object, std::string_view method, std::initializer_list<Vari
 template <class Type>
 Type FromVariant(const Variant& value);
 template <>
-bool FromVariant(const Variant& value);
+DRAFTWICK_API bool FromVariant(const Variant& value);
 template <>
-std::int32_t FromVariant(const Variant& value);
+DRAFTWICK_API std::int32_t FromVariant(const Variant& value);
 template <>
-double FromVariant(const Variant& value);
+DRAFTWICK_API double FromVariant(const Variant& value);
 template <>
-std::string_view FromVariant(const Variant& value);
+DRAFTWICK_API std::string_view FromVariant(const Variant& value);
 
 template <class Type>
 Variant ToVariant(const Type& value) {

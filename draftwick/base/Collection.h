@@ -50,7 +50,7 @@ private:
 
 /// A collection whose items have names, told apart without regard to case.
 template <class Item>
-class NamedCollection : public Node {
+class DRAFTWICK_API NamedCollection : public Node {
 public:
     using Node::Node;
 

@@ -12,7 +12,7 @@ namespace draftwick {
 /// Adding a child to a container first writes the container's own start, then finishes the child before, so the
 /// file has everything in the order in which it was added. What is written can no longer change; what is finished
 /// takes no more children.
-class Content : public Node {
+class DRAFTWICK_API Content : public Node {
 public:
     using Node::Node;
 

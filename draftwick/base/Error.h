@@ -1,6 +1,7 @@
 #pragma once
 
 #include <draftwick/base/Variant.h>
+#include <draftwick/platform/Export.h>
 
 #include <cstdint>
 #include <initializer_list>
@@ -42,7 +43,7 @@ enum dwRuntimeError : std::int32_t {
 
 /// Every refusal of the library. What was refused changed nothing. Failures of the file system are not among
 /// them: these are std::system_error with the file's name in the text.
-class Error : public std::runtime_error {
+class DRAFTWICK_API Error : public std::runtime_error {
 public:
     /// The last two are texts that live as long as the program: copying an exception must not fail.
     Error(std::int32_t number, const std::string& description, std::string_view source,
@@ -63,18 +64,19 @@ private:
 };
 
 /// Raises Error with the message of `number`, in which %1, %2, ... stand for the parameters that are texts.
-[[noreturn]] void RaiseError(std::int32_t number, std::initializer_list<Variant> parameters = {});
+[[noreturn]] DRAFTWICK_API void RaiseError(std::int32_t number,
+                                           std::initializer_list<Variant> parameters = {});
 
 /// Raises Error for a run-time refusal: the number's own text, then what was wrong.
-[[noreturn]] void RaiseRuntimeError(dwRuntimeError number, const std::string& detail = {});
+[[noreturn]] DRAFTWICK_API void RaiseRuntimeError(dwRuntimeError number, const std::string& detail = {});
 
 /// "X" and the message number for the library's own range of numbers (X109), any other number in decimal.
-std::string ErrorNumberText(std::int32_t number);
+DRAFTWICK_API std::string ErrorNumberText(std::int32_t number);
 
 /// Whether every refusal is also recorded in the system's event log. Off at first; one setting per process.
-void SetErrorLogging(bool on) noexcept;
+DRAFTWICK_API void SetErrorLogging(bool on) noexcept;
 
 /// Writes a description of the error to the event log when error logging is on.
-void LogError(const Error& error);
+DRAFTWICK_API void LogError(const Error& error);
 
 }  // namespace draftwick

@@ -2,6 +2,7 @@
 
 #include <draftwick/base/Rules.h>
 #include <draftwick/base/Variant.h>
+#include <draftwick/platform/Export.h>
 
 #include <cstdint>
 #include <memory>
@@ -16,7 +17,7 @@ class WritingContext;
 
 /// A link to an object that it does not own: it stores the identity and gives a new owning reference on request,
 /// or nothing once the object is gone.
-class NoRef {
+class DRAFTWICK_API NoRef {
 public:
     NoRef() = default;
     explicit NoRef(const std::shared_ptr<Object>& object);
@@ -39,7 +40,7 @@ struct Origin {
 /// Everything in the object model. A host holds objects by std::shared_ptr; nothing it holds dangles, and nothing
 /// it holds keeps the document alive. An object whose document is gone can still be read where no unit of length
 /// is involved; everything else is refused with error 91.
-class Object {
+class DRAFTWICK_API Object {
 public:
     Object() = default;
     Object(const Object&) = delete;
@@ -101,7 +102,7 @@ private:
 };
 
 /// An object of its own: it lives as long as somebody holds it.
-class Node : public Object, public std::enable_shared_from_this<Node> {
+class DRAFTWICK_API Node : public Object, public std::enable_shared_from_this<Node> {
 public:
     explicit Node(const Origin& origin) : parent_(origin.parent), context_(origin.context) {}
 
@@ -124,7 +125,7 @@ private:
 };
 
 /// A part of another object: whoever holds it keeps the whole alive. It refuses when the whole refuses.
-class Part : public Object {
+class DRAFTWICK_API Part : public Object {
 public:
     explicit Part(Object& parent) : parent_(&parent) {}
 

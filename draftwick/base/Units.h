@@ -1,5 +1,7 @@
 #pragma once
 
+#include <draftwick/platform/Export.h>
+
 #include <cstdint>
 #include <string_view>
 
@@ -14,31 +16,32 @@ enum dwScaleMode : std::int32_t {
 
 /// The nearest whole number, ties to the even one (2.5 gives 2, 3.5 gives 4). Error 6 when the value is not a
 /// number or does not fit 32 bits.
-std::int32_t RoundHalfEven(double value);
+DRAFTWICK_API std::int32_t RoundHalfEven(double value);
 /// The nearest whole number, ties to even. Error 6 when it does not fit 16 bits.
-std::int16_t RoundToShort(double value);
+DRAFTWICK_API std::int16_t RoundToShort(double value);
 /// The integer part, rounded down. Error 6 when the value is not a number or does not fit 32 bits.
-std::int32_t RoundDown(double value);
+DRAFTWICK_API std::int32_t RoundDown(double value);
 /// Error 6 when the value does not fit 16 bits.
-std::int16_t ToShort(std::int32_t value);
+DRAFTWICK_API std::int16_t ToShort(std::int32_t value);
 
 /// A length in the given unit as whole twips, ties to even; 0 for an unknown unit.
-std::int32_t ToTwips(double value, dwScaleMode scale);
+DRAFTWICK_API std::int32_t ToTwips(double value, dwScaleMode scale);
 /// Whole twips as a length in the given unit; 0 for an unknown unit.
-double FromTwips(std::int32_t twips, dwScaleMode scale) noexcept;
+DRAFTWICK_API double FromTwips(std::int32_t twips, dwScaleMode scale) noexcept;
 
 /// Whether the value lies between the two bounds, whichever of them is the smaller.
 constexpr bool InRange(std::int32_t value, std::int32_t bound1, std::int32_t bound2) noexcept {
     return bound1 <= bound2 ? value >= bound1 && value <= bound2 : value >= bound2 && value <= bound1;
 }
 /// Raises dwErrPropertyOutOfRange with the property's name unless InRange.
-void CheckRange(std::int32_t value, std::int32_t bound1, std::int32_t bound2, std::string_view name);
+DRAFTWICK_API void CheckRange(std::int32_t value, std::int32_t bound1, std::int32_t bound2,
+                              std::string_view name);
 
 /// Picture sizes. HIMETRIC is a hundredth of a millimetre, 2540 to the inch.
-double TwipsToInches(std::int32_t twips) noexcept;
-std::int32_t InchesToHimetric(double inches);
-std::int32_t TwipsToHimetric(std::int32_t twips);
+DRAFTWICK_API double TwipsToInches(std::int32_t twips) noexcept;
+DRAFTWICK_API std::int32_t InchesToHimetric(double inches);
+DRAFTWICK_API std::int32_t TwipsToHimetric(std::int32_t twips);
 /// Rounded down, on a screen with so many twips to a pixel (15 on the usual 96 dots per inch).
-std::int32_t HimetricToPixels(std::int32_t himetric, double twipsPerPixel = 15);
+DRAFTWICK_API std::int32_t HimetricToPixels(std::int32_t himetric, double twipsPerPixel = 15);
 
 }  // namespace draftwick

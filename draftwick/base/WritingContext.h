@@ -2,6 +2,7 @@
 
 #include <draftwick/base/ColorTable.h>
 #include <draftwick/base/DocumentSettings.h>
+#include <draftwick/base/LayoutState.h>
 #include <draftwick/base/Output.h>
 #include <draftwick/platform/Platform.h>
 
@@ -17,21 +18,6 @@ class Object;
 class ParagraphStyles;
 class Properties;
 class TextStyles;
-
-/// Where the writers of cells stand in the current row.
-struct RowState {
-    std::int16_t CellRightEdge = 0;  ///< twips: where the last cell ends
-    bool AtCellStart = false;        ///< a cell is defined and has no paragraph yet
-};
-
-/// Where the writers of paragraphs, rows and shapes stand in the document.
-struct LayoutState {
-    bool SuppressNextParagraphMark = false;  ///< the next paragraph is not preceded by \par
-    bool TableEndsSection = false;           ///< a row came last: the end of the section needs a \par
-    RowState row;
-    bool ShapeTextPending = false;  ///< the first paragraph or row of a shape opens its text group
-    bool InlinePicture = false;     ///< the shape being written is a picture in the text
-};
 
 /// What all objects of one document share. It lives as long as any of them; `document` ends with the document, and
 /// with it the pointers to what the document owns.

@@ -10,7 +10,7 @@ class Table;
 
 /// Everything that holds paragraphs. What a paragraph writes about the place where it stands is the container's
 /// business: the kinds of container differ in the Write functions below and in nothing else.
-class Container : public Content {
+class DRAFTWICK_API Container : public Content {
 public:
     using Content::Content;
 
@@ -37,7 +37,7 @@ private:
 };
 
 /// Everything that holds rows of tables beside paragraphs.
-class RowContainer : public Container {
+class DRAFTWICK_API RowContainer : public Container {
 public:
     using Container::Container;
 

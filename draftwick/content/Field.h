@@ -31,7 +31,7 @@ enum dwFieldTextFormat : std::int32_t {
 /// instruction and the result that readers show until they update it, or for ever if they do not know the
 /// instruction. It can be changed until it is written, which is when its paragraph gets the next child or is closed;
 /// then it refuses ("Field").
-class Field final : public Run {
+class DRAFTWICK_API Field final : public Run {
 public:
     struct Values {
         std::string code;

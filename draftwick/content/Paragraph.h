@@ -23,7 +23,7 @@ class TextItem;
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
 /// on they and those of its parts refuse ("Paragraph"). It is closed when its container gets another child or is
 /// closed itself; then it takes no more children.
-class Paragraph final : public Content {
+class DRAFTWICK_API Paragraph final : public Content {
 public:
     explicit Paragraph(const Origin& origin) : Content(origin), format_(*this) {}
 

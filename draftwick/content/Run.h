@@ -12,7 +12,7 @@ namespace draftwick {
 
 /// What a run of text and a field have in common: a text style and a look of their own. Everything can be changed
 /// until the run is written, which is when its paragraph gets the next child or is closed.
-class Run : public Content {
+class DRAFTWICK_API Run : public Content {
 public:
     using Content::Content;
 

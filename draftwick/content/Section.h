@@ -34,7 +34,7 @@ enum dwVerticalAlign : std::int32_t { dwVertTop = 1, dwVertBottom = 2, dwVertCen
 
 /// A part of the document with its own page, line and page numbers (RTF \sect). Its settings are written when its
 /// first header, paragraph or row is added; from then on setters refuse ("Section"). Lengths are 16 bits in twips.
-class Section final : public RowContainer {
+class DRAFTWICK_API Section final : public RowContainer {
 public:
     struct Values {
         PageSetup page;

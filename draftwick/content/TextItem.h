@@ -5,7 +5,7 @@
 namespace draftwick {
 
 /// A run of text with one look. Text can be added until the run is written.
-class TextItem final : public Run {
+class DRAFTWICK_API TextItem final : public Run {
 public:
     TextItem(const Origin& origin, std::string_view text, bool raw);
 

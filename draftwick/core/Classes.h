@@ -7,6 +7,6 @@
 namespace draftwick {
 
 /// The descriptions of all classes of the object model, in the order of their names.
-std::span<const Class* const> Classes();
+DRAFTWICK_API std::span<const Class* const> Classes();
 
 }  // namespace draftwick

@@ -1,13 +1,17 @@
 #include <draftwick/base/Class.h>
 #include <draftwick/base/Text.h>
 #include <draftwick/base/Version.h>
+#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/core/Document.h>
 #include <draftwick/core/DocumentWriter.h>
+#include <draftwick/core/OutputFiles.h>
 #include <draftwick/core/Properties.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/viewer/AutomationObject.h>
+#include <draftwick/viewer/Viewer.h>
 
 #include <utility>
 
@@ -23,7 +27,7 @@ std::shared_ptr<Document> Document::Create(platform::Platform services) {
 
 Document::Document(const std::shared_ptr<WritingContext>& context)
     : Content(Origin{context, nullptr}), context_(context), settings_(context->settings),
-      viewer_(context->platform) {}
+      files_(std::make_unique<OutputFiles>()), viewer_(std::make_unique<Viewer>(context->platform)) {}
 
 /// Children need a reference to their parent, so they come after the constructor.
 void Document::CreateCollections() {
@@ -53,18 +57,18 @@ Document::~Document() {
 
 std::shared_ptr<Section> Document::AddSection() {
     // Once the file's last brace is written nothing can follow it, even if Finish failed after that.
-    if (files_.Ended()) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
+    if (files_->Ended()) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
     return Add(currentSection_);
 }
 
 void Document::Finish() { Close(); }
 
 void Document::WriteStart() {
-    files_.OpenBody(*context_);
+    files_->OpenBody(*context_);
     WriteDocumentFormatting(*context_);
 }
 
-void Document::WriteEnd() { files_.AssembleOutputFile(*context_); }
+void Document::WriteEnd() { files_->AssembleOutputFile(*context_); }
 
 dwViewer Document::Preview(dwViewer program) { return RunViewer(program, false); }
 dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true); }
@@ -73,8 +77,12 @@ dwViewer Document::RunViewer(dwViewer program, bool printIt) {
     Finish();
     // Other programs have a current folder of their own.
     const std::string file = context_->platform.files->FullName(ActualFileName());
-    return viewer_.RunViewer(OriginOfChild(), file, program, printIt);
+    return viewer_->RunViewer(OriginOfChild(), file, program, printIt);
 }
+
+std::shared_ptr<AutomationObject> Document::ViewerApp() const { return viewer_->App(); }
+std::int32_t Document::ViewerTaskID() const { return viewer_->TaskID(); }
+const std::string& Document::ActualFileName() const { return files_->ActualFileName(); }
 
 std::string Document::DefaultFontName() const {
     return context_->defaultFont == WritingContext::NoFont ? std::string{}

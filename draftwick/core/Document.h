@@ -2,10 +2,8 @@
 
 #include <draftwick/base/Content.h>
 #include <draftwick/base/DocumentSettings.h>
-#include <draftwick/base/WritingContext.h>
-#include <draftwick/core/OutputFiles.h>
 #include <draftwick/platform/Platform.h>
-#include <draftwick/viewer/Viewer.h>
+#include <draftwick/viewer/ViewerKind.h>
 
 #include <memory>
 #include <string>
@@ -13,12 +11,15 @@
 
 namespace draftwick {
 
+class AutomationObject;
 class Fonts;
 class Lists;
+class OutputFiles;
 class ParagraphStyles;
 class Properties;
 class Section;
 class TextStyles;
+class Viewer;
 
 /// A document that is written while it is built.
 ///
@@ -29,7 +30,7 @@ class TextStyles;
 /// The host's reference keeps the document alive; once it is let go, everything that belonged to it refuses with
 /// error 91. A document that is let go without Finish leaves its temporary file behind. One document is for one
 /// thread; different documents can be used in different threads at the same time.
-class Document final : public Content {
+class DRAFTWICK_API Document final : public Content {
 public:
     /// A new document with the system's services.
     static std::shared_ptr<Document> Create();
@@ -55,12 +56,12 @@ public:
     /// Finishes the document and prints it on the default printer. As Preview.
     dwViewer PrintOut(dwViewer program = dwViewerAuto);
     /// The word processor that the last Preview or PrintOut used; empty if it used none.
-    std::shared_ptr<AutomationObject> ViewerApp() const { return viewer_.App(); }
+    std::shared_ptr<AutomationObject> ViewerApp() const;
     /// The task of the viewer program that the last Preview or PrintOut started; 0 if it started none.
-    std::int32_t ViewerTaskID() const { return viewer_.TaskID(); }
+    std::int32_t ViewerTaskID() const;
 
     /// The file that was written; empty before Finish.
-    const std::string& ActualFileName() const { return files_.ActualFileName(); }
+    const std::string& ActualFileName() const;
     /// The file to write; empty (default) for "Draftwick1.rtf", or the next free number, in the folder for temporary
     /// files. An existing file is replaced; if it cannot be deleted, a number is put before the extension of four
     /// characters. Error 5 in Finish for a name of less than four characters.
@@ -211,8 +212,8 @@ private:
 
     std::shared_ptr<WritingContext> context_;
     DocumentSettings& settings_;
-    OutputFiles files_;
-    Viewer viewer_;
+    std::unique_ptr<OutputFiles> files_;
+    std::unique_ptr<Viewer> viewer_;
     std::shared_ptr<Section> currentSection_;
     std::shared_ptr<draftwick::Fonts> fonts_;
     std::shared_ptr<draftwick::Lists> lists_;

@@ -39,7 +39,7 @@ enum dwBuiltInProperty : std::int32_t {
 };
 
 /// One property of a document, built-in or custom. Setters refuse once the document is emitted ("Document").
-class Property final : public Node {
+class DRAFTWICK_API Property final : public Node {
 public:
     Property(const Origin& origin, std::string name, std::int32_t index);
 
@@ -75,7 +75,7 @@ private:
 
 /// The properties of a document: the twenty of dwBuiltInProperty, then those that the host added. A reader shows them
 /// as information about the file; nothing is filled in that the host did not set.
-class Properties final : public NamedCollection<Property> {
+class DRAFTWICK_API Properties final : public NamedCollection<Property> {
 public:
     explicit Properties(const Origin& origin);
 

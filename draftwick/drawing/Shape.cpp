@@ -1,4 +1,5 @@
 #include <draftwick/base/Class.h>
+#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/drawing/PictureWriter.h>
 #include <draftwick/drawing/Shape.h>

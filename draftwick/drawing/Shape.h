@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/WritingContext.h>
+#include <draftwick/base/LayoutState.h>
 #include <draftwick/content/Container.h>
 #include <draftwick/drawing/ShapeFill.h>
 #include <draftwick/drawing/ShapeKind.h>
@@ -54,7 +54,7 @@ enum dwShapeTextWrap : std::int32_t {
 /// the picture that its name promises) or std::system_error; nothing is written yet, and the name or the file can
 /// still be mended. If a file turns out to be unreadable in the middle, the shape is written with what there is, and
 /// the call reports it as std::system_error.
-class Shape final : public RowContainer {
+class DRAFTWICK_API Shape final : public RowContainer {
 public:
     struct Values {
         dwShapeKind kind = dwSKRectangle;

@@ -22,7 +22,7 @@ enum dwShapeFillStyle : std::int32_t {
 
 /// The inside of a shape. Refuses once the shape is written ("Shape"). Colours have red in the lowest byte, then
 /// green, then blue. Percentages go from 0 to 100, which is not checked.
-class ShapeFill final : public Part {
+class DRAFTWICK_API ShapeFill final : public Part {
 public:
     /// Written as a fraction of 65536.
     using Percent = Real<65536, 100>;

@@ -49,7 +49,7 @@ enum dwShapeLineArrowLength : std::int32_t { dwSLALShort = 1, dwSLALMedium = 2, 
 
 /// The outline of a shape. Refuses once the shape is written ("Shape"). Colours have red in the lowest byte, then
 /// green, then blue.
-class ShapeLine final : public Part {
+class DRAFTWICK_API ShapeLine final : public Part {
 public:
     /// Two numbers more than there are names for: readers may know them.
     static constexpr dwShapeLineArrow LastArrow{8};

@@ -12,7 +12,7 @@ enum dwShapeShadowStyle : std::int32_t {
 
 /// The shadow of a shape. Refuses once the shape is written ("Shape"). Colours have red in the lowest byte, then
 /// green, then blue; lengths are 16 bits in twips.
-class ShapeShadow final : public Part {
+class DRAFTWICK_API ShapeShadow final : public Part {
 public:
     struct Values {
         dwShapeShadowStyle style = dwSSSNone;

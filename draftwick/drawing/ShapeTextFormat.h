@@ -9,7 +9,7 @@ enum dwShapeTextFlow : std::int32_t { dwSTFHorizontal = 1, dwSTFTopToBottom = 2,
 
 /// The text box of a shape: its margins and direction. Refuses once the shape is written ("Shape"). Lengths are 16
 /// bits in twips.
-class ShapeTextFormat final : public Part {
+class DRAFTWICK_API ShapeTextFormat final : public Part {
 public:
     struct Values {
         Length spacingTop{72};

@@ -15,7 +15,7 @@ enum dwShape3DProjection : std::int32_t { dwS3PParallel = 1, dwS3PPerspective = 
 /// properties c3D* and fc3D*). Only what differs from its default is written. Refuses once the shape is written
 /// ("Shape"). Colours have red in the lowest byte, then green, then blue; lengths are 16 bits in twips; numbers that
 /// are written in 65536ths are refused with error 6 when they do not fit 32 bits so.
-class ShapeThreeD final : public Part {
+class DRAFTWICK_API ShapeThreeD final : public Part {
 public:
     struct Values {
         bool visible = false;

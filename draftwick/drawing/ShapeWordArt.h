@@ -22,7 +22,7 @@ enum dwShapeWordArtAlign : std::int32_t {
 /// Text that takes the form of its shape, which should be one of the kinds from dwSKTextSimple to dwSKTextOnRing or
 /// from dwSKTextPlainText to dwSKTextCanDown (RTF shape properties gtext*). Only what differs from its default is written. Refuses
 /// once the shape is written ("Shape").
-class ShapeWordArt final : public Part {
+class DRAFTWICK_API ShapeWordArt final : public Part {
 public:
     struct Values {
         std::string text;

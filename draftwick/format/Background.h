@@ -26,7 +26,7 @@ enum dwTexture : std::int32_t {
 
 /// What stands behind a paragraph, a run of text, a table cell or the text of a style. Refuses when what it belongs
 /// to refuses. Colours have red in the lowest byte, then green, then blue: 0x0000FF is red. Any value is taken.
-class Background final : public Part {
+class DRAFTWICK_API Background final : public Part {
 public:
     struct Values {
         Choice<"Background.Texture", dwTextureNone, dwTextureShaded> texture{dwTextureNone};

@@ -44,7 +44,7 @@ using BorderStyle = Choice<"Border.Style", dwBSNone, dwBSEngrave>;
 /// What borders of all kinds have: a line, its width and its colour. Kinds differ in how they keep the width, and
 /// some have more. Refuses when what it belongs to refuses.
 template <class BorderValues>
-class Border : public Part {
+class DRAFTWICK_API Border : public Part {
 public:
     using Values = BorderValues;
     using Part::Part;
@@ -84,7 +84,7 @@ protected:
 /// The borders of an object, one for each side. A side is created when it is first read; sides that were never
 /// read are never written. Walking over a collection reads all of its sides.
 template <class SideBorder, class Side, std::int32_t SideCount>
-class BorderCollection : public Part {
+class DRAFTWICK_API BorderCollection : public Part {
 public:
     using Part::Part;
 
@@ -125,7 +125,7 @@ private:
     std::array<Lazy<SideBorder>, static_cast<std::size_t>(SideCount)> sides_;
 };
 
-struct TextBorderValues {
+struct DRAFTWICK_API TextBorderValues {
     dwBorderStyle style =
         dwBSNone;  // not checked: a value outside of the enumeration writes a border without a line
     Points width{1};
@@ -134,7 +134,7 @@ struct TextBorderValues {
 
 /// The line around a run of text, the same on all four sides (RTF \chbrdr). Unlike other borders it takes any Style.
 /// Refuses when the run or style that it belongs to refuses.
-class TextBorder final : public Border<TextBorderValues> {
+class DRAFTWICK_API TextBorder final : public Border<TextBorderValues> {
 public:
     using Border::Border;
 
@@ -152,7 +152,7 @@ enum dwParagraphBorder : std::int32_t {
     dwPBorderOutside = 6,  ///< the bar beside the paragraph, on the outer side of the page (RTF \brdrbar)
 };
 
-struct ParagraphBorderValues {
+struct DRAFTWICK_API ParagraphBorderValues {
     BorderStyle style{dwBSNone};
     Points width{1};
     Points spacing{1};
@@ -160,7 +160,7 @@ struct ParagraphBorderValues {
 };
 
 /// One side of the borders of a paragraph or paragraph style. Refuses when the owner refuses.
-class ParagraphBorder final : public Border<ParagraphBorderValues> {
+class DRAFTWICK_API ParagraphBorder final : public Border<ParagraphBorderValues> {
 public:
     ParagraphBorder(Object& parent, dwParagraphBorder side);
 
@@ -174,7 +174,7 @@ public:
 };
 
 /// The borders of a paragraph or paragraph style: six sides.
-class ParagraphBorders final : public BorderCollection<ParagraphBorder, dwParagraphBorder, 6> {
+class DRAFTWICK_API ParagraphBorders final : public BorderCollection<ParagraphBorder, dwParagraphBorder, 6> {
 public:
     using BorderCollection::BorderCollection;
     static const Class& Describe();

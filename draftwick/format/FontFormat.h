@@ -31,7 +31,7 @@ enum dwTextAnimation : std::int32_t {
 /// The look of characters: of a run of text, of a paragraph's runs unless they say otherwise, of a style, of a field
 /// or of the number of a list level. Sizes and positions are in points whatever the document's ScaleMode. What is
 /// on or off is off by default. Refuses when what it belongs to refuses.
-class FontFormat final : public Part {
+class DRAFTWICK_API FontFormat final : public Part {
 public:
     struct Values {
         bool bold = false;

@@ -17,7 +17,7 @@ enum dwFontFamily : std::int32_t {
 
 /// A font of the document (an entry of RTF \fonttbl). Its parent is the document. Setters refuse once the document
 /// is emitted ("Document").
-class Font final : public Node {
+class DRAFTWICK_API Font final : public Node {
 public:
     struct Values {
         std::string altName;
@@ -53,7 +53,7 @@ private:
 
 /// The fonts of a document, in the order in which they were added. A font must be added before its name can be
 /// used; none is ever added by itself.
-class Fonts final : public NamedCollection<Font> {
+class DRAFTWICK_API Fonts final : public NamedCollection<Font> {
 public:
     using NamedCollection::NamedCollection;
 

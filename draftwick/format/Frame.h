@@ -31,7 +31,7 @@ enum dwFrameAlignY : std::int32_t {
 /// Places a paragraph or a table out of the flow of the text, which runs around it; or makes a paragraph a drop cap.
 /// Neighbouring paragraphs with the same frame stand in it together. A frame whose properties all have their
 /// defaults is none. Lengths are 16 bits in twips. Refuses when its owner refuses.
-class Frame final : public Part {
+class DRAFTWICK_API Frame final : public Part {
 public:
     struct Values {
         Choice<"Frame.ReferenceX", dwFRXPage, dwFRXMargin> referenceX{dwFRXColumn};

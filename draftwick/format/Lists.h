@@ -28,7 +28,7 @@ enum dwListNumberFollow : std::int32_t { dwLNFNothing = 1, dwLNFSpace = 2, dwLNF
 
 /// How the numbers of one level of a list look (RTF \listlevel). It never refuses for being written: what holds at
 /// Document::Finish counts, also for paragraphs that were added before.
-class ListLevel final : public Part {
+class DRAFTWICK_API ListLevel final : public Part {
 public:
     struct Values {
         Choice<"ListLevel.Style", dwLNSCardinal, dwLNSBullet> style{dwLNSDecimal};
@@ -95,7 +95,7 @@ private:
 /// A numbered or bulleted list of nine levels (RTF \list). Paragraphs join it by its name, with
 /// ParagraphFormat::SetListName. While no paragraph uses a level below the first, that level alone is written. It
 /// never refuses for being written.
-class List final : public Node {
+class DRAFTWICK_API List final : public Node {
 public:
     List(const Origin& origin, std::string name, std::int32_t index);
 
@@ -135,7 +135,7 @@ private:
 };
 
 /// The lists of a document, in the order in which they were added.
-class Lists final : public NamedCollection<List> {
+class DRAFTWICK_API Lists final : public NamedCollection<List> {
 public:
     using NamedCollection::NamedCollection;
 

@@ -21,7 +21,7 @@ enum dwLineSpacingStyle : std::int32_t {
 
 /// The layout of a paragraph or paragraph style. Indents are lengths in the document's ScaleMode, spacing is in
 /// points. What is on or off is off by default, except WidowOrphanControl. Refuses when what it belongs to refuses.
-class ParagraphFormat final : public Part {
+class DRAFTWICK_API ParagraphFormat final : public Part {
 public:
     struct Values {
         Choice<"ParagraphFormat.Align", dwAlignLeft, dwAlignJustify> align{dwAlignLeft};

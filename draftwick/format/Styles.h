@@ -11,7 +11,7 @@ namespace draftwick {
 
 /// What both kinds of style have: a name and a number. Their parent is the document. Setters refuse once that is
 /// emitted ("Document"), and so do the setters of a style's parts.
-class Style : public Node {
+class DRAFTWICK_API Style : public Node {
 public:
     Style(const Origin& origin, std::string name, std::int32_t index)
         : Node(origin), name_(std::move(name)), index_(index) {}
@@ -30,7 +30,7 @@ private:
 };
 
 /// A named look of paragraphs (RTF \s), which take it with Paragraph::SetStyleName.
-class ParagraphStyle final : public Style {
+class DRAFTWICK_API ParagraphStyle final : public Style {
 public:
     ParagraphStyle(const Origin& origin, std::string name, std::int32_t index);
 
@@ -79,7 +79,7 @@ private:
 };
 
 /// A named look of runs of text (RTF \cs). Runs only name it, with Run::SetStyleName: the reader applies it.
-class TextStyle final : public Style {
+class DRAFTWICK_API TextStyle final : public Style {
 public:
     TextStyle(const Origin& origin, std::string name, std::int32_t index);
 
@@ -109,7 +109,7 @@ private:
 };
 
 /// The paragraph styles of a document.
-class ParagraphStyles final : public NamedCollection<ParagraphStyle> {
+class DRAFTWICK_API ParagraphStyles final : public NamedCollection<ParagraphStyle> {
 public:
     using NamedCollection::NamedCollection;
 
@@ -125,7 +125,7 @@ public:
 };
 
 /// The text styles of a document.
-class TextStyles final : public NamedCollection<TextStyle> {
+class DRAFTWICK_API TextStyles final : public NamedCollection<TextStyle> {
 public:
     using NamedCollection::NamedCollection;
 

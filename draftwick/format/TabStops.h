@@ -22,7 +22,7 @@ enum dwTabLeader : std::int32_t {
 };
 
 /// One tab stop (RTF \tx, or \tb for a bar). It cannot be changed.
-class TabStop final : public Node {
+class DRAFTWICK_API TabStop final : public Node {
 public:
     struct Values {
         Length position{0};
@@ -48,7 +48,7 @@ private:
 
 /// The tab stops of a paragraph or paragraph style, in the order in which they were added: they are neither sorted
 /// nor compared.
-class TabStops final : public Part {
+class DRAFTWICK_API TabStops final : public Part {
 public:
     using Part::Part;
 

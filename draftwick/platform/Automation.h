@@ -1,5 +1,7 @@
 #pragma once
 
+#include <draftwick/platform/Export.h>
+
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -17,7 +19,7 @@ using AutomationValue =
 
 /// An object of another program, used by the names of its members. For the thread that it was made on.
 /// Whatever fails raises std::system_error with the system's code and the name of the member.
-class AutomationObject {
+class DRAFTWICK_API AutomationObject {
 public:
     virtual ~AutomationObject() = default;
 
@@ -27,7 +29,7 @@ public:
 };
 
 /// How the objects of other programs are reached: OLE automation on Windows; POSIX has none.
-class Automation {
+class DRAFTWICK_API Automation {
 public:
     virtual ~Automation() = default;
 

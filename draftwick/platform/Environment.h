@@ -1,11 +1,13 @@
 #pragma once
 
+#include <draftwick/platform/Export.h>
+
 #include <string>
 
 namespace draftwick::platform {
 
 /// What documents ask of the process's environment.
-class Environment {
+class DRAFTWICK_API Environment {
 public:
     virtual ~Environment() = default;
 

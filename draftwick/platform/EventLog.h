@@ -1,11 +1,13 @@
 #pragma once
 
+#include <draftwick/platform/Export.h>
+
 #include <string_view>
 
 namespace draftwick::platform {
 
 /// The system's application event log: the event log on Windows, syslog on POSIX.
-class EventLog {
+class DRAFTWICK_API EventLog {
 public:
     virtual ~EventLog() = default;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <draftwick/platform/Export.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -11,7 +13,7 @@ namespace draftwick::platform {
 
 /// An open file. Bytes go through as they are: nothing is translated or buffered here.
 /// Destroying an open file closes it and drops the outcome; Close() reports it.
-class File {
+class DRAFTWICK_API File {
 public:
     virtual ~File() = default;
 
@@ -34,7 +36,7 @@ enum class Creation {
 };
 
 /// The file operations that documents need. Names are UTF-8 on Windows, the system's own bytes elsewhere.
-class FileSystem {
+class DRAFTWICK_API FileSystem {
 public:
     virtual ~FileSystem() = default;
 

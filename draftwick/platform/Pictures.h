@@ -34,7 +34,7 @@ enum class PictureError {
 };
 
 /// Lets a std::error_code carry a PictureError and be compared with one.
-std::error_code make_error_code(PictureError error) noexcept;
+DRAFTWICK_API std::error_code make_error_code(PictureError error) noexcept;
 
 /// The largest bitmap (GIF or BMP) that is loaded, in pixels: 64 Mi, an A3 page at 400 dots per inch with room
 /// to spare. A loaded bitmap takes 3 bytes of memory per pixel.
@@ -44,7 +44,7 @@ inline constexpr std::int64_t MaxBitmapPixels = 1 << 26;
 inline constexpr std::int32_t MaxBitmapSide = 65535;
 
 /// A loaded picture: its size and, for GIF and BMP, its bitmap. Immutable; holds no file open.
-class Picture {
+class DRAFTWICK_API Picture {
 public:
     virtual ~Picture() = default;
     Picture(const Picture&) = delete;
@@ -70,7 +70,7 @@ private:
 /// The system's picture loader and its recorder of enhanced metafiles.
 /// Holds no state that changes: any thread may use it. Nothing here throws but std::bad_alloc, and what the
 /// file system given to it throws.
-class Pictures {
+class DRAFTWICK_API Pictures {
 public:
     virtual ~Pictures() = default;
 
@@ -95,7 +95,7 @@ public:
 
 /// The system's own pictures service. Where no screen can be asked, a pixel is `twipsPerPixel` wide: 15 means
 /// 96 pixels per inch. 1 to 1440; std::invalid_argument otherwise.
-std::shared_ptr<Pictures> SystemPictures(int twipsPerPixel = 15);
+DRAFTWICK_API std::shared_ptr<Pictures> SystemPictures(int twipsPerPixel = 15);
 
 }  // namespace draftwick::platform
 

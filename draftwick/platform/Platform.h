@@ -26,14 +26,14 @@ struct Platform {
 };
 
 /// The system's own services. They hold no state and can be used from any thread.
-Platform SystemPlatform();
+DRAFTWICK_API Platform SystemPlatform();
 
 /// The event log that errors are recorded in: the system's, unless another one was set.
-EventLog& CurrentEventLog();
+DRAFTWICK_API EventLog& CurrentEventLog();
 /// Puts another event log in the place of the system's; nullptr puts the system's back. Not owned.
-void SetEventLog(EventLog* log) noexcept;
+DRAFTWICK_API void SetEventLog(EventLog* log) noexcept;
 
 /// Date and time of day where the process runs, as yyyy-mm-dd hh:mm:ss.
-std::string LocalTimeText(std::time_t time);
+DRAFTWICK_API std::string LocalTimeText(std::time_t time);
 
 }  // namespace draftwick::platform

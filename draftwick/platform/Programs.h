@@ -1,5 +1,7 @@
 #pragma once
 
+#include <draftwick/platform/Export.h>
+
 #include <cstdint>
 #include <string>
 
@@ -7,7 +9,7 @@ namespace draftwick::platform {
 
 /// How other programs are found, started and spoken to. Failures are std::system_error with what failed in the
 /// text.
-class Programs {
+class DRAFTWICK_API Programs {
 public:
     virtual ~Programs() = default;
 

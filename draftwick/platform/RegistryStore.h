@@ -1,5 +1,7 @@
 #pragma once
 
+#include <draftwick/platform/Export.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -24,7 +26,7 @@ inline constexpr std::size_t RegistryNameRoom = 255;
 /// An open key. Destroying it closes it. Names are UTF-8 and told apart without regard to case. An operation that
 /// fails gives the system's result code and nothing else; a key or value that is not there is
 /// std::errc::no_such_file_or_directory.
-class RegistryKey {
+class DRAFTWICK_API RegistryKey {
 public:
     virtual ~RegistryKey() = default;
 
@@ -45,7 +47,7 @@ public:
 /// Settings that programs leave for each other: keys in a tree, joined by backslashes, that hold named values. The
 /// registry on Windows. On POSIX the user's are a text file, draftwick/registry in the folder for settings
 /// (XDG_CONFIG_HOME, ~/.config), and the machine's cannot be changed: they name the desktop's program for documents.
-class RegistryStore {
+class DRAFTWICK_API RegistryStore {
 public:
     virtual ~RegistryStore() = default;
 

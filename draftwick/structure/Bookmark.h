@@ -10,7 +10,7 @@ namespace draftwick {
 /// One end of a named part of the text (RTF \bkmkstart, \bkmkend). Two bookmarks of the same name, a start and an
 /// end, make one; nothing checks that they do. Refuses changes once it is written, which is when its paragraph gets
 /// its next child or is closed ("Bookmark").
-class Bookmark final : public Content {
+class DRAFTWICK_API Bookmark final : public Content {
 public:
     struct Values {
         std::string name;

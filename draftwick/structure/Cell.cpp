@@ -1,4 +1,5 @@
 #include <draftwick/base/Class.h>
+#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Table.h>

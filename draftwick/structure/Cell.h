@@ -22,7 +22,7 @@ enum dwCellOrientation : std::int32_t { dwReadNormal = 1, dwReadRight = 2, dwRea
 
 /// A cell of a row (RTF \cellx). Its settings are written when its first paragraph is added; from then on setters
 /// refuse ("Cell"). A cell without a paragraph is an empty cell.
-class Cell final : public Container {
+class DRAFTWICK_API Cell final : public Container {
 public:
     struct Values {
         Choice<"Cell.Merge", dwMergeNone, dwMergeVertical> merge{dwMergeNone};

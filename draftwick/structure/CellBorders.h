@@ -12,7 +12,7 @@ enum dwCellBorder : std::int32_t {
     dwCBorderBottom = 4,
 };
 
-struct CellBorderValues {
+struct DRAFTWICK_API CellBorderValues {
     BorderStyle style{dwBSNone};
     Rounded width{1};
     std::int32_t color = 0;
@@ -20,7 +20,7 @@ struct CellBorderValues {
 
 /// One side of the borders of a cell (RTF \clbrdrt and its siblings). Its Width is kept in whole points of 16 bits, ties
 /// to even, unlike that of a row's border: 0.5 is 0 and 0.75 is 1. Refuses once the cell is written ("Cell").
-class CellBorder final : public Border<CellBorderValues> {
+class DRAFTWICK_API CellBorder final : public Border<CellBorderValues> {
 public:
     CellBorder(Object& cell, dwCellBorder) : Border(cell) {}
 
@@ -29,7 +29,7 @@ public:
 };
 
 /// The borders of a cell.
-class CellBorders final : public BorderCollection<CellBorder, dwCellBorder, 4> {
+class DRAFTWICK_API CellBorders final : public BorderCollection<CellBorder, dwCellBorder, 4> {
 public:
     using BorderCollection::BorderCollection;
     static const Class& Describe();

@@ -6,7 +6,7 @@ namespace draftwick {
 
 /// One column of a section whose columns are listed. Refuses once the section is written ("Section"). Lengths are
 /// 16 bits in twips.
-class Column final : public Node {
+class DRAFTWICK_API Column final : public Node {
 public:
     struct Values {
         std::uint8_t number = 1;
@@ -35,7 +35,7 @@ private:
 
 /// The columns that the text of a section runs in (RTF \cols): a number of equal columns, or a list of columns that
 /// each have a width. A new section has neither and writes nothing. Refuses once the section is written ("Section").
-class Columns final : public Part {
+class DRAFTWICK_API Columns final : public Part {
 public:
     struct Values {
         std::int32_t automatic = 0;

@@ -10,7 +10,7 @@ namespace draftwick {
 /// The number of the note is the host's business: add Special::Footnote to the paragraph before the note and to the
 /// note's first paragraph. Nothing is written between the paragraphs of a note, so that they run together in a
 /// reader: one paragraph is what a note should have.
-class Footnote final : public RowContainer {
+class DRAFTWICK_API Footnote final : public RowContainer {
 public:
     Footnote(const Origin& origin, bool isEndnote) : RowContainer(origin), isEndnote_(isEndnote) {}
 

@@ -18,7 +18,7 @@ enum dwHeaderKind : std::int32_t {
 
 /// A header or footer of a section, with paragraphs and rows like the section itself. Refuses more of them once it
 /// is closed, which is when the section gets its next child ("Header").
-class Header final : public RowContainer {
+class DRAFTWICK_API Header final : public RowContainer {
 public:
     Header(const Origin& origin, dwHeaderKind kind) : RowContainer(origin), kind_(kind) {}
 

@@ -22,7 +22,7 @@ enum dwPageBorderDisplay : std::int32_t {
 /// What the distance of the borders is measured from.
 enum dwPageBorderOffset : std::int32_t { dwPBOText = 1, dwPBOPage = 2 };
 
-struct PageBorderValues {
+struct DRAFTWICK_API PageBorderValues {
     BorderStyle style{dwBSNone};
     Points width{1};
     Points spacing{1};
@@ -31,7 +31,7 @@ struct PageBorderValues {
 };
 
 /// One side of the borders of a section's pages. Refuses when the section refuses.
-class PageBorder final : public Border<PageBorderValues> {
+class DRAFTWICK_API PageBorder final : public Border<PageBorderValues> {
 public:
     PageBorder(Object& parent, dwPageBorder side);
 
@@ -51,7 +51,7 @@ public:
 
 /// The borders of a section's pages. A side without a line or picture is not written; without any side nothing is.
 /// Refuses when the section refuses.
-class PageBorders final : public BorderCollection<PageBorder, dwPageBorder, 4> {
+class DRAFTWICK_API PageBorders final : public BorderCollection<PageBorder, dwPageBorder, 4> {
 public:
     struct Values {
         Choice<"PageBorders.Display", dwPBDAllPages, dwPBDExceptFirst> display{dwPBDAllPages};

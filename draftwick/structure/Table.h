@@ -1,7 +1,7 @@
 #pragma once
 
 #include <draftwick/base/Content.h>
-#include <draftwick/base/WritingContext.h>
+#include <draftwick/base/LayoutState.h>
 #include <draftwick/format/Frame.h>
 #include <draftwick/structure/TableBorders.h>
 
@@ -14,7 +14,7 @@ enum dwTableAlign : std::int32_t { dwTALeft = 1, dwTACenter = 2, dwTARight = 3 }
 
 /// One row of a table (RTF \trowd); rows that are added one after the other make one table. Its settings are
 /// written when its first cell is added; from then on setters refuse ("Table"). Lengths are 16 bits in twips.
-class Table final : public Content {
+class DRAFTWICK_API Table final : public Content {
 public:
     struct Values {
         Choice<"Table.Align", dwTALeft, dwTARight> align{dwTALeft};

@@ -14,14 +14,14 @@ enum dwTableBorder : std::int32_t {
     dwTBorderVertical = 6,    ///< between the cells
 };
 
-struct TableBorderValues {
+struct DRAFTWICK_API TableBorderValues {
     BorderStyle style{dwBSNone};
     Points width{1};
     std::int32_t color = 0;
 };
 
 /// One of the borders of a row (RTF \trbrdrt and its siblings). Refuses once the row is written ("Table").
-class TableBorder final : public Border<TableBorderValues> {
+class DRAFTWICK_API TableBorder final : public Border<TableBorderValues> {
 public:
     TableBorder(Object& table, dwTableBorder) : Border(table) {}
 
@@ -30,7 +30,7 @@ public:
 };
 
 /// The borders of a row.
-class TableBorders final : public BorderCollection<TableBorder, dwTableBorder, 6> {
+class DRAFTWICK_API TableBorders final : public BorderCollection<TableBorder, dwTableBorder, 6> {
 public:
     using BorderCollection::BorderCollection;
     static const Class& Describe();

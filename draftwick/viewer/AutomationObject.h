@@ -13,7 +13,7 @@ namespace draftwick {
 ///
 /// What the other program refuses is std::system_error with the system's code. A date, and an object that is not an
 /// AutomationObject, cannot be sent: error 13.
-class AutomationObject final : public Node {
+class DRAFTWICK_API AutomationObject final : public Node {
 public:
     AutomationObject(const Origin& origin, std::shared_ptr<platform::AutomationObject> object);
 

@@ -3,20 +3,13 @@
 #include <draftwick/base/Object.h>
 #include <draftwick/platform/Platform.h>
 #include <draftwick/viewer/AutomationObject.h>
+#include <draftwick/viewer/ViewerKind.h>
 
 #include <cstdint>
 #include <memory>
 #include <string>
 
 namespace draftwick {
-
-/// The programs that show or print a document.
-enum dwViewer : std::int32_t {
-    dwViewerAuto = 1,  ///< the first that works: Word 2000, Word 97, then the viewer program
-    dwViewerWord97 = 2,
-    dwViewerWord2000 = 3,
-    dwViewerWordView97 = 4,  ///< Word Viewer 97; on POSIX the desktop's program for documents
-};
 
 /// Hands a finished document to a program that shows or prints it, and keeps which one it was. Never closes it.
 class Viewer {

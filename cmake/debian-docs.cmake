@@ -1,0 +1,11 @@
+# Run by CPack before it makes the packages: puts the documents where Debian wants those of each package.
+cmake_path(GET CPACK_RESOURCE_FILE_LICENSE PARENT_PATH source)
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} upper)
+    set(docs ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr/share/doc)
+    file(REMOVE_RECURSE ${docs}/draftwick)
+    set(docs ${docs}/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
+    configure_file(${source}/LICENSE ${docs}/copyright COPYONLY)
+    configure_file(${source}/CHANGELOG.md ${docs}/changelog COPYONLY)
+    execute_process(COMMAND gzip -9n ${docs}/changelog COMMAND_ERROR_IS_FATAL ANY)
+endforeach()

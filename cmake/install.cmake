@@ -1,0 +1,69 @@
+# What is installed, in two components: runtime (the shared library, the licence) and development (all else).
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+install(TARGETS draftwick EXPORT draftwick
+    RUNTIME COMPONENT runtime
+    LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE COMPONENT development
+    FILE_SET HEADERS COMPONENT development)
+
+# find_package(draftwick)
+set(cmake_folder ${CMAKE_INSTALL_LIBDIR}/cmake/draftwick)
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/draftwick-config.cmake.in
+    ${PROJECT_BINARY_DIR}/draftwick-config.cmake INSTALL_DESTINATION ${cmake_folder}
+    NO_SET_AND_CHECK_MACRO NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/draftwick-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(EXPORT draftwick NAMESPACE draftwick:: FILE draftwick-targets.cmake
+    DESTINATION ${cmake_folder} COMPONENT development)
+install(FILES
+    ${PROJECT_BINARY_DIR}/draftwick-config.cmake ${PROJECT_BINARY_DIR}/draftwick-config-version.cmake
+    DESTINATION ${cmake_folder} COMPONENT development)
+
+# pkg-config draftwick. An archive brings what it needs only by pkg-config --static.
+set(pc_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH pc_to_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" pc_to_prefix ${pc_to_prefix})
+file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
+file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+if(BUILD_SHARED_LIBS)
+    set(pc_requires "")
+    set(pc_libs "")
+endif()
+list(JOIN pc_libs " " pc_libs)
+configure_file(${PROJECT_SOURCE_DIR}/cmake/draftwick.pc.in ${PROJECT_BINARY_DIR}/draftwick.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/draftwick.pc DESTINATION ${pc_folder} COMPONENT development)
+
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+
+# cpack -G DEB, from a build for the prefix /usr: see the preset package.
+set(CPACK_PACKAGE_VENDOR "Draftwick")
+set(CPACK_PACKAGE_CONTACT "The Draftwick developers <draftwick@localhost>")
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libdraftwick${PROJECT_VERSION_MAJOR})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libdraftwick-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+if(BUILD_SHARED_LIBS)
+    set(CPACK_COMPONENTS_ALL runtime development)
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+        "libdraftwick${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+else()
+    set(CPACK_COMPONENTS_ALL development)
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libgif-dev, libjpeg-dev")
+endif()
+string(CONCAT description
+    "Draftwick streams documents of sections, paragraphs, tables, lists, notes,\n"
+    "fields, shapes and pictures to one RTF file.")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "${description} This is the shared library.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "${description} These are its headers and\nwhat CMake and pkg-config need.")
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/debian-docs.cmake)
+include(CPack)
