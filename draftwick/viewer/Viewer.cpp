@@ -130,7 +130,7 @@ std::string Viewer::FindViewerCommand() const {
     Registry registry(*platform_.registry);
     registry.SetRoot(platform::RegistryRoot::LocalMachine);
     registry.SetPath("SOFTWARE\\Classes\\Word.Document.8\\shell\\wordview");
-    if (const std::string command = registry.ReadString("command", "", ""); !command.empty()) return command;
+    if (std::string command = registry.ReadString("command", "", ""); !command.empty()) return command;
 
     registry.SetRoot(platform::RegistryRoot::CurrentUser);
     registry.SetPath("Software\\Microsoft\\Word Viewer\\8.0");

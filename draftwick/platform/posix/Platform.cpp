@@ -55,7 +55,7 @@ std::string LocalTimeText(std::time_t time) {
     std::tm local{};
     ::localtime_r(&time, &local);
     char text[32] = "";
-    std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
+    (void)std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
     return text;
 }
 

@@ -17,7 +17,7 @@
 #include <unistd.h>
 #include <vector>
 
-extern char** environ;
+extern char** environ;  // NOLINT(readability-redundant-declaration): only some systems declare it
 
 namespace draftwick::platform::posix {
 
@@ -92,6 +92,7 @@ public:
 
     pid_t Spawn(std::vector<std::string>& words) const {
         std::vector<char*> arguments;
+        arguments.reserve(words.size() + 1);
         for (std::string& word : words) arguments.push_back(word.data());
         arguments.push_back(nullptr);
         pid_t task = 0;
