@@ -34,6 +34,7 @@ enum dwFootnoteFormat : std::int32_t {
     dwFFRomanLower = 4,
     dwFFRomanUpper = 5,
 };
+/// Where footnotes stand.
 enum dwFootnoteLocation : std::int32_t { dwFLBeneathText = 1, dwFLBottomOfPage = 2 };
 /// Where endnotes are collected: at the end of their section or of the document.
 enum dwEndnoteLocation : std::int32_t { dwELSection = 1, dwELDocument = 2 };

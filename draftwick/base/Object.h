@@ -22,6 +22,7 @@ public:
     NoRef() = default;
     explicit NoRef(const std::shared_ptr<Object>& object);
 
+    /// The object; empty once it is gone.
     std::shared_ptr<Object> Resolve() const { return object_.lock(); }
     /// The class of the object, also when the object is gone.
     const Class* ClassOf() const noexcept { return class_; }

@@ -39,7 +39,9 @@ DRAFTWICK_API void CheckRange(std::int32_t value, std::int32_t bound1, std::int3
 
 /// Picture sizes. HIMETRIC is a hundredth of a millimetre, 2540 to the inch.
 DRAFTWICK_API double TwipsToInches(std::int32_t twips) noexcept;
+/// To the nearest hundredth of a millimetre. Error 6 when it does not fit 32 bits.
 DRAFTWICK_API std::int32_t InchesToHimetric(double inches);
+/// As InchesToHimetric.
 DRAFTWICK_API std::int32_t TwipsToHimetric(std::int32_t twips);
 /// Rounded down, on a screen with so many twips to a pixel (15 on the usual 96 dots per inch).
 DRAFTWICK_API std::int32_t HimetricToPixels(std::int32_t himetric, double twipsPerPixel = 15);

@@ -11,7 +11,7 @@ class Object;
 
 /// A calendar date and time of day, without a time zone. Not checked by itself; whoever takes one checks it.
 struct Date {
-    std::int32_t year = 0;
+    std::int32_t year = 0;    ///< 1..9999
     std::int32_t month = 0;   ///< 1..12
     std::int32_t day = 0;     ///< 1..31
     std::int32_t hour = 0;    ///< 0..23

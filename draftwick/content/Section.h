@@ -22,6 +22,7 @@ enum dwSectionBreak : std::int32_t {
 enum dwLineNumberingRestart : std::int32_t { dwLNRSection = 1, dwLNRPage = 2, dwLNRContinuous = 3 };
 /// Whether the numbers of pages start again with the section.
 enum dwPageNumberingRestart : std::int32_t { dwPNRSection = 1, dwPNRContinuous = 2 };
+/// How page numbers are written.
 enum dwPageNumberingFormat : std::int32_t {
     dwPNDecimal = 1,
     dwPNRomanLower = 2,
@@ -138,6 +139,7 @@ public:
     dwVerticalAlign VerticalAlign() const { return values_.verticalAlign; }
     void SetVerticalAlign(dwVerticalAlign align) { Change(values_.verticalAlign, align); }
 
+    /// The lines around the pages of the section.
     std::shared_ptr<draftwick::PageBorders> PageBorders() { return Share(pageBorders_); }
 
     /// The columns that the text runs in.

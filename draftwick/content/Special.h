@@ -9,6 +9,8 @@ class DRAFTWICK_API Special final : public Node {
 public:
     Special() : Node(Origin{}) {}
 
+    /// The codes of breaks, of characters that the file's code page may not have, and of what the reader works out:
+    /// dates, times, numbers of pages, sections and notes.
     static std::string_view Annotation() { return "\\chatn"; }
     static std::string_view Bullet() { return "\\bullet"; }
     static std::string_view ColumnBreak() { return "\\column"; }

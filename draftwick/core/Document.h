@@ -76,6 +76,8 @@ public:
     dwScaleMode ScaleMode() const { return settings_.scaleMode; }
     void SetScaleMode(dwScaleMode scale) { settings_.scaleMode.Set(scale); }
 
+    /// The fonts, lists and styles that the content refers to by name. Fonts and styles must be there before the first
+    /// section is added, lists before Finish.
     std::shared_ptr<draftwick::Fonts> Fonts() const { return fonts_; }
     std::shared_ptr<draftwick::Lists> Lists() const { return lists_; }
     std::shared_ptr<draftwick::ParagraphStyles> ParagraphStyles() const { return paragraphStyles_; }

@@ -43,7 +43,9 @@ class DRAFTWICK_API Property final : public Node {
 public:
     Property(const Origin& origin, std::string name, std::int32_t index);
 
+    /// "Title" and the like, or the name it was added with.
     const std::string& Name() const noexcept { return name_; }
+    /// Whether it is one of dwBuiltInProperty, which cannot be removed.
     bool BuiltIn() const noexcept { return builtIn_; }
 
     /// Of a built-in property fixed: text up to dwBIPHyperlinkBase, date up to dwBIPBackupTime, then integer. Of a

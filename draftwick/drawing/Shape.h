@@ -151,6 +151,8 @@ public:
     bool InLine() const { return values_.inLine; }
     void SetInLine(bool on) { Change(values_.inLine, on); }
 
+    /// The inside, the outline, the shadow, the text box, the depth and the drawn text of the shape. Each is there from
+    /// its first use on and refuses when the shape refuses.
     std::shared_ptr<ShapeFill> Fill() { return Share(fill_.Get(*this)); }
     std::shared_ptr<ShapeLine> Line() { return Share(line_.Get(*this)); }
     std::shared_ptr<ShapeShadow> Shadow() { return Share(shadow_.Get(*this)); }

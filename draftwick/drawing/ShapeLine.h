@@ -22,6 +22,7 @@ enum dwShapeLineTexture : std::int32_t {
     dwSLTPattern = 2,
     dwSLTPicture = 3,
 };
+/// What an outline is broken into.
 enum dwShapeLineDash : std::int32_t {
     dwSLDSolid = 1,
     dwSLDDashWin = 2,  ///< the dashes and dots of system pens
@@ -44,7 +45,9 @@ enum dwShapeLineArrow : std::int32_t {
     dwSLAOval = 5,
     dwSLAOpen = 6,
 };
+/// How wide and how long an arrow is against the width of its line.
 enum dwShapeLineArrowWidth : std::int32_t { dwSLAWNarrow = 1, dwSLAWMedium = 2, dwSLAWWide = 3 };
+/// As dwShapeLineArrowWidth.
 enum dwShapeLineArrowLength : std::int32_t { dwSLALShort = 1, dwSLALMedium = 2, dwSLALLong = 3 };
 
 /// The outline of a shape. Refuses once the shape is written ("Shape"). Colours have red in the lowest byte, then

@@ -4,6 +4,7 @@
 
 namespace draftwick {
 
+/// How many shadows a shape throws.
 enum dwShapeShadowStyle : std::int32_t {
     dwSSSNone = 1,
     dwSSSSingle = 2,

@@ -94,8 +94,7 @@ public:
     bool Normalize() const { return values_.normalize; }
     void SetNormalize(bool on) { Change(values_.normalize, on); }
 
-    // The look of the letters. Default false each.
-
+    /// The look of the letters. Default false each.
     bool Bold() const { return values_.bold; }
     void SetBold(bool on) { Change(values_.bold, on); }
     bool Italic() const { return values_.italic; }

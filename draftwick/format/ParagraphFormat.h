@@ -45,6 +45,7 @@ public:
         std::int32_t list = -1;        // the position in the document's lists, or NoList
         std::int32_t listFormat = -1;  // likewise
     };
+    /// Where a paragraph belongs to no list.
     static constexpr std::int32_t NoList = -1;
 
     /// Starts from the defaults and the document's WidowOrphanControl.

@@ -22,6 +22,7 @@ public:
     /// The position among the styles of its kind, from 0.
     std::int32_t StyleIndex() const noexcept { return index_; }
 
+    /// The index of no style.
     static constexpr std::int32_t NoStyle = -1;
 
 private:
@@ -46,6 +47,7 @@ public:
     std::string NextStyle() const { return NameOf(nextStyle_); }
     void SetNextStyle(std::string_view name);
 
+    /// What paragraphs of the style get: layout, look of the text, lines around, what stands behind.
     std::shared_ptr<ParagraphFormat> Format() { return Share(format_); }
     std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
     std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_); }
@@ -87,6 +89,7 @@ public:
     std::string BasedOn() const;
     void SetBasedOn(std::string_view name);
 
+    /// What runs of the style look like: the text, the line around it, what stands behind.
     std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
     std::shared_ptr<TextBorder> Border() { return Share(border_); }
     std::shared_ptr<draftwick::Background> Background() { return Share(background_); }

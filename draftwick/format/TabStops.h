@@ -60,6 +60,7 @@ public:
     /// Removes all tab stops. Refuses as Add does.
     void Clear();
 
+    /// How many tab stops there are.
     std::int32_t Count() const noexcept { return static_cast<std::int32_t>(stops_.size()); }
     /// The tab stop at a position from 1. Error 6 outside of a byte, error 9 when there is none.
     std::shared_ptr<TabStop> Items(std::int32_t index) const;

@@ -23,8 +23,11 @@ class DRAFTWICK_API AutomationObject {
 public:
     virtual ~AutomationObject() = default;
 
+    /// The value of a property.
     virtual AutomationValue Get(const std::string& property) = 0;
+    /// Sets a property.
     virtual void Put(const std::string& property, const AutomationValue& value) = 0;
+    /// Calls a method and gives its result, or nothing.
     virtual AutomationValue Call(const std::string& method, std::span<const AutomationValue> arguments) = 0;
 };
 

@@ -40,7 +40,9 @@ class DRAFTWICK_API FileSystem {
 public:
     virtual ~FileSystem() = default;
 
+    /// Opens a new file for writing, or sets `error` and gives nothing.
     virtual std::unique_ptr<File> Create(const std::string& name, Creation mode, std::error_code& error) = 0;
+    /// Opens a file that is there for reading, or sets `error` and gives nothing.
     virtual std::unique_ptr<File> OpenForReading(const std::string& name, std::error_code& error) = 0;
 
     /// Whether a regular file of that name exists.

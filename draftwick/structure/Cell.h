@@ -52,6 +52,7 @@ public:
     double Width() const { return Read(values_.width); }
     void SetWidth(double length) { Change(values_.width, length); }
 
+    /// What stands behind the cell, and the lines around it. Each is there from its first use on.
     std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
     std::shared_ptr<CellBorders> Borders() { return Share(borders_.Get(*this)); }
 

@@ -62,6 +62,7 @@ public:
     bool KeepTogether() const { return values_.keepTogether; }
     void SetKeepTogether(bool on) { Change(values_.keepTogether, on); }
 
+    /// The lines around and in the row. Readers that draw only those of cells are common.
     std::shared_ptr<TableBorders> Borders() { return Share(borders_.Get(*this)); }
     /// Where the row stands on the page; all rows of a table should say the same.
     std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(*this)); }

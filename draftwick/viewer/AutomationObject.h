@@ -17,6 +17,7 @@ class DRAFTWICK_API AutomationObject final : public Node {
 public:
     AutomationObject(const Origin& origin, std::shared_ptr<platform::AutomationObject> object);
 
+    /// Reads or sets a property of the object.
     Variant GetProperty(std::string_view name) const;
     void SetProperty(std::string_view name, const Variant& value) const;
     /// Calls a method. The first empty argument ends the list of arguments.

@@ -1,0 +1,90 @@
+// Notes and bookmarks: a footnote, endnotes at the end, and a reference to a marked place.
+//
+// usage: notes OUTPUT.rtf
+#include <draftwick/draftwick.h>
+
+#include <exception>
+#include <iostream>
+
+using namespace draftwick;
+
+namespace {
+
+// [note]
+// Readers count the notes. The number stands where the text refers to the note, and once more where the note begins.
+void AddNumber(Paragraph& paragraph) {
+    auto number = paragraph.AddTextItem("");
+    number->FontFormat()->SetSuperscript(true);
+    number->AddSpecial(Special::Footnote());
+}
+
+void AddNote(Paragraph& paragraph, const char* text, bool isEndnote = false) {
+    AddNumber(paragraph);
+    auto note = paragraph.AddFootnote(isEndnote)->AddParagraph();  // a note has one paragraph
+    note->SetStyleName("Normal");
+    note->FontFormat()->SetSize(9);
+    AddNumber(*note);
+    note->AddTextItem(" ");
+    note->AddTextItem(text);
+}
+// [note]
+
+std::shared_ptr<Paragraph> AddParagraph(Section& section) {
+    auto paragraph = section.AddParagraph();
+    paragraph->SetStyleName("Normal");
+    return paragraph;
+}
+
+void WriteNotes(const char* filename) {
+    auto document = Document::Create();
+    document->SetFilename(filename);
+    // [settings]
+    document->SetEndnoteFormat(dwFFRomanLower);
+    document->SetEndnoteLocation(dwELDocument);
+    // [settings]
+    document->SetPageWidth(5.83);
+    document->SetPageHeight(4.5);
+    document->Fonts()->Add("Times New Roman")->SetFamily(dwRoman);
+    document->SetDefaultFontName("Times New Roman");
+    auto normal = document->ParagraphStyles()->Add("Normal");
+    normal->FontFormat()->SetSize(11);
+    normal->Format()->SetSpaceAfter(6);
+
+    auto section = document->AddSection();
+    // [text]
+    auto first = AddParagraph(*section);
+    first->AddTextItem("The town bought its first fire engine in ");
+    // A bookmark has a start and an end with the same name.
+    first->AddBookmark("engine");
+    first->AddTextItem("1862");
+    first->AddBookmark("engine", false);
+    AddNote(*first, "It was drawn by the mayor’s horses, and by the mayor when they were out.");
+    first->AddTextItem(", second-hand, with forty buckets");
+    AddNote(*first, "Council minutes, volume 7, page 112.", true);
+    first->AddTextItem(" and one hose.");
+
+    auto second = AddParagraph(*section);
+    second->AddTextItem(
+        "The hose was the one that had been lent out before. It came back three years after ");
+    second->AddField("REF engine", "1862");  // what is between the two marks
+    second->AddTextItem(", patched in eleven places");
+    AddNote(*second, "Nine, according to the brewery.");
+    second->AddTextItem(".");
+    // [text]
+    document->Finish();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: notes OUTPUT.rtf\n";
+        return 2;
+    }
+    try {
+        WriteNotes(argv[1]);
+    } catch (const std::exception& error) {
+        std::cerr << "notes: " << error.what() << '\n';
+        return 1;
+    }
+}

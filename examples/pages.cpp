@@ -1,0 +1,102 @@
+// Pages: paper and margins, headers and footers, a first page that differs, text in two columns.
+//
+// usage: pages OUTPUT.rtf
+#include <draftwick/draftwick.h>
+
+#include <exception>
+#include <iostream>
+
+using namespace draftwick;
+
+namespace {
+
+void AddText(Container& container, const char* style, const char* text) {
+    auto paragraph = container.AddParagraph();
+    paragraph->SetStyleName(style);
+    paragraph->AddTextItem(text);
+}
+
+// [header]
+// Headers and footers belong to a section and come before its text. The first page has its own once TitlePage is on.
+void AddHeaders(Section& section) {
+    auto running = section.AddHeader(dwHeader)->AddParagraph();
+    running->SetStyleName("Running title");
+    running->AddTextItem("The lighthouse keeper’s log");
+
+    auto footer = section.AddHeader(dwFooter)->AddParagraph();
+    footer->SetStyleName("Running title");
+    footer->AddTextItem("Page ");
+    footer->AddField("PAGE", "1");  // readers work it out; 1 is shown until they do
+}
+// [header]
+
+void AddStyles(Document& document) {
+    document.Fonts()->Add("Times New Roman")->SetFamily(dwRoman);
+    document.SetDefaultFontName("Times New Roman");
+    auto normal = document.ParagraphStyles()->Add("Normal");
+    normal->FontFormat()->SetSize(10);
+    normal->Format()->SetSpaceAfter(5);
+    const auto add = [&](const char* name, dwParagraphAlign align, double size) {
+        auto style = document.ParagraphStyles()->Add(name);
+        style->SetBasedOn("Normal");
+        style->Format()->SetAlign(align);
+        style->FontFormat()->SetSize(size);
+    };
+    add("Cover", dwAlignCenter, 22);
+    add("Entry", dwAlignJustify, 10);
+    add("Running title", dwAlignCenter, 8.5);
+}
+
+void WritePages(const char* filename) {
+    auto document = Document::Create();
+    document->SetFilename(filename);
+    // [paper]
+    document->SetPageWidth(5.83);  // A5, in inches
+    document->SetPageHeight(8.27);
+    document->SetMarginTop(0.9);
+    document->SetMarginBottom(0.9);
+    document->SetMarginLeft(0.7);
+    document->SetMarginRight(0.7);
+    // [paper]
+    AddStyles(*document);
+
+    // [sections]
+    // A section starts with the document's page and can have another. Its settings are written when it gets its first
+    // header, paragraph or row.
+    auto cover = document->AddSection();
+    cover->SetTitlePage(true);
+    cover->SetVerticalAlign(dwVertCenter);
+    AddText(*cover->AddHeader(dwFooterFirst), "Running title", "Not to be taken ashore");
+    AddText(*cover, "Cover", "The lighthouse keeper’s log");
+    AddText(*cover, "Running title", "January to March");
+
+    auto log = document->AddSection();
+    log->SetHeaderY(0.4);
+    log->SetFooterY(0.4);
+    log->Columns()->Auto(2, 0.3);
+    log->Columns()->SetLineBetween(true);
+    AddHeaders(*log);
+    for (int week = 1; week <= 12; ++week) {
+        AddText(*log, "Entry",
+                "Wind from the north-west, cloud at noon. Two colliers and a brig passed inside the bank; "
+                "the brig "
+                "showed no light. Trimmed the wicks at four and wound the clock. The hens do not lay.");
+    }
+    // [sections]
+    document->Finish();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: pages OUTPUT.rtf\n";
+        return 2;
+    }
+    try {
+        WritePages(argv[1]);
+    } catch (const std::exception& error) {
+        std::cerr << "pages: " << error.what() << '\n';
+        return 1;
+    }
+}
