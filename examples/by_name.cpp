@@ -18,7 +18,6 @@ namespace {
 // A line is: a new name, or "-" for none; an object; a member of it, with "=" in front to set a property; values.
 constexpr const char* Script = R"(
 -         document  =MarginLeft     1.5
--         document  =PageHeight     3
 fonts     document  Fonts
 -         fonts     Add             'Arial'
 -         document  =DefaultFontName 'Arial'

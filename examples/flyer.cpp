@@ -173,6 +173,7 @@ void DrawBurst(Paragraph& anchor) {
     AddLine(*burst, "Stamp", "Free!");
 }
 
+// [box]
 void AddProgramme(Paragraph& anchor) {
     auto box = AddShape(anchor, dwSKTextBox, 3.4, 4.7, 3.5, 1.75);
     box->Line()->SetColor(Navy);
@@ -195,6 +196,7 @@ void AddProgramme(Paragraph& anchor) {
     }
     AddLine(*box, "Copy", "Soup while there is any.");
 }
+// [box]
 
 void WriteFlyer(const std::string& filename) {
     const std::string sunset = filename + ".sunset.jpg";

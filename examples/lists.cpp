@@ -55,9 +55,7 @@ void WriteLists(const char* filename) {
     document->Fonts()->Add("Arial")->SetFamily(dwSwiss);
     document->SetDefaultFontName("Arial");
     AddLists(*document);
-    auto normal = document->ParagraphStyles()->Add("Normal");
-    normal->FontFormat()->SetSize(11);
-    normal->Format()->SetSpaceAfter(4);
+    document->ParagraphStyles()->Add("Normal")->Format()->SetSpaceAfter(4);
     AddStyle(*document, "Step", "Steps", 1, 0.35);
     AddStyle(*document, "Substep", "Steps", 2, 0.7);
     AddStyle(*document, "Tool", "Tools", 1, 0.35);

@@ -17,6 +17,7 @@ struct Account {
     const char* holder;
     int balance;
 };
+constexpr const char* Months[] = {"January", "February", "March", "April"};
 constexpr Account Accounts[] = {{"A. Alder", 120}, {"B. Birch", 75}, {"C. Cedar", 230}, {"D. Dogwood", 18}};
 
 // [one]
@@ -30,6 +31,7 @@ void WriteStatement(const Account& account, const std::string& filename) {
     auto normal = document->ParagraphStyles()->Add("Normal");
     normal->FontFormat()->SetSize(11);
     normal->Format()->SetSpaceAfter(6);
+    normal->TabStops()->Add(2.5, dwTabDecimal, dwTabLeaderDots);
 
     auto section = document->AddSection();
     const auto add = [&](const std::string& text) {
@@ -38,8 +40,8 @@ void WriteStatement(const Account& account, const std::string& filename) {
         paragraph->AddTextItem(text);
     };
     add(std::string{"Statement for "} + account.holder);
-    for (int month = 1; month <= 12; ++month) {
-        add("Month " + std::to_string(month) + ": " + std::to_string(account.balance * month) + ".00");
+    for (int month = 0; month < 4; ++month) {
+        add(std::string{Months[month]} + '\t' + std::to_string(account.balance * (month + 1)) + ".00");
     }
     document->Finish();
 }

@@ -10,6 +10,28 @@ using namespace draftwick;
 
 namespace {
 
+constexpr const char* Entries[] = {
+    "3 January. Wind from the north-west, cloud at noon. Two colliers and a brig passed inside the bank; the "
+    "brig "
+    "showed no light. Trimmed the wicks at four and wound the clock. The hens do not lay.",
+    "9 January. Fog since Tuesday. Rang the bell every two minutes by turns with my wife, who says that I "
+    "ring it too "
+    "fast. Heard oars about midnight and called; a voice asked the way to the Hook and did not wait for the "
+    "answer.",
+    "17 January. Clear, hard frost. Counted forty sail from the gallery. The supply boat brought oil, flour, "
+    "a letter "
+    "for the keeper before me and no tobacco.",
+    "2 February. Gale. The spray froze on the panes and had to be scraped off from outside, on a rope. Light "
+    "burning "
+    "all night. One pane cracked.",
+    "11 February. The hens lay. Sold six eggs to the pilot, who paid in tobacco.",
+    "24 February. Inspector on the rock for two hours. He found the brass bright and the log too long.",
+    "6 March. Fair.",
+    "19 March. First swallow, or a bat. Painted the boat and, while there was paint, the door, the bench and "
+    "one of the "
+    "hens, which had sat on it.",
+};
+
 void AddText(Container& container, const char* style, const char* text) {
     auto paragraph = container.AddParagraph();
     paragraph->SetStyleName(style);
@@ -43,7 +65,8 @@ void AddStyles(Document& document) {
         style->FontFormat()->SetSize(size);
     };
     add("Cover", dwAlignCenter, 22);
-    add("Entry", dwAlignJustify, 10);
+    document.ParagraphStyles()->Items("Cover")->Format()->SetSpaceBefore(170);
+    add("Entry", dwAlignJustify, 12.5);
     add("Running title", dwAlignCenter, 8.5);
 }
 
@@ -65,7 +88,6 @@ void WritePages(const char* filename) {
     // header, paragraph or row.
     auto cover = document->AddSection();
     cover->SetTitlePage(true);
-    cover->SetVerticalAlign(dwVertCenter);
     AddText(*cover->AddHeader(dwFooterFirst), "Running title", "Not to be taken ashore");
     AddText(*cover, "Cover", "The lighthouse keeper’s log");
     AddText(*cover, "Running title", "January to March");
@@ -76,12 +98,7 @@ void WritePages(const char* filename) {
     log->Columns()->Auto(2, 0.3);
     log->Columns()->SetLineBetween(true);
     AddHeaders(*log);
-    for (int week = 1; week <= 12; ++week) {
-        AddText(*log, "Entry",
-                "Wind from the north-west, cloud at noon. Two colliers and a brig passed inside the bank; "
-                "the brig "
-                "showed no light. Trimmed the wicks at four and wound the clock. The hens do not lay.");
-    }
+    for (const char* entry : Entries) AddText(*log, "Entry", entry);
     // [sections]
     document->Finish();
 }

@@ -1,4 +1,4 @@
-// Shapes: figures with fills, outlines and shadows, lines with arrows, and text in a box.
+// Shapes: a chart of rectangles with fills, outlines and shadows.
 //
 // usage: shapes OUTPUT.rtf
 #include <draftwick/draftwick.h>
@@ -27,40 +27,30 @@ std::shared_ptr<Shape> AddShape(Paragraph& anchor, dwShapeKind kind, double left
 }
 // [shape]
 
-// [house]
-void DrawHouse(Paragraph& anchor) {
-    auto sky = AddShape(anchor, dwSKRectangle, 0, 0.6, 6, 2.6, Rgb(120, 180, 230));
-    sky->Fill()->SetStyle(dwSFSShade);  // from one colour to the other
-    sky->Fill()->SetBackColor(Rgb(235, 245, 255));
+// [chart]
+/// A bar for each quarter, on a wall that is shaded from one colour to another.
+void DrawChart(Paragraph& anchor) {
+    constexpr double Base = 3.4;  // where the bars stand
+    auto wall = AddShape(anchor, dwSKRectangle, 0, 0.5, 6, 2.9, Rgb(196, 222, 240));
+    wall->Fill()->SetStyle(dwSFSShade);
+    wall->Fill()->SetBackColor(Rgb(255, 255, 255));
+    wall->Line()->SetColor(Rgb(120, 140, 160));
 
-    auto roof = AddShape(anchor, dwSKIsoscelesTriangle, 1.2, 1.0, 2.2, 0.7, Rgb(150, 60, 45));
-    roof->Line()->SetWidth(1.5);  // points
-    auto wall = AddShape(anchor, dwSKRectangle, 1.4, 1.7, 1.8, 1.5, Rgb(240, 220, 180));
-    wall->Shadow()->SetStyle(dwSSSSingle);
-    wall->Shadow()->SetColor(Rgb(90, 90, 100));
-    AddShape(anchor, dwSKRoundRectangle, 2.1, 2.3, 0.45, 0.9, Rgb(60, 90, 60));
-    AddShape(anchor, dwSKSun, 4.8, 0.8, 0.8, 0.8, Rgb(255, 205, 60))->Line()->SetStyle(dwSLSNone);
-
-    auto arrow = anchor.AddShape(dwSKLine);
-    arrow->SetLeft(3.4);
-    arrow->SetTop(2.0);
-    arrow->SetWidth(0.8);
-    arrow->SetHeight(0.3);
-    arrow->Line()->SetStartArrow(dwSLAArrow);
-    arrow->Line()->SetDash(dwSLDDash);
+    constexpr double Sales[] = {1.1, 1.6, 1.3, 2.3};
+    double left = 0.6;
+    for (const double height : Sales) {
+        auto bar = AddShape(anchor, dwSKRectangle, left, Base - height, 0.7, height, Rgb(40, 110, 160));
+        bar->Line()->SetWidth(1.5);  // points
+        bar->Shadow()->SetStyle(dwSSSSingle);
+        bar->Shadow()->SetColor(Rgb(150, 150, 160));
+        left += 1.3;
+    }
+    // The last one is striking.
+    auto mark = AddShape(anchor, dwSKRectangle, left - 1.3, Base - 2.3, 0.7, 0.35, Rgb(235, 160, 40));
+    mark->Line()->SetStyle(dwSLSDouble);
+    mark->Line()->SetWidth(3);
 }
-// [house]
-
-// [box]
-// A shape holds paragraphs and rows, like a section. It needs no kind of its own for that.
-void AddLabel(Paragraph& anchor) {
-    auto box = AddShape(anchor, dwSKTextBox, 4.2, 2.1, 1.6, 0.75, Rgb(255, 255, 240));
-    box->TextFormat()->SetSpacingLeft(0.1);
-    auto text = box->AddParagraph();
-    text->FontFormat()->SetSize(10);
-    text->AddTextItem("South side: the chimney is not drawn yet.");
-}
-// [box]
+// [chart]
 
 void WriteShapes(const char* filename) {
     auto document = Document::Create();
@@ -73,11 +63,9 @@ void WriteShapes(const char* filename) {
     auto section = document->AddSection();
     auto title = section->AddParagraph();
     title->FontFormat()->SetSize(14);
-    title->AddTextItem("A house by the sea");
-    // All shapes hang on the last paragraph: see the chapter on why.
-    auto anchor = section->AddParagraph();
-    DrawHouse(*anchor);
-    AddLabel(*anchor);
+    title->AddTextItem("Sales by quarter");
+    // Shapes hang on the last paragraph: one without text takes the place of the mark between its paragraph and the next.
+    DrawChart(*section->AddParagraph());
     document->Finish();
 }
 

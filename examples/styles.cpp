@@ -62,9 +62,7 @@ std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, con
 void AddRecipe(Section& section) {
     AddParagraph(section, "Dish", "Nettle soup");
     auto recipe = AddParagraph(section, "Recipe", "Wash ");
-    auto amount = recipe->AddTextItem("300 g");
-    amount->SetStyleName("Amount");
-    amount->FontFormat()->SetBold(true);  // for readers that do not follow text styles
+    recipe->AddTextItem("300 g")->SetStyleName("Amount");
     recipe->AddTextItem(" of young nettle tips and chop them. Fry an onion in butter, add the nettles and ");
     recipe->AddTextItem("a litre")->FontFormat()->SetBold(true);
     recipe->AddTextItem(" of broth, and let it simmer for a quarter of an hour.");

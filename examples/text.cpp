@@ -58,7 +58,9 @@ void WriteText(const char* filename) {
     warning->FontFormat()->SetBold(true);
     warning->FontFormat()->SetColor(Brick);
     text->AddTextItem(" Water leaves the clay as steam, H");
-    text->AddTextItem("2")->FontFormat()->SetSubscript(true);
+    auto two = text->AddTextItem("2");
+    two->FontFormat()->SetSubscript(true);
+    two->FontFormat()->SetSize(8);  // for readers that move the letters and leave them as large as they are
     text->AddTextItem("O and nothing else; what ");
     text->AddTextItem("else")->FontFormat()->SetUnderline(dwUnderlineWave);
     text->AddTextItem(" there is burns off later.");
