@@ -66,7 +66,7 @@ void AddStyles(Document& document) {
     };
     add("Cover", dwAlignCenter, 22);
     document.ParagraphStyles()->Items("Cover")->Format()->SetSpaceBefore(170);
-    add("Entry", dwAlignJustify, 12.5);
+    add("Entry", dwAlignLeft, 12.5);
     add("Running title", dwAlignCenter, 8.5);
 }
 

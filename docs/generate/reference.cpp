@@ -137,9 +137,10 @@ std::map<std::string, std::string> FindHeaders(const fs::path& sources, const st
     for (const fs::path& header : headers) {
         std::istringstream text(ReadFile(header));
         for (std::string line; std::getline(text, line);) {
-            if (!line.starts_with("class ") || line.find(" final") == std::string::npos) continue;
-            found.emplace(line.substr(6, line.find(' ', 6) - 6),
-                          fs::relative(header, sources).generic_string());
+            const auto end = line.find(" final");
+            if (!line.starts_with("class ") || end == std::string::npos) continue;
+            const auto start = line.rfind(' ', end - 1) + 1;
+            found.emplace(line.substr(start, end - start), fs::relative(header, sources).generic_string());
         }
     }
     return found;
