@@ -7,6 +7,7 @@
 #include <draftwick/draftwick.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <cxxabi.h>
 #include <exception>
@@ -95,8 +96,8 @@ std::string DefaultText(const Rule& rule) {
 }
 
 std::string AccessText(const ClassProperty& property) {
-    if (property.set == nullptr) return "read";
-    return property.get == nullptr ? "write" : "read, write";
+    if (property.set == nullptr) return ", read only";
+    return property.get == nullptr ? ", write only" : "";
 }
 
 std::string ArgumentsText(const ClassMethod& method) {
@@ -111,47 +112,145 @@ std::string ArgumentsText(const ClassMethod& method) {
     return text;
 }
 
-void WriteClass(std::ostream& out, const Class& description, const std::string& header) {
-    out << "\n## " << description.name << "\n\n";
-    out << "[draftwick/" << header << "](../../draftwick/" << header << ") · class `" << description.classId
-        << "` · interface `" << description.interfaceId << "`\n";
-    if (!description.properties.empty()) {
-        out << "\n| Property | Holds | Range | Default | Access |\n| --- | --- | --- | --- | --- |\n";
-        for (const ClassProperty& property : description.properties) {
-            out << "| " << property.name << " | " << KindText(property) << " | " << RangeText(property.rule)
-                << " | " << DefaultText(property.rule) << " | " << AccessText(property) << " |\n";
-        }
+std::string Trimmed(const std::string& text) {
+    const auto first = text.find_first_not_of(" \t");
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(" \t,") - first + 1);
+}
+
+/// A comment as Markdown text: RTF words have backslashes and stars.
+std::string Escaped(const std::string& comment) {
+    std::string text;
+    for (const char c : comment) {
+        if (c == '\\' || c == '*' || c == '<' || c == '|') text += '\\';
+        text += c;
     }
-    if (!description.methods.empty()) {
-        out << "\n| Method | Arguments | Gives |\n| --- | --- | --- |\n";
-        for (const ClassMethod& method : description.methods) {
-            out << "| " << method.name << " | " << ArgumentsText(method) << " | " << TypeName(*method.result)
-                << " |\n";
+    return text;
+}
+
+/// What a header says about a class (where it is declared, its base, the comments of its members) or an enumeration.
+struct Declaration {
+    std::string header{};
+    std::string base{};
+    std::string comment{};  // of an enumeration
+    std::map<std::string, std::string> comments{};
+};
+using Declarations = std::map<std::string, Declaration>;
+
+/// "SetWidth" of "    void SetWidth(double points) { ... }"; empty when the line declares no function.
+std::string MemberOf(const std::string& line) {
+    const auto bracket = line.find('(');
+    if (bracket == std::string::npos) return "";
+    auto start = bracket;
+    while (start > 0 && (std::isalnum(static_cast<unsigned char>(line[start - 1])) != 0)) --start;
+    return line.substr(start, bracket - start);
+}
+
+/// "RowContainer" of "class Section final : public RowContainer {", without template arguments.
+std::string BaseOf(const std::string& line) {
+    constexpr std::string_view Public = ": public ";
+    const auto at = line.find(Public);
+    if (at == std::string::npos) return "";
+    const auto start = at + Public.size();
+    return line.substr(start, line.find_first_of("< ,{", start) - start);
+}
+
+/// Reads the classes of a header. A comment holds for what is declared below it, up to the next comment or empty line.
+void ReadDeclarations(const std::string& source, const std::string& header, Declarations& declarations) {
+    std::istringstream lines(source);
+    Declaration* current = nullptr;
+    std::string comment;
+    bool inComment = false;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("enum dw")) {
+            declarations[line.substr(5, line.find(' ', 5) - 5)].comment = comment;
+        } else if (line.starts_with("class ") && line.ends_with('{')) {
+            std::string head = line.substr(0, line.find_first_of(":{"));
+            if (const auto final = head.find(" final"); final != std::string::npos) head.erase(final);
+            head = Trimmed(head);
+            current = &declarations[head.substr(head.rfind(' ') + 1)];
+            current->header = header;
+            current->base = BaseOf(line);
+        } else if (line.starts_with("};")) {
+            current = nullptr;
+        } else if (const auto text = line.find("/// "); text == 0 || text == 4) {
+            comment = (inComment ? comment + ' ' : "") + line.substr(text + 4);
+            inComment = true;
+            continue;
+        } else if (line.empty()) {
+            comment.clear();
+        } else if (current != nullptr && line.starts_with("    ") && line[4] != ' ' && !comment.empty()) {
+            if (const std::string member = MemberOf(line); !member.empty())
+                current->comments.emplace(member, comment);
         }
+        inComment = false;
     }
 }
 
-/// Where each class is declared: the first header that says "class NAME final".
-std::map<std::string, std::string> FindHeaders(const fs::path& sources, const std::set<fs::path>& headers) {
-    std::map<std::string, std::string> found;
-    for (const fs::path& header : headers) {
-        std::istringstream text(ReadFile(header));
-        for (std::string line; std::getline(text, line);) {
-            const auto end = line.find(" final");
-            if (!line.starts_with("class ") || end == std::string::npos) continue;
-            const auto start = line.rfind(' ', end - 1) + 1;
-            found.emplace(line.substr(start, end - start), fs::relative(header, sources).generic_string());
+/// What the header of a class, or of one of its bases, says about a member. What it says about a plain default is left
+/// out: it has a column of its own.
+std::string CommentOf(const Declarations& declarations, std::string name, const std::string& member) {
+    while (!name.empty()) {
+        const auto found = declarations.find(name);
+        if (found == declarations.end()) return "";
+        const auto comment = found->second.comments.find(member);
+        if (comment == found->second.comments.end()) {
+            name = found->second.base;
+            continue;
+        }
+        std::string text;
+        std::string_view rest = comment->second;
+        while (!rest.empty()) {
+            const std::string_view sentence = rest.substr(0, std::min(rest.find(". "), rest.size() - 1) + 1);
+            rest.remove_prefix(std::min(sentence.size() + 1, rest.size()));
+            if (sentence.starts_with("Default") && sentence.find(": ") == std::string_view::npos) continue;
+            text += (text.empty() ? "" : " ") + std::string{sentence};
+        }
+        return Escaped(text);
+    }
+    return "";
+}
+
+/// What a property is. Where its own comment tells no more than the default, its enumeration tells.
+std::string PropertyComment(const Declarations& declarations, const std::string& name,
+                            const ClassProperty& property) {
+    const std::string member{property.name};
+    const std::string comment =
+        CommentOf(declarations, name, property.get == nullptr ? "Set" + member : member);
+    const auto enumeration = declarations.find(PlainName(*property.type));
+    if (!comment.empty() || enumeration == declarations.end()) return comment;
+    return Escaped(enumeration->second.comment);
+}
+
+void WriteClass(std::ostream& out, const Class& description, const Declarations& declarations) {
+    const std::string name{description.name};
+    const std::string& header = declarations.at(name).header;
+    out << "\n## " << name << "\n\n";
+    out << "[draftwick/" << header << "](../../draftwick/" << header << ") · class `" << description.classId
+        << "` · interface `" << description.interfaceId << "`\n";
+    if (!description.properties.empty()) {
+        out << "\n| Property | Holds | Range | Default | |\n| --- | --- | --- | --- | --- |\n";
+        for (const ClassProperty& property : description.properties) {
+            const std::string member{property.name};
+            out << "| " << member << " | " << KindText(property) << AccessText(property) << " | "
+                << RangeText(property.rule) << " | " << DefaultText(property.rule) << " | "
+                << PropertyComment(declarations, name, property) << " |\n";
         }
     }
-    return found;
+    if (!description.methods.empty()) {
+        out << "\n| Method | Arguments | Gives | |\n| --- | --- | --- | --- |\n";
+        for (const ClassMethod& method : description.methods) {
+            out << "| " << method.name << " | " << ArgumentsText(method) << " | " << TypeName(*method.result)
+                << " | " << CommentOf(declarations, name, std::string{method.name}) << " |\n";
+        }
+    }
 }
 
 std::string ClassesPage(const fs::path& sources, const std::set<fs::path>& headers) {
     std::ostringstream out;
     out << R"(# Classes, properties and methods by name
 
-Written by `scripts/docs reference` from the classes' own descriptions. What each member is in the document stands in
-the header that is named below its class; the guide's [chapter on names](../guide/by-name.md) tells how to use them.
+Written by `scripts/docs reference` from the classes' own descriptions and the comments of their headers. The guide's
+[chapter on names](../guide/by-name.md) tells how to use them.
 
 - **Holds**: a *length* is a real number in the document's `ScaleMode` (inches, twips or points), kept as whole twips
   in 16 bits: -32768 to 32767. *any* is a value of any kind. A name with a link is an enumeration or a class.
@@ -167,25 +266,11 @@ the header that is named below its class; the guide's [chapter on names](../guid
     for (const Class* description : Classes()) names.push_back(Link("", std::string{description->name}));
     for (std::size_t i = 0; i < names.size(); ++i) out << (i == 0 ? "" : " ·\n") << names[i];
     out << '\n';
-    const auto found = FindHeaders(sources, headers);
-    for (const Class* description : Classes())
-        WriteClass(out, *description, found.at(std::string{description->name}));
+    Declarations declarations;
+    for (const fs::path& header : headers)
+        ReadDeclarations(ReadFile(header), fs::relative(header, sources).generic_string(), declarations);
+    for (const Class* description : Classes()) WriteClass(out, *description, declarations);
     return out.str();
-}
-
-std::string Trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(" \t");
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(" \t,") - first + 1);
-}
-
-/// A comment as Markdown text: RTF words have backslashes and stars.
-std::string Escaped(const std::string& comment) {
-    std::string text;
-    for (const char c : comment) {
-        if (c == '\\' || c == '*' || c == '<') text += '\\';
-        text += c;
-    }
-    return text;
 }
 
 /// The values of an enumeration: "dwLeft = 1,  ///< what it is" on a line each, or several on one.

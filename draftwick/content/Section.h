@@ -62,7 +62,8 @@ public:
     /// The page is the document's at this moment.
     explicit Section(const Origin& origin);
 
-    /// The page. Default: the document's when the section was added.
+    /// From the edge of the page to the text, and the size of the paper. Default: the document's when the section was
+    /// added.
     double MarginTop() const { return Read(values_.page.marginTop); }
     void SetMarginTop(double length) { Change(values_.page.marginTop, length); }
     double MarginLeft() const { return Read(values_.page.marginLeft); }
@@ -102,7 +103,7 @@ public:
     void SetLineNumberingRestart(dwLineNumberingRestart restart) {
         Change(values_.lineNumberingRestart, restart);
     }
-    /// 16 bits. Default 1.
+    /// The first number of lines, 16 bits. Default 1.
     std::int32_t LineNumberingStart() const { return values_.lineNumberingStart; }
     void SetLineNumberingStart(std::int32_t number) { Change(values_.lineNumberingStart, number); }
     /// Whether lines are numbered at all. Default false: the other line settings are not written.
@@ -120,7 +121,7 @@ public:
     void SetPageNumberingRestart(dwPageNumberingRestart restart) {
         Change(values_.pageNumberingRestart, restart);
     }
-    /// Default 1.
+    /// The first number of pages, for dwPNRSection. Default 1.
     std::int32_t PageNumberingStart() const { return values_.pageNumberingStart; }
     void SetPageNumberingStart(std::int32_t number) { Change(values_.pageNumberingStart, number); }
 

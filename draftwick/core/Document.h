@@ -92,7 +92,7 @@ public:
 
     // The page. Lengths are 16 bits in twips.
 
-    /// Default 720 twips each.
+    /// From the edge of the page to the text. Default 720 twips each.
     double MarginTop() const { return Read(settings_.page.marginTop); }
     void SetMarginTop(double length) { Change(settings_.page.marginTop, length); }
     double MarginLeft() const { return Read(settings_.page.marginLeft); }
@@ -107,10 +107,10 @@ public:
     /// Room for binding. Default 0.
     double Gutter() const { return Read(settings_.page.gutter); }
     void SetGutter(double length) { Change(settings_.page.gutter, length); }
-    /// Default 12240 twips (8.5 inches).
+    /// The width of the paper. Default 12240 twips (8.5 inches).
     double PageWidth() const { return Read(settings_.page.pageWidth); }
     void SetPageWidth(double length) { Change(settings_.page.pageWidth, length); }
-    /// Default 15840 twips (11 inches).
+    /// The height of the paper. Default 15840 twips (11 inches).
     double PageHeight() const { return Read(settings_.page.pageHeight); }
     void SetPageHeight(double length) { Change(settings_.page.pageHeight, length); }
     /// A change swaps PageWidth and PageHeight. Default dwPortrait.
@@ -119,7 +119,7 @@ public:
     /// Left and right pages differ. Default false.
     bool FacingPage() const { return settings_.facingPage; }
     void SetFacingPage(bool on) { Change(settings_.facingPage, on); }
-    /// 16 bits. Default 1.
+    /// The number of the first page, 16 bits. Default 1.
     std::int32_t PageNumberStart() const { return settings_.pageNumberStart; }
     void SetPageNumberStart(std::int32_t number) { Change(settings_.pageNumberStart, number); }
     /// Page borders go around headers and footers. Default true.
@@ -136,7 +136,7 @@ public:
     /// No single first or last lines of paragraphs on a page. Default true.
     bool WidowOrphanControl() const { return settings_.widowOrphanControl; }
     void SetWidowOrphanControl(bool on) { Change(settings_.widowOrphanControl, on); }
-    /// Default false.
+    /// The reader hyphenates words. Default false.
     bool HyphenAuto() const { return settings_.hyphenAuto; }
     void SetHyphenAuto(bool on) { Change(settings_.hyphenAuto, on); }
     /// Words in capitals are hyphenated, too. Default true.
@@ -160,7 +160,7 @@ public:
     /// Default dwZoomPercent.
     dwZoomKind ZoomKind() const { return settings_.zoomKind; }
     void SetZoomKind(dwZoomKind kind) { Change(settings_.zoomKind, kind); }
-    /// Percent, 16 bits. Default 100.
+    /// How large the reader is asked to show the document: percent, 16 bits, for dwZoomPercent. Default 100.
     std::int32_t ZoomScale() const { return settings_.zoomScale; }
     void SetZoomScale(std::int32_t percent) { Change(settings_.zoomScale, percent); }
 

@@ -96,7 +96,7 @@ public:
     void SetTop(double length) { Change(values_.top, length); }
     double Left() const { return Read(values_.left); }
     void SetLeft(double length) { Change(values_.left, length); }
-    /// Default 1440 twips.
+    /// How wide and how high it is. Default 1440 twips.
     double Width() const { return Read(values_.width); }
     void SetWidth(double length) { Change(values_.width, length); }
     double Height() const { return Read(values_.height); }

@@ -86,7 +86,7 @@ public:
     dwShapeLineDash Dash() const { return values_.dash; }
     void SetDash(dwShapeLineDash dash) { Change(values_.dash, dash); }
 
-    /// Default black.
+    /// The colour of the line, and the first one of a pattern. Default black.
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
     /// The second colour of a pattern. Default black.

@@ -33,7 +33,7 @@ public:
     dwShapeShadowStyle Style() const { return values_.style; }
     void SetStyle(dwShapeShadowStyle style) { Change(values_.style, style); }
 
-    /// Default black.
+    /// The colour of the shadow. Default black.
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
     /// The colour of the second shadow. Default black.

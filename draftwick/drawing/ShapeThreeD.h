@@ -74,7 +74,7 @@ public:
     /// The colour of the sides, with UseColor. Default black.
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
-    /// Default false.
+    /// The surface shines like metal. Default false.
     bool Metallic() const { return values_.metallic; }
     void SetMetallic(bool on) { Change(values_.metallic, on); }
     /// The front is lit, too, not only the sides. Default true.

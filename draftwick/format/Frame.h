@@ -87,7 +87,7 @@ public:
     double Height() const { return Read(values_.height); }
     void SetHeight(double length) { Change(values_.height, length); }
 
-    /// Default false.
+    /// Whether Height is the height of the frame, not the least height. Default false.
     bool HeightExactly() const { return values_.heightExactly; }
     void SetHeightExactly(bool on) { Change(values_.heightExactly, on); }
 
