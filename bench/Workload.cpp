@@ -1,10 +1,11 @@
 // One workload as a whole process, for scripts/bench.
 //
-// usage: draftwick_workload long PARAGRAPHS FILE        one long document
-//        draftwick_workload small DOCUMENTS THREADS FOLDER   many small documents
-//        draftwick_workload text MEGABYTES FILE         items of 1 MB of mixed text
-//        draftwick_workload formatted PARAGRAPHS FILE   every run and paragraph with a look of its own
-//        draftwick_workload floor BYTES FILE            the same number of bytes without a library
+// usage: draftwick_workload long PARAGRAPHS FILE               one long document
+//        draftwick_workload small DOCUMENTS THREADS FOLDER     many small documents
+//        draftwick_workload text MEGABYTES FILE                items of 1 MB of mixed text
+//        draftwick_workload formatted PARAGRAPHS FILE          every run and paragraph with a look of its own
+//        draftwick_workload floor BYTES FILE                   the same number of bytes without a library
+//        draftwick_workload floors BYTES DOCUMENTS THREADS FOLDER   the same for many documents
 #include <draftwick/draftwick.h>
 
 #include <algorithm>
@@ -12,7 +13,10 @@
 #include <charconv>
 #include <cstdio>
 #include <exception>
+#include <functional>
 #include <iostream>
+#include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -73,18 +77,20 @@ void WriteLong(long paragraphs, const std::string& file) {
     WriteParagraphs(*document, paragraphs);
 }
 
+/// Writes many files, each thread its share of them.
+void WriteMany(long count, long threads, const std::string& folder,
+               const std::function<void(const std::string& file)>& write) {
+    const auto share = [&](long thread) {
+        for (long i = thread; i < count; i += threads) write(folder + "/" + std::to_string(i) + ".rtf");
+    };
+    std::vector<std::thread> others;
+    for (long thread = 1; thread < threads; ++thread) others.emplace_back(share, thread);
+    share(0);
+    for (std::thread& other : others) other.join();
+}
+
 void WriteSmall(long documents, long threads, const std::string& folder) {
-    std::vector<std::thread> workers;
-    for (long thread = 0; thread < threads; ++thread) {
-        workers.emplace_back([=] {
-            for (long i = thread; i < documents; i += threads) {
-                auto document = Document::Create();
-                document->SetFilename(folder + "/" + std::to_string(i) + ".rtf");
-                WriteParagraphs(*document, 20);
-            }
-        });
-    }
-    for (std::thread& worker : workers) worker.join();
+    WriteMany(documents, threads, folder, [](const std::string& file) { WriteLong(20, file); });
 }
 
 void WriteText(long megabytes, const std::string& file) {
@@ -104,27 +110,35 @@ void WriteText(long megabytes, const std::string& file) {
 void WriteFormatted(long paragraphs, const std::string& file) {
     auto document = Document::Create();
     document->SetFilename(file);
-    constexpr int Variants = 50;
-    const auto name = [](const char* kind, long i) { return kind + std::to_string(i % Variants); };
+    constexpr long Variants = 50;
+    std::vector<std::string> fonts, lists, styles;
     for (long i = 0; i < Variants; ++i) {
-        document->Fonts()->Add(name("Font ", i));
-        document->Lists()->Add(name("List ", i));
-        auto style = document->ParagraphStyles()->Add(name("Style ", i));
-        style->FontFormat()->SetFontName(name("Font ", i));
+        const std::string number = std::to_string(i);
+        document->Fonts()->Add(fonts.emplace_back("Font " + number));
+        document->Lists()->Add(lists.emplace_back("List " + number));
+        auto style = document->ParagraphStyles()->Add(styles.emplace_back("Style " + number));
+        style->FontFormat()->SetFontName(fonts.back());
         style->Borders()->Items(dwPBorderTop)->SetStyle(dwBSSingle);
         style->TabStops()->Add(1, dwTabRight, dwTabLeaderDots);
     }
+    const auto of = [](const std::vector<std::string>& names, long i) -> const std::string& {
+        return names[static_cast<std::size_t>(i % Variants)];
+    };
     auto section = document->AddSection();
     for (long i = 0; i < paragraphs; ++i) {
         auto paragraph = section->AddParagraph();
-        paragraph->SetStyleName(name("Style ", i));
+        paragraph->SetStyleName(of(styles, i));
         auto format = paragraph->Format();
-        format->SetListName(name("List ", i));
+        format->SetListName(of(lists, i));
         format->SetListLevel(static_cast<std::int32_t>(i % 9 + 1));
+        auto border = paragraph->Borders()->Items(dwPBorderBottom);
+        border->SetStyle(dwBSDouble);
+        border->SetColor(static_cast<std::int32_t>(i % 100));
+        paragraph->TabStops()->Add(static_cast<double>(i % 6 + 1), dwTabCenter, dwTabLeaderNone);
         for (long run = 0; run < 4; ++run) {
             auto item = paragraph->AddTextItem("a run with a look of its own ");
             auto font = item->FontFormat();
-            font->SetFontName(name("Font ", i + run));
+            font->SetFontName(of(fonts, i + run));
             font->SetSize(static_cast<double>(8 + run));
             font->SetColor(static_cast<std::int32_t>((i * 4 + run) % 1000));
             item->Background()->SetTexture(dwTextureSolid);
@@ -184,6 +198,11 @@ int main(int argc, char** argv) {
             WriteSmall(Number(words[1]), Number(words[2]), words[3]);
             return 0;
         }
+        if (words.size() == 5 && words[0] == "floors") {
+            WriteMany(Number(words[2]), Number(words[3]), words[4],
+                      [bytes = Number(words[1])](const std::string& file) { WriteFloor(bytes, file); });
+            return 0;
+        }
         if (words.size() == 3) {
             const std::string& workload = words[0];
             const auto run = workload == "long"        ? WriteLong
@@ -201,6 +220,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     std::cerr
-        << "usage: draftwick_workload long|text|formatted|floor COUNT FILE, or small COUNT THREADS FOLDER\n";
+        << "usage: draftwick_workload long|text|formatted|floor COUNT FILE, small COUNT THREADS FOLDER, or "
+           "floors BYTES COUNT THREADS FOLDER\n";
     return 2;
 }

@@ -1,4 +1,6 @@
 // What the parts of the library cost that every document goes through.
+#include "Allocations.h"
+
 #include <draftwick/base/Output.h>
 #include <draftwick/base/Text.h>
 #include <draftwick/draftwick.h>
@@ -74,5 +76,17 @@ void Paragraphs(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(Paragraphs);
+
+/// How many allocations a paragraph with one run takes, from its creation to its end.
+void Allocations(benchmark::State& state) {
+    auto document = Document::Create();
+    auto section = document->AddSection();
+    section->AddParagraph()->AddTextItem("the first one writes the section, too");
+    const std::int64_t before = CountAllocations();
+    for (auto _ : state) section->AddParagraph()->AddTextItem("a paragraph with one run");
+    const std::int64_t counted = CountAllocations() - before;
+    state.counters["allocations"] = static_cast<double>(counted) / static_cast<double>(state.iterations());
+}
+BENCHMARK(Allocations)->Iterations(10000);
 
 }  // namespace

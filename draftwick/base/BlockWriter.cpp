@@ -6,10 +6,6 @@
 
 namespace draftwick {
 
-namespace {
-constexpr std::size_t BlockSize = std::size_t{64} * 1024;
-}
-
 void RaiseFileError(std::error_code error, std::string_view action, const std::string& name) {
     std::string what = "cannot ";
     what += action;
@@ -80,7 +76,7 @@ void BlockWriter::Report() {
     if (failure) RaiseFileError(failure, "write", name_);
 }
 
-void BlockWriter::Checkpoint() {
+void BlockWriter::RetryAndReport() {
     // More than a block is kept only after a failure; try again before anything new is promised.
     if (!failure_ && used_ > BlockSize) Flush();
     Report();

@@ -40,11 +40,16 @@ public:
     void AppendFile(platform::File& source, const std::string& sourceName, std::uint64_t expectedSize);
 
     /// Reports the failure of a write since the last Checkpoint, or one that still goes on.
-    void Checkpoint();
+    void Checkpoint() {
+        if (failure_ || used_ > BlockSize) RetryAndReport();
+    }
     /// Writes what is left and closes the file. After a failure the file is still open and nothing is lost.
     void Close();
 
 private:
+    static constexpr std::size_t BlockSize = std::size_t{64} * 1024;
+
+    void RetryAndReport();
     void AppendLarge(const char* bytes, std::size_t size);
     void Flush() noexcept;
     void Report();

@@ -38,19 +38,28 @@ protected:
     /// dwErrTargetEmitted with the class's name once the object is finished.
     void CheckNotFinished() const;
 
+    /// What the object was added to. For an object that is not finished, in a document that is not gone: then the
+    /// slot of its kind keeps it, and all around it.
+    template <class Type>
+    Type& Holder() const noexcept {
+        return static_cast<Type&>(*holder_);
+    }
+
     /// Every Add method: refuses once finished, writes the start, finishes the child before, creates the child and
     /// keeps it in the slot of its kind. A failure of the file is reported here, before there is a new child.
     template <class Child, class... Arguments>
     std::shared_ptr<Child> Add(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
         PrepareAdd();
-        slot = std::make_shared<Child>(OriginOfChild(), std::forward<Arguments>(arguments)...);
+        slot = std::make_shared<Child>(Node::OriginOfChild(), std::forward<Arguments>(arguments)...);
         open_ = slot.get();
+        open_->holder_ = this;
         return slot;
     }
 
 private:
     void PrepareAdd();
 
+    Content* holder_ = nullptr;
     Content* open_ = nullptr;  // the child that is not finished yet; its slot keeps it
     bool emitted_ = false;
     bool finished_ = false;

@@ -8,20 +8,22 @@ namespace draftwick {
 NoRef::NoRef(const std::shared_ptr<Object>& object)
     : object_(object), class_(object == nullptr ? nullptr : &object->Description()) {}
 
+// An object is changed through references to it, whoever asks for one.
+NoRef::NoRef(const Node& object)
+    : object_(const_cast<Node&>(object).weak_from_this()), class_(&object.Description()) {}
+
 std::shared_ptr<Object> Object::DocumentObject() const {
-    const WritingContext* context = SharedContext().get();
-    return context == nullptr ? nullptr : context->documentLink.lock();
+    return context_ == nullptr ? nullptr : context_->documentLink.lock();
 }
 
 std::shared_ptr<draftwick::Document> Object::Document() const {
     const std::shared_ptr<Object> link = DocumentObject();
-    return link == nullptr ? nullptr : std::shared_ptr<draftwick::Document>(link, SharedContext()->document);
+    return link == nullptr ? nullptr : std::shared_ptr<draftwick::Document>(link, context_->document);
 }
 
 WritingContext& Object::Writing() const {
-    WritingContext* context = SharedContext().get();
-    if (context == nullptr || context->document == nullptr) RaiseRuntimeError(dwRunObjectGone);
-    return *context;
+    if (context_ == nullptr || context_->document == nullptr) RaiseRuntimeError(dwRunObjectGone);
+    return *context_;
 }
 
 dwScaleMode Object::OpenForChange() const {
@@ -48,15 +50,9 @@ std::shared_ptr<Object> Node::RequireParent() const {
 
 void Node::CheckNotEmitted() const { RequireParent()->CheckNotEmitted(); }
 
-std::shared_ptr<Object> Node::Self() const {
-    try {
-        return const_cast<Node*>(this)->shared_from_this();
-    } catch (const std::bad_weak_ptr&) {
-        return nullptr;  // an object that is not held by any shared pointer
-    }
-}
+/// Empty for an object that is not held by any shared pointer.
+std::shared_ptr<Object> Node::Self() const { return const_cast<Node*>(this)->weak_from_this().lock(); }
 
-// A part is changed through references to it, whoever asks for one.
 std::shared_ptr<Object> Part::Self() const { return {parent_->Self(), const_cast<Part*>(this)}; }
 
 const std::shared_ptr<WritingContext>& Part::SharedContext() const noexcept {

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,7 @@ namespace draftwick {
 
 struct Class;
 class Document;
+class Node;
 class WritingContext;
 
 /// A link to an object that it does not own: it stores the identity and gives a new owning reference on request,
@@ -21,6 +23,7 @@ class DRAFTWICK_API NoRef {
 public:
     NoRef() = default;
     explicit NoRef(const std::shared_ptr<Object>& object);
+    explicit NoRef(const Node& object);
 
     /// The object; empty once it is gone.
     std::shared_ptr<Object> Resolve() const { return object_.lock(); }
@@ -32,10 +35,10 @@ private:
     const Class* class_ = nullptr;
 };
 
-/// What a new object is told at its creation. Only the library makes one.
+/// What a new object is told at its creation. Only the library makes one, for the length of that call.
 struct Origin {
-    std::shared_ptr<WritingContext> context;
-    std::shared_ptr<Object> parent;
+    const std::shared_ptr<WritingContext>& context;
+    NoRef parent{};
 };
 
 /// Everything in the object model. A host holds objects by std::shared_ptr; nothing it holds dangles, and nothing
@@ -43,7 +46,6 @@ struct Origin {
 /// is involved; everything else is refused with error 91.
 class DRAFTWICK_API Object {
 public:
-    Object() = default;
     Object(const Object&) = delete;
     Object& operator=(const Object&) = delete;
     virtual ~Object() = default;
@@ -68,6 +70,9 @@ public:
     WritingContext& Writing() const;
 
 protected:
+    /// The context is null for an object that needs no document; somebody else keeps it.
+    explicit Object(WritingContext* context) noexcept : context_(context) {}
+
     virtual const std::shared_ptr<WritingContext>& SharedContext() const noexcept = 0;
     /// What a new object that belongs to this one is told.
     virtual Origin OriginOfChild() const = 0;
@@ -100,12 +105,15 @@ protected:
 
 private:
     friend class Part;
+
+    WritingContext* context_;
 };
 
 /// An object of its own: it lives as long as somebody holds it.
-class DRAFTWICK_API Node : public Object, public std::enable_shared_from_this<Node> {
+class DRAFTWICK_API Node : public Object, public std::enable_shared_from_this<Object> {
 public:
-    explicit Node(const Origin& origin) : parent_(origin.parent), context_(origin.context) {}
+    explicit Node(const Origin& origin)
+        : Object(origin.context.get()), parent_(origin.parent), context_(origin.context) {}
 
     std::shared_ptr<Object> Parent() const override { return parent_.Resolve(); }
     /// Refused when the parent refuses, and when the parent is gone.
@@ -117,8 +125,7 @@ protected:
     /// the parent's class.
     std::shared_ptr<Object> RequireParent() const;
     const std::shared_ptr<WritingContext>& SharedContext() const noexcept override { return context_; }
-    Origin OriginOfChild() const override { return {context_, Self()}; }
-    void SetContext(std::shared_ptr<WritingContext> context) { context_ = std::move(context); }
+    Origin OriginOfChild() const override { return {context_, NoRef(*this)}; }
 
 private:
     NoRef parent_;
@@ -128,7 +135,7 @@ private:
 /// A part of another object: whoever holds it keeps the whole alive. It refuses when the whole refuses.
 class DRAFTWICK_API Part : public Object {
 public:
-    explicit Part(Object& parent) : parent_(&parent) {}
+    explicit Part(Object& parent) : Object(parent.context_), parent_(&parent) {}
 
     std::shared_ptr<Object> Parent() const override { return parent_->Self(); }
     void CheckNotEmitted() const override { parent_->CheckNotEmitted(); }
@@ -137,27 +144,27 @@ public:
 protected:
     const std::shared_ptr<WritingContext>& SharedContext() const noexcept override;
     /// An object in a collection belongs to the collection's owner.
-    Origin OriginOfChild() const override { return {SharedContext(), Parent()}; }
+    Origin OriginOfChild() const override { return {SharedContext(), NoRef(Parent())}; }
     Object& Whole() const noexcept { return *parent_; }
 
 private:
     Object* parent_;
 };
 
-/// A part that is created when it is first read. Whether it exists can matter: a writer uses an object's own part
-/// only if it was ever created.
+/// A part that is created when it is first read, in place. Whether it exists can matter: a writer uses an object's own
+/// part only if it was ever created.
 template <class Type>
 class Lazy {
 public:
-    const Type* Find() const noexcept { return part_.get(); }
+    const Type* Find() const noexcept { return part_ ? &*part_ : nullptr; }
     template <class... Arguments>
     Type& Get(Arguments&&... arguments) {
-        if (part_ == nullptr) part_ = std::make_unique<Type>(std::forward<Arguments>(arguments)...);
+        if (!part_) part_.emplace(std::forward<Arguments>(arguments)...);
         return *part_;
     }
 
 private:
-    std::unique_ptr<Type> part_;
+    std::optional<Type> part_;
 };
 
 }  // namespace draftwick

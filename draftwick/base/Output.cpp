@@ -11,22 +11,6 @@ namespace draftwick {
 
 BlockWriter* Output::SetStream(BlockWriter* stream) noexcept { return std::exchange(stream_, stream); }
 
-void Output::WriteControlWord(std::string_view word) {
-    afterControlWord_ = true;
-    line_[length_++] = '\\';
-    AppendToLine(word);
-}
-
-void Output::WriteControlWord(std::string_view word, std::int32_t number) {
-    char digits[12];
-    const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-    afterControlWord_ = true;
-    line_[length_++] = '\\';
-    std::memcpy(line_ + length_, word.data(), word.size());
-    length_ += word.size();
-    AppendToLine({digits, static_cast<std::size_t>(end - digits)});
-}
-
 void Output::WriteWord(const WordList& words, std::int32_t value) {
     const std::string_view word = words[value];
     if (!word.empty()) WriteControlWord(word);
@@ -39,16 +23,10 @@ void Output::WriteText(std::string_view text) {
     afterControlWord_ = false;
 }
 
-void Output::WriteGroupStart() {
-    AppendToLine("{");
-    afterControlWord_ = false;
-}
-
-void Output::WriteDestinationStart() { AppendToLine("{\\*"); }
-
-void Output::WriteGroupEnd() {
-    AppendToLine("}");
-    afterControlWord_ = false;
+void Output::WriteDestinationStart() {
+    std::memcpy(line_ + length_, "{\\*", 3);
+    length_ += 3;
+    EndAppend();
 }
 
 void Output::FlushLine() {
@@ -57,7 +35,6 @@ void Output::FlushLine() {
         stream_->Append("\r\n", 2);
     }
     length_ = 0;
-    hasReturn_ = false;
 }
 
 void Output::ReadFailed(std::error_code error, const std::string& name) {
@@ -65,34 +42,30 @@ void Output::ReadFailed(std::error_code error, const std::string& name) {
     unreadFile_ = name;
 }
 
-void Output::Checkpoint() {
-    if (stream_ != nullptr) stream_->Checkpoint();
-    const std::error_code failure = std::exchange(readFailure_, {});
-    if (failure) RaiseFileError(failure, "read", unreadFile_);
-}
+void Output::ReportReadFailure() { RaiseFileError(std::exchange(readFailure_, {}), "read", unreadFile_); }
 
-// Between two appends the line holds less than LongLine characters, and no control word is longer than a few
-// dozen: there is always room.
-void Output::AppendToLine(std::string_view ascii) {
-    std::memcpy(line_ + length_, ascii.data(), ascii.size());
-    length_ += ascii.size();
-    if (length_ >= LongLine) FlushLongLine();
+void Output::AppendNumber(std::int32_t number) {
+    if (number >= 0 && number < 10) {
+        line_[length_++] = static_cast<char>('0' + number);
+    } else {
+        length_ = static_cast<std::size_t>(std::to_chars(line_ + length_, line_ + Room, number).ptr - line_);
+    }
+    EndAppend();
 }
 
 void Output::AppendEncoded(std::string_view text) {
+    static_assert(platform::LongestAnsiCharacter <= 8);
     std::size_t at = 0;
     while (at < text.size()) {
-        if (Room - length_ < platform::LongestAnsiCharacter) MakeRoom();
-        const std::size_t run =
-            SkipAscii(text.substr(0, std::min(text.size(), at + Room - length_)), at) - at;
-        if (run > 0) {
-            std::memcpy(line_ + length_, text.data() + at, run);
-            if (!hasReturn_) hasReturn_ = std::memchr(line_ + length_, '\r', run) != nullptr;
-            length_ += run;
-            at += run;
-        } else {
-            length_ += platform::EncodeAnsi(DecodeUtf8(text, at), line_ + length_);
-        }
+        if (Room - length_ < 8) MakeRoom();
+        const std::uint64_t bytes = NextBytes(text, at);
+        PutBytes(bytes, line_ + length_);
+        const std::size_t ascii = std::min(CountBytes(bytes), text.size() - at);
+        length_ += ascii;
+        at += ascii;
+        if (ascii == 8 || at == text.size()) continue;
+        if (Room - length_ < 8) MakeRoom();
+        length_ += platform::EncodeAnsi(DecodeUtf8(text, at), line_ + length_);
     }
 }
 
@@ -105,7 +78,6 @@ void Output::MakeRoom() {
     if (stream_ != nullptr) stream_->Append(line_, length_);
     length_ = 0;
     if (waits) line_[length_++] = '\r';
-    hasReturn_ = waits;
 }
 
 void Output::FlushLongLine() {
@@ -117,14 +89,14 @@ void Output::FlushLongLine() {
     }
     length_ = 0;
     spilled_ = false;
-    hasReturn_ = false;
     afterControlWord_ = false;
 }
 
 void Output::DropLineBreaks() {
-    if (!hasReturn_) return;
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < length_; ++i) {
+    const auto* first = static_cast<const char*>(std::memchr(line_, '\r', length_));
+    if (first == nullptr) return;
+    std::size_t kept = static_cast<std::size_t>(first - line_);
+    for (std::size_t i = kept; i < length_; ++i) {
         if (line_[i] == '\r' && i + 1 < length_ && line_[i + 1] == '\n') {
             ++i;
         } else {

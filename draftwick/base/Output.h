@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -23,19 +24,25 @@ public:
     BlockWriter* SetStream(BlockWriter* stream) noexcept;
 
     /// "\word". A line break after it delimits it as well as a space would.
-    void WriteControlWord(std::string_view word);
+    void WriteControlWord(std::string_view word) {
+        BeginControlWord(word);
+        EndAppend();
+    }
     /// "\word" directly followed by the number, "\li-360".
-    void WriteControlWord(std::string_view word, std::int32_t number);
+    void WriteControlWord(std::string_view word, std::int32_t number) {
+        BeginControlWord(word);
+        AppendNumber(number);
+    }
     /// "\word" with 1 or 0.
     void WriteFlag(std::string_view word, bool flag) { WriteControlWord(word, flag ? 1 : 0); }
     /// The word of an enumeration value; nothing when it has none.
     void WriteWord(const WordList& words, std::int32_t value);
     /// UTF-8 text that is already escaped, after one space if a control word comes before it.
     void WriteText(std::string_view text);
-    void WriteGroupStart();
+    void WriteGroupStart() { WriteBrace('{'); }
     /// "{\*". Whether a control word came last stays as it was.
     void WriteDestinationStart();
-    void WriteGroupEnd();
+    void WriteGroupEnd() { WriteBrace('}'); }
     /// Ends the line that was begun, if there is one.
     void FlushLine();
     /// Keeps the failure of a file that is read into the output, for the next Checkpoint: what was begun can still
@@ -43,14 +50,34 @@ public:
     void ReadFailed(std::error_code error, const std::string& name);
     /// Reports a failure of the file that lines go to, or of one that was read. Called between two objects, never
     /// within one.
-    void Checkpoint();
+    void Checkpoint() {
+        if (stream_ != nullptr) stream_->Checkpoint();
+        if (readFailure_) ReportReadFailure();
+    }
 
 private:
-    void AppendToLine(std::string_view ascii);
+    // Between two appends the line holds less than LongLine characters, and no control word is longer than a few
+    // dozen: there is always room. In the header the lengths of the words are constants: no copy is a call.
+    void BeginControlWord(std::string_view word) {
+        afterControlWord_ = true;
+        line_[length_] = '\\';
+        std::memcpy(line_ + length_ + 1, word.data(), word.size());
+        length_ += 1 + word.size();
+    }
+    void AppendNumber(std::int32_t number);
+    void WriteBrace(char brace) {
+        line_[length_++] = brace;
+        EndAppend();
+        afterControlWord_ = false;
+    }
+    void EndAppend() {
+        if (length_ >= LongLine) FlushLongLine();
+    }
     void AppendEncoded(std::string_view text);
     void MakeRoom();
     void FlushLongLine();
     void DropLineBreaks();
+    void ReportReadFailure();
 
     static constexpr std::size_t LongLine = 128;
     static constexpr std::size_t Room = 1024;
@@ -58,8 +85,7 @@ private:
     BlockWriter* stream_ = nullptr;
     std::size_t length_ = 0;
     bool afterControlWord_ = false;
-    bool spilled_ = false;    // the line is longer than the buffer: its beginning is on its way already
-    bool hasReturn_ = false;  // the buffer holds a CR
+    bool spilled_ = false;  // the line is longer than the buffer: its beginning is on its way already
     char line_[Room];
     std::error_code readFailure_;
     std::string unreadFile_;

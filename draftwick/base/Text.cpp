@@ -4,66 +4,79 @@
 
 #include <array>
 #include <charconv>
-#include <cmath>
+#include <cstdint>
 
 namespace draftwick {
 
 namespace {
 
-constexpr std::array<bool, 256> MakeSpecial() {
-    std::array<bool, 256> special{};
-    for (const char c : {'\\', '{', '}', '\t', '\r'}) special[static_cast<unsigned char>(c)] = true;
-    for (std::size_t i = 0x80; i < 256; ++i) special[i] = true;
-    return special;
+bool IsPlain(char c) {
+    return static_cast<unsigned char>(c) < 0x80 && c != '\\' && c != '{' && c != '}' && c != '\t'
+           && c != '\r';
 }
 
-/// The bytes that cannot simply be copied.
-constexpr std::array<bool, 256> Special = MakeSpecial();
+/// The position of the first byte at or after `position` that cannot simply be copied.
+std::size_t SkipPlain(std::string_view text, std::size_t position) {
+    while (position < text.size()) {
+        const std::uint64_t bytes = NextBytes(text, position);
+        // The first byte that is below a space, a backslash, or from "{" up: all special ones are among these.
+        const std::size_t plain =
+            CountBytes((bytes - InEachByte(' ')) | ((bytes ^ InEachByte('\\')) - InEachByte(1))
+                       | (bytes + InEachByte(0x80 - '{')) | bytes);
+        position += plain;
+        if (plain == 8) continue;
+        if (position == text.size() || !IsPlain(text[position])) break;
+        ++position;
+    }
+    return position;
+}
 
 }  // namespace
 
 void AppendEscaped(std::string& to, std::string_view text) {
+    std::size_t copied = 0;
     std::size_t at = 0;
-    while (at < text.size()) {
-        std::size_t end = at;
-        while (end < text.size() && !Special[static_cast<unsigned char>(text[end])]) ++end;
-        to.append(text, at, end - at);
-        at = end;
-        if (at == text.size()) break;
-        switch (const char c = text[at]) {
-        case '\\':
-        case '{':
-        case '}':
+    const auto copy = [&] { to.append(text, copied, at - copied); };
+    if (to.empty()) to.reserve(text.size() + text.size() / 16);  // most texts have few special characters
+    while ((at = SkipPlain(text, at)) < text.size()) {
+        const char c = text[at];
+        if (static_cast<unsigned char>(c) >= 0x80) {
+            std::size_t next = at;
+            if (DecodeUtf8(text, next) == ReplacementCharacter) {
+                copy();
+                AppendUtf8(to, ReplacementCharacter);
+                copied = next;
+            }
+            at = next;
+            continue;
+        }
+        copy();
+        if (c == '\t') {
+            to += "\\tab ";
+            ++at;
+        } else if (c != '\r') {
             to += '\\';
             to += c;
             ++at;
-            break;
-        case '\t':
-            to += "\\tab ";
+        } else if (text.compare(at, 3, "\r\n ") == 0) {
+            to += "\\line ";
+            at += 3;
+        } else if (text.compare(at, 2, "\r\n") == 0) {
+            // No delimiter here: readers take the letters that follow as part of the word. It is part of the format
+            // we promise.
+            to += "\\line";
+            at += 2;
+        } else {
+            to += c;
             ++at;
-            break;
-        case '\r':
-            if (text.compare(at, 3, "\r\n ") == 0) {
-                to += "\\line ";
-                at += 3;
-            } else if (text.compare(at, 2, "\r\n") == 0) {
-                // No delimiter here: readers take the letters that follow as part of the word. It is part of
-                // the format we promise.
-                to += "\\line";
-                at += 2;
-            } else {
-                to += c;
-                ++at;
-            }
-            break;
-        default: AppendUtf8(to, DecodeUtf8(text, at));
         }
+        copied = at;
     }
+    copy();
 }
 
 std::string EscapeText(std::string_view text) {
     std::string escaped;
-    escaped.reserve(text.size());
     AppendEscaped(escaped, text);
     return escaped;
 }

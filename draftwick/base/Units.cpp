@@ -10,28 +10,33 @@ namespace draftwick {
 namespace {
 
 template <class Whole>
-Whole Fit(double value) {
-    // The comparison is false for NaN, too.
-    if (!(value >= std::numeric_limits<Whole>::min() && value <= std::numeric_limits<Whole>::max())) {
+Whole Fit(std::int64_t value) {
+    if (value < std::numeric_limits<Whole>::min() || value > std::numeric_limits<Whole>::max()) {
         RaiseRuntimeError(dwRunOverflow,
                           "the number does not fit " + std::to_string(8 * sizeof(Whole)) + " bits");
     }
     return static_cast<Whole>(value);
 }
 
-/// Independent of the floating-point rounding mode that the host may have set.
-double NearestEven(double value) {
-    const double below = std::floor(value);
-    const double rest = value - below;
-    if (rest > 0.5 || (rest == 0.5 && std::fmod(below, 2.0) != 0.0)) return below + 1.0;
-    return below;
+/// In whole numbers: the library's functions are calls, and depend on the rounding mode that the host may have set.
+/// What no number of 32 bits is near to, and NaN, gives a number that does not fit.
+std::int64_t Floor(double value) {
+    if (!(std::abs(value) < 1e15)) return std::int64_t{1} << 62;
+    const auto whole = static_cast<std::int64_t>(value);
+    return static_cast<double>(whole) > value ? whole - 1 : whole;
+}
+
+std::int64_t NearestEven(double value) {
+    const std::int64_t below = Floor(value);
+    const double rest = value - static_cast<double>(below);
+    return rest > 0.5 || (rest == 0.5 && below % 2 != 0) ? below + 1 : below;
 }
 
 }  // namespace
 
 std::int32_t RoundHalfEven(double value) { return Fit<std::int32_t>(NearestEven(value)); }
 std::int16_t RoundToShort(double value) { return Fit<std::int16_t>(NearestEven(value)); }
-std::int32_t RoundDown(double value) { return Fit<std::int32_t>(std::floor(value)); }
+std::int32_t RoundDown(double value) { return Fit<std::int32_t>(Floor(value)); }
 std::int16_t ToShort(std::int32_t value) { return Fit<std::int16_t>(value); }
 
 std::int32_t ToTwips(double value, dwScaleMode scale) {

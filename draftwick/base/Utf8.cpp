@@ -1,18 +1,17 @@
 #include <draftwick/base/Utf8.h>
 
+#include <array>
 #include <cstdint>
-#include <cstring>
 
 namespace draftwick {
 
 std::size_t SkipAscii(std::string_view text, std::size_t position) {
-    constexpr std::uint64_t highBits = 0x8080808080808080;
-    for (std::uint64_t word = 0; text.size() - position >= sizeof word; position += sizeof word) {
-        std::memcpy(&word, text.data() + position, sizeof word);
-        if ((word & highBits) != 0) break;
+    while (position < text.size()) {
+        const std::size_t ascii = CountBytes(NextBytes(text, position));
+        position += ascii;
+        if (ascii < 8) return position;
     }
-    while (position < text.size() && static_cast<std::uint8_t>(text[position]) < 0x80) ++position;
-    return position;
+    return text.size();
 }
 
 namespace {
@@ -24,12 +23,12 @@ std::uint8_t ByteAt(std::string_view text, std::size_t position) {
 /// What the first byte of a sequence says about it. The bounds of the second byte rule out overlong forms,
 /// surrogates and values above U+10FFFF; all later bytes are 80 to BF.
 struct Lead {
-    int length = 0;  // 0: no sequence begins so
+    std::uint8_t length = 0;  // 0: no sequence begins so
     std::uint8_t secondFrom = 0x80;
     std::uint8_t secondTo = 0xBF;
 };
 
-constexpr Lead LeadOf(std::uint8_t byte) {
+constexpr Lead LeadOf(std::size_t byte) {
     if (byte >= 0xC2 && byte <= 0xDF) return {.length = 2};
     if (byte == 0xE0) return {.length = 3, .secondFrom = 0xA0};
     if (byte == 0xED) return {.length = 3, .secondTo = 0x9F};
@@ -40,6 +39,12 @@ constexpr Lead LeadOf(std::uint8_t byte) {
     return {};
 }
 
+constexpr std::array<Lead, 256> Leads = [] {
+    std::array<Lead, 256> leads{};
+    for (std::size_t byte = 0; byte < leads.size(); ++byte) leads[byte] = LeadOf(byte);
+    return leads;
+}();
+
 struct Decoded {
     char32_t character;
     bool valid;
@@ -48,17 +53,16 @@ struct Decoded {
 Decoded Decode(std::string_view text, std::size_t& position) {
     const std::uint8_t first = ByteAt(text, position++);
     if (first < 0x80) return {first, true};
-    const Lead lead = LeadOf(first);
+    const Lead& lead = Leads[first];
     if (lead.length == 0) return {ReplacementCharacter, false};
     char32_t character = first & (0x7Fu >> lead.length);
     std::uint8_t from = lead.secondFrom;
     std::uint8_t to = lead.secondTo;
-    for (int i = 1; i < lead.length; ++i) {
+    for (const std::size_t end = position + lead.length - 1; position < end; ++position) {
         if (position == text.size()) return {ReplacementCharacter, false};
         const std::uint8_t byte = ByteAt(text, position);
         if (byte < from || byte > to) return {ReplacementCharacter, false};
         character = (character << 6) | (byte & 0x3Fu);
-        ++position;
         from = 0x80;
         to = 0xBF;
     }
@@ -78,7 +82,25 @@ std::size_t ValidLength(std::string_view text) {
 
 }  // namespace
 
-char32_t DecodeUtf8(std::string_view text, std::size_t& position) { return Decode(text, position).character; }
+char32_t DecodeUtf8(std::string_view text, std::size_t& position) {
+    // Nearly all characters that are not ASCII have two bytes, from C2 on, or three.
+    const std::uint64_t bytes = NextBytes(text, position);
+    const auto bits = [bytes](int byte, unsigned mask) {
+        return static_cast<char32_t>(bytes >> 8 * byte) & mask;
+    };
+    if ((bytes & 0xC0E0) == 0x80C0 && bits(0, 0x1E) != 0) {
+        position += 2;
+        return bits(0, 0x1F) << 6 | bits(1, 0x3F);
+    }
+    if ((bytes & 0xC0C0F0) == 0x8080E0) {
+        const char32_t character = bits(0, 0x0F) << 12 | bits(1, 0x3F) << 6 | bits(2, 0x3F);
+        if (character >= 0x800 && (character < 0xD800 || character > 0xDFFF)) {
+            position += 3;
+            return character;
+        }
+    }
+    return Decode(text, position).character;
+}
 
 void AppendUtf8(std::string& text, char32_t character) {
     if (character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) {

@@ -51,7 +51,7 @@ std::shared_ptr<Field> Paragraph::AddField(std::string_view code, std::string_vi
 std::shared_ptr<Shape> Paragraph::AddShape(dwShapeKind kind) {
     Writing();
     CheckNotFinished();
-    if (std::dynamic_pointer_cast<Shape>(RequireParent()) != nullptr) {
+    if (dynamic_cast<Shape*>(&Holder<Container>()) != nullptr) {
         RaiseError(dwErrShapesCantContainShapes);
     }
     return Add(currentShape_, kind);
@@ -65,8 +65,7 @@ bool Paragraph::StandsInCell() const {
 /// \par\pard\phcol...\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
     WritingContext& context = Writing();
-    const std::shared_ptr<Object> parent = RequireParent();
-    auto& container = static_cast<Container&>(*parent);
+    auto& container = Holder<Container>();
     container.WriteParagraphMark();
     context.output.WriteControlWord("pard");
     container.WriteParagraphPlace(frame_.Find());

@@ -13,10 +13,9 @@ namespace {
 /// The words of a run's own look are what differs from a reference, and this is where that is chosen: the run's style
 /// if it has one, else its paragraph's format, else the default. A run without a look of its own takes the
 /// reference's: nothing differs.
-void EmitRunFormat(WritingContext& context, const FontFormat& own, const Object& parent,
+void EmitRunFormat(WritingContext& context, const FontFormat& own, const Paragraph& paragraph,
                    const TextStyle* style) {
-    const FontFormat* reference =
-        style != nullptr ? &style->StoredFontFormat() : static_cast<const Paragraph&>(parent).OwnFontFormat();
+    const FontFormat* reference = style != nullptr ? &style->StoredFontFormat() : paragraph.OwnFontFormat();
     EmitFontFormatChanges(context, own.Stored(),
                           reference != nullptr ? reference->Stored() : DefaultFontFormat(context));
 }
@@ -42,7 +41,7 @@ void Run::WriteRunStart() {
         context.output.WriteControlWord("cs", TextStyleNumber(context, style->StyleIndex()));
     }
     if (const draftwick::FontFormat* own = fontFormat_.Find())
-        EmitRunFormat(context, *own, *RequireParent(), style);
+        EmitRunFormat(context, *own, Holder<Paragraph>(), style);
     if (const draftwick::Background* background = background_.Find()) {
         EmitCharacterBackground(context, background->Stored());
     }

@@ -8,9 +8,9 @@ namespace draftwick {
 
 TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(origin) {
     if (raw) {
-        AddRawText(text);
+        text_ = ToValidUtf8(text);
     } else {
-        AddText(text);
+        AppendEscaped(text_, text);
     }
 }
 

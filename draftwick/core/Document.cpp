@@ -26,7 +26,7 @@ std::shared_ptr<Document> Document::Create(platform::Platform services) {
 }
 
 Document::Document(const std::shared_ptr<WritingContext>& context)
-    : Content(Origin{context, nullptr}), context_(context), settings_(context->settings),
+    : Content(Origin{context}), context_(context), settings_(context->settings),
       files_(std::make_unique<OutputFiles>()), viewer_(std::make_unique<Viewer>(context->platform)) {}
 
 /// Children need a reference to their parent, so they come after the constructor.

@@ -59,8 +59,7 @@ void Shape::WriteEnd() {
     LayoutState& layout = context.layout;
     layout.ShapeTextPending = outerLayout_.ShapeTextPending;
     layout.InlinePicture = outerLayout_.InlinePicture;
-    const std::shared_ptr<Object> paragraph = RequireParent();
-    if (static_cast<const Paragraph&>(*paragraph).StandsInCell()) {
+    if (Holder<Paragraph>().StandsInCell()) {
         layout.SuppressNextParagraphMark = outerLayout_.SuppressNextParagraphMark;
         layout.TableEndsSection = outerLayout_.TableEndsSection;
     }

@@ -25,10 +25,8 @@ void Cell::WriteParagraphMark() {
 
 /// \pard takes a paragraph out of its row. A row has no words for its frame: its paragraphs have them.
 void Cell::WriteParagraphPlace(const Frame*) {
-    const std::shared_ptr<Object> row = RequireParent();
     Writing().output.WriteControlWord("intbl");
-    if (const Frame* frame = static_cast<const Table&>(*row).OwnFrame())
-        EmitFrame(Writing(), frame->Stored());
+    if (const Frame* frame = Holder<Table>().OwnFrame()) EmitFrame(Writing(), frame->Stored());
 }
 
 const Class& Cell::Describe() {

@@ -12,8 +12,7 @@ std::shared_ptr<Cell> Table::AddCell() { return Add(currentCell_); }
 
 void Table::WriteStart() {
     WritingContext& context = Writing();
-    const std::shared_ptr<Object> parent = RequireParent();
-    static_cast<RowContainer&>(*parent).WriteRowMark();
+    Holder<RowContainer>().WriteRowMark();
     outerRow_ = std::exchange(context.layout.row, {});
     EmitTableRow(context, values_, borders_.Find());
 }

@@ -118,7 +118,7 @@ struct Subject {
             // What needs no document, and what other programs give.
             if (name == "Special") object = std::make_shared<Special>();
             if (name == "AutomationObject")
-                object = std::make_shared<AutomationObject>(Origin{{}, object}, nullptr);
+                object = std::make_shared<AutomationObject>(Origin{nullptr, NoRef(object)}, nullptr);
             return;
         }
         const auto follow = [this](const Step& step) {

@@ -1,6 +1,7 @@
 #include <draftwick/platform/CodePage.h>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace draftwick::platform {
@@ -14,6 +15,19 @@ constexpr char16_t High[] = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
+constexpr char Find(char32_t character) {
+    const auto* found = std::find(std::begin(High), std::end(High), character);
+    return found == std::end(High) ? '?' : static_cast<char>(0x80 + (found - std::begin(High)));
+}
+
+// Dashes, quotation marks, the bullet, the ellipsis: they are in every text.
+constexpr char32_t FirstPunctuation = 0x2010;
+constexpr auto Punctuation = [] {
+    std::array<char, 0x30> bytes{};
+    for (char32_t i = 0; i < bytes.size(); ++i) bytes[i] = Find(FirstPunctuation + i);
+    return bytes;
+}();
+
 }  // namespace
 
 std::size_t EncodeAnsi(char32_t character, char* bytes) noexcept {
@@ -21,8 +35,8 @@ std::size_t EncodeAnsi(char32_t character, char* bytes) noexcept {
         *bytes = static_cast<char>(character);
         return 1;
     }
-    const auto* found = std::find(std::begin(High), std::end(High), character);
-    *bytes = found == std::end(High) ? '?' : static_cast<char>(0x80 + (found - std::begin(High)));
+    const char32_t punctuation = character - FirstPunctuation;
+    *bytes = punctuation < Punctuation.size() ? Punctuation[punctuation] : Find(character);
     return 1;
 }
 
