@@ -12,6 +12,8 @@
 #include <clocale>
 #include <cmath>
 #include <limits>
+#include <string>
+#include <utility>
 
 namespace draftwick::test {
 
@@ -149,6 +151,22 @@ TEST(Text, IsEscapedInTheOrderOfTheRules) {
         {"\xC3{\xFF", "\xEF\xBF\xBD\\{\xEF\xBF\xBD"},
     };
     for (const auto& [text, escaped] : cases) EXPECT_EQ(EscapeText(text), escaped);
+}
+
+// Texts are looked at eight bytes at a time: what is special must be found at every place in these and in the rest.
+TEST(Text, IsEscapedWhereverItStands) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"\\", "\\\\"}, {"{", "\\{"}, {"}", "\\}"}, {"\t", "\\tab "},         {"\r\n", "\\line"},
+        {"\r", "\r"},   {"\n", "\n"}, {"|~", "|~"}, {"\xC3\xA9", "\xC3\xA9"}, {"\x80", "\xEF\xBF\xBD"},
+    };
+    for (const auto& [special, escaped] : cases) {
+        for (std::size_t before = 0; before < 18; ++before) {
+            for (std::size_t after = 0; after < 10; ++after) {
+                const std::string start(before, 'z'), end(after, 'z');
+                EXPECT_EQ(EscapeText(start + special + end), start + escaped + end);
+            }
+        }
+    }
 }
 
 TEST(Text, HasByteEscapesWithoutLeadingZeros) {

@@ -102,6 +102,16 @@ TEST(Output, TakesLineBreaksOutOfLongLinesOnly) {
               "a" + X(130) + "\r\n");
 }
 
+TEST(Output, EncodesCharactersWhereverTheyStand) {
+    for (std::size_t before = 0; before < 18; ++before) {
+        for (std::size_t after = 0; after < 10; ++after) {
+            const std::string text = X(before) + "\xE2\x80\xA6\xC3\xA9" + X(after);
+            EXPECT_EQ(Written([&](Output& o) { o.WriteText(text); }),
+                      X(before) + "\x85\xE9" + X(after) + "\r\n");
+        }
+    }
+}
+
 TEST(Output, WritesAMegabyteAsOneLine) {
     std::string text;
     std::string expected;
