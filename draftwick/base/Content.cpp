@@ -35,6 +35,7 @@ void Content::CloseCurrentChild() {
 void Content::PrepareAdd() {
     WritingContext& context = Writing();
     CheckNotFinished();
+    if (depth_ == MaxDepth) RaiseRuntimeError(dwRunOutOfStackSpace, "the objects lie too deep in each other");
     Emit();
     CloseCurrentChild();
     context.output.Checkpoint();

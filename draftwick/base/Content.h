@@ -14,6 +14,10 @@ namespace draftwick {
 /// takes no more children.
 class DRAFTWICK_API Content : public Node {
 public:
+    /// How many objects can lie in each other. What is deeper is refused with error 28, whoever nests it: a host's
+    /// input must not decide how much stack a document takes. Readers give up earlier.
+    static constexpr int MaxDepth = 200;
+
     using Node::Node;
 
     /// Whether the object's own settings are written. They can no longer change.
@@ -45,7 +49,7 @@ protected:
         return static_cast<Type&>(*holder_);
     }
 
-    /// Every Add method: refuses once finished, writes the start, finishes the child before, creates the child and
+    /// Every Add method: refuses once finished and beyond MaxDepth, writes the start, finishes the child before, creates the child and
     /// keeps it in the slot of its kind. A failure of the file is reported here, before there is a new child.
     template <class Child, class... Arguments>
     std::shared_ptr<Child> Add(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
@@ -53,6 +57,7 @@ protected:
         slot = std::make_shared<Child>(Node::OriginOfChild(), std::forward<Arguments>(arguments)...);
         open_ = slot.get();
         open_->holder_ = this;
+        open_->depth_ = depth_ + 1;
         return slot;
     }
 
@@ -61,6 +66,7 @@ private:
 
     Content* holder_ = nullptr;
     Content* open_ = nullptr;  // the child that is not finished yet; its slot keeps it
+    int depth_ = 0;
     bool emitted_ = false;
     bool finished_ = false;
 };

@@ -93,6 +93,19 @@ TEST(Content, IsWrittenWhenItsNextSiblingArrives) {
     EXPECT_EQ(document.Body(), "\\pard~{ab}{c}\\par\\pard~");
 }
 
+TEST(Content, LiesAtMost200Deep) {
+    const TestDocument document;
+    auto paragraph = document.AddParagraph();  // in a section: the second level
+    int notes = 0;
+    const auto nest = [&] {
+        for (;; ++notes) paragraph = paragraph->AddFootnote()->AddParagraph();
+    };
+    EXPECT_EQ(RefusalNumber(nest), dwRunOutOfStackSpace);
+    EXPECT_EQ(notes, 99);
+    EXPECT_FALSE(paragraph->Emitted());
+    EXPECT_TRUE(document.Body().ends_with("\\pard~" + std::string(99, '}')));
+}
+
 TEST(TextItem, KeepsTextInItsRtfForm) {
     const TestDocument document;
     auto item = document.AddParagraph()->AddTextItem("x\\y");
