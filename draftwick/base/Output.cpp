@@ -37,13 +37,6 @@ void Output::FlushLine() {
     length_ = 0;
 }
 
-void Output::ReadFailed(std::error_code error, const std::string& name) {
-    readFailure_ = error;
-    unreadFile_ = name;
-}
-
-void Output::ReportReadFailure() { RaiseFileError(std::exchange(readFailure_, {}), "read", unreadFile_); }
-
 void Output::AppendNumber(std::int32_t number) {
     if (number >= 0 && number < 10) {
         line_[length_++] = static_cast<char>('0' + number);

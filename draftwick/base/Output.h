@@ -6,9 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <string>
 #include <string_view>
-#include <system_error>
 
 namespace draftwick {
 
@@ -45,14 +43,9 @@ public:
     void WriteGroupEnd() { WriteBrace('}'); }
     /// Ends the line that was begun, if there is one.
     void FlushLine();
-    /// Keeps the failure of a file that is read into the output, for the next Checkpoint: what was begun can still
-    /// be ended.
-    void ReadFailed(std::error_code error, const std::string& name);
-    /// Reports a failure of the file that lines go to, or of one that was read. Called between two objects, never
-    /// within one.
+    /// Reports a failure of the file that lines go to. Called between two objects, never within one.
     void Checkpoint() {
         if (stream_ != nullptr) stream_->Checkpoint();
-        if (readFailure_) ReportReadFailure();
     }
 
 private:
@@ -77,7 +70,6 @@ private:
     void MakeRoom();
     void FlushLongLine();
     void DropLineBreaks();
-    void ReportReadFailure();
 
     static constexpr std::size_t LongLine = 128;
     static constexpr std::size_t Room = 1024;
@@ -87,8 +79,6 @@ private:
     bool afterControlWord_ = false;
     bool spilled_ = false;  // the line is longer than the buffer: its beginning is on its way already
     char line_[Room];
-    std::error_code readFailure_;
-    std::string unreadFile_;
 };
 
 }  // namespace draftwick

@@ -18,6 +18,10 @@ struct Date {
     std::int32_t minute = 0;  ///< 0..59
     std::int32_t second = 0;  ///< 0..59
 
+    /// Not trivial, so that a variant takes care to be empty when copying its text fails: without, the standard
+    /// library of GCC 12 destroys a value that was never there.
+    constexpr ~Date() {}
+
     friend bool operator==(const Date&, const Date&) = default;
 };
 

@@ -46,6 +46,12 @@ public:
 
     /// Writes the file. std::system_error when that fails: the document is then not finished, and a later call
     /// writes the file once the cause is gone. On a finished document it does nothing.
+    ///
+    /// The file is written under a temporary name ("~dwout1.tmp") in its folder and renamed when it is complete. If
+    /// the process ends before that, whenever it is, an old file of the name is what it was; temporary files may be
+    /// left, and for a file without a Filename an empty one. The new file replaces the old one: it has the
+    /// permissions of new files, a symbolic link becomes a file, other hard links keep what they had. A device or a
+    /// pipe is written to as it is. Nothing is promised about a system that stops: no file is forced to the disk.
     void Finish();
 
     /// Finishes the document and shows it in the viewer. Returns the one that was used.

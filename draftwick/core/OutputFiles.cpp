@@ -4,6 +4,7 @@
 #include <draftwick/core/DocumentWriter.h>
 #include <draftwick/core/OutputFiles.h>
 
+#include <string>
 #include <utility>
 
 namespace draftwick {
@@ -33,6 +34,40 @@ void Delete(WritingContext& context, const std::string& name) {
     std::error_code error;
     context.platform.files->Delete(name, error);
     if (error && error != std::errc::no_such_file_or_directory) RaiseFileError(error, "delete", name);
+}
+
+std::string FolderOf(platform::FileSystem& files, const std::string& name) {
+    const std::string full = files.FullName(name);
+    const std::size_t end = full.rfind(files.Separator());
+    return end == full.npos ? "." : full.substr(0, end);
+}
+
+/// Gives the file the name, in place of an old file. If that cannot be replaced, it is in use: then a number goes
+/// before the extension. Returns the name.
+std::string GiveName(platform::FileSystem& files, const std::string& file, const std::string& name,
+                     std::size_t extension) {
+    std::string candidate = name;
+    for (int counter = 1;; ++counter) {
+        std::error_code error;
+        files.Rename(file, candidate, error);
+        if (!error) return candidate;
+        if (!files.Exists(candidate)) RaiseFileError(error, "create", candidate);
+        candidate = name.substr(0, extension) + std::to_string(counter) + name.substr(extension);
+    }
+}
+
+/// Gives the file a name that nobody has.
+std::string GiveNewName(platform::FileSystem& files, const std::string& file, const std::string& folder) {
+    UniqueFile taken = CreateUniqueFile(files, folder, "Draftwick", "rtf", platform::Creation::Exclusive);
+    std::error_code error;
+    taken.file->Close(error);
+    if (!error) files.Rename(file, taken.name, error);
+    if (error) {
+        std::error_code ignored;
+        files.Delete(taken.name, ignored);
+        RaiseFileError(error, "create", taken.name);
+    }
+    return taken.name;
 }
 
 /// Lets the output go to another file as long as it lives.
@@ -67,60 +102,49 @@ void OutputFiles::AssembleOutputFile(WritingContext& context) {
         context.output.FlushLine();
         ended_ = true;
     }
-    // Whatever can go wrong with the body goes wrong before the old output file is touched.
     body_->Close();
     context.output.SetStream(nullptr);
-    {
-        const std::unique_ptr<platform::File> body = Open(context, bodyFileName_);
-        RegisterHeaderColors(context);
-        const std::unique_ptr<BlockWriter> result = CreateOutput(context);
-        try {
-            {
-                const Redirection redirection(context.output, result.get());
-                WriteHeader(context);
-            }
-            result->Checkpoint();
-            result->AppendFile(*body, bodyFileName_, body_->Written());
-            result->Close();
-        } catch (...) {
-            // Half a document under the final name would look like a whole one.
-            std::error_code ignored;
-            context.platform.files->Delete(actualFileName_, ignored);
-            actualFileName_.clear();
-            throw;
-        }
-    }
+    if (actualFileName_.empty()) actualFileName_ = CreateOutputFile(context);
     Delete(context, bodyFileName_);
 }
 
-std::unique_ptr<BlockWriter> OutputFiles::CreateOutput(WritingContext& context) {
+/// Returns its name.
+std::string OutputFiles::CreateOutputFile(WritingContext& context) {
     platform::FileSystem& files = *context.platform.files;
-    if (context.settings.filename.empty()) {
-        // The folder is the environment's, not TempPath.
-        UniqueFile file = CreateUniqueFile(files, context.platform.environment->TempFolder(), "Draftwick",
-                                           "rtf", platform::Creation::Exclusive);
-        actualFileName_ = file.name;
-        return std::make_unique<BlockWriter>(std::move(file.file), std::move(file.name));
+    const std::string& name = context.settings.filename;
+    const std::size_t extension = name.empty() ? 0 : FindExtension(name);
+    const std::unique_ptr<platform::File> body = Open(context, bodyFileName_);
+    RegisterHeaderColors(context);
+    if (!name.empty() && !files.CanReplace(name)) {
+        std::error_code error;
+        auto file = files.Create(name, platform::Creation::Overwrite, error);
+        if (file == nullptr) RaiseFileError(error, "create", name);
+        WriteOutput(context, *body, {std::move(file), name});
+        return name;
     }
-    ResolveOutputFileName(context);
-    std::error_code error;
-    auto file = files.Create(actualFileName_, platform::Creation::Overwrite, error);
-    if (file == nullptr) RaiseFileError(error, "create", std::exchange(actualFileName_, {}));
-    return std::make_unique<BlockWriter>(std::move(file), actualFileName_);
+    // The folder of a file that has no name yet is the environment's, not TempPath.
+    const std::string folder =
+        name.empty() ? context.platform.environment->TempFolder() : FolderOf(files, name);
+    UniqueFile file = CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);
+    try {
+        WriteOutput(context, *body, {std::move(file.file), file.name});
+        return name.empty() ? GiveNewName(files, file.name, folder)
+                            : GiveName(files, file.name, name, extension);
+    } catch (...) {
+        std::error_code ignored;
+        files.Delete(file.name, ignored);
+        throw;
+    }
 }
 
-/// Deletes an old file of the name. If that fails, it is in use: then a number goes before the extension.
-void OutputFiles::ResolveOutputFileName(WritingContext& context) {
-    const std::string& name = context.settings.filename;
-    const std::size_t extension = FindExtension(name);
-    std::string candidate = name;
-    for (int counter = 1; context.platform.files->Exists(candidate); ++counter) {
-        std::error_code error;
-        context.platform.files->Delete(candidate, error);
-        if (!error) break;
-        candidate = name.substr(0, extension) + std::to_string(counter) + name.substr(extension);
+void OutputFiles::WriteOutput(WritingContext& context, platform::File& body, BlockWriter output) {
+    {
+        const Redirection redirection(context.output, &output);
+        WriteHeader(context);
     }
-    actualFileName_ = candidate;
+    output.Checkpoint();
+    output.AppendFile(body, bodyFileName_, body_->Written());
+    output.Close();
 }
 
 }  // namespace draftwick

@@ -17,7 +17,7 @@ public:
     void OpenBody(WritingContext& context);
 
     /// Ends the body, writes the header and the body to the output file and deletes the body file. When it fails it
-    /// can be called again.
+    /// can be called again. The file gets its name when it is complete: until then an old one stays what it was.
     void AssembleOutputFile(WritingContext& context);
 
     /// Whether the brace that closes the document is written.
@@ -25,8 +25,8 @@ public:
     const std::string& ActualFileName() const noexcept { return actualFileName_; }
 
 private:
-    std::unique_ptr<BlockWriter> CreateOutput(WritingContext& context);
-    void ResolveOutputFileName(WritingContext& context);
+    std::string CreateOutputFile(WritingContext& context);
+    void WriteOutput(WritingContext& context, platform::File& body, BlockWriter output);
 
     std::unique_ptr<BlockWriter> body_;
     std::string bodyFileName_;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace draftwick {
 
@@ -18,40 +19,20 @@ std::int32_t Percent(std::int32_t twips, std::int32_t himetric) {
     return RoundDown(static_cast<double>(TwipsToHimetric(twips)) / himetric * 100);
 }
 
-/// Reads until `size` bytes are there or the file ends.
-std::size_t ReadFully(platform::File& file, char* bytes, std::size_t size, std::error_code& error) {
-    std::size_t have = 0;
-    while (have < size) {
-        const std::size_t more = file.Read(bytes + have, size - have, error);
-        if (error || more == 0) break;
-        have += more;
-    }
-    return have;
-}
-
-/// Upper-case hexadecimal, 64 bytes of the file to one text. Constant memory, however long the file.
-void WritePictureData(Output& output, platform::File& file, PictureKind kind, const std::string& name) {
+/// Upper-case hexadecimal, 64 bytes to one text.
+void WritePictureData(Output& output, std::span<const unsigned char> bytes) {
     constexpr std::string_view Digits = "0123456789ABCDEF";
     constexpr std::size_t PerText = 64;
-    constexpr std::size_t PlaceableHeader = 22;  // RTF wants a metafile without it
-    std::vector<char> block(512 * PerText);
     std::array<char, 2 * PerText> text;
-    std::error_code error;
-    if (kind == PictureKind::Wmf) ReadFully(file, block.data(), PlaceableHeader, error);
-    while (!error) {
-        const std::size_t size = ReadFully(file, block.data(), block.size(), error);
-        for (std::size_t at = 0; at < size; at += PerText) {
-            const std::size_t count = std::min(PerText, size - at);
-            for (std::size_t i = 0; i < count; ++i) {
-                const auto byte = static_cast<unsigned char>(block[at + i]);
-                text[2 * i] = Digits[byte >> 4];
-                text[2 * i + 1] = Digits[byte & 15];
-            }
-            output.WriteText({text.data(), 2 * count});
+    while (!bytes.empty()) {
+        const std::size_t count = std::min(PerText, bytes.size());
+        for (std::size_t i = 0; i < count; ++i) {
+            text[2 * i] = Digits[bytes[i] >> 4];
+            text[2 * i + 1] = Digits[bytes[i] & 15];
         }
-        if (size < block.size()) break;
+        output.WriteText({text.data(), 2 * count});
+        bytes = bytes.subspan(count);
     }
-    if (error) output.ReadFailed(error, name);
 }
 
 }  // namespace
@@ -67,52 +48,59 @@ std::optional<PictureKind> PictureTypeFromName(std::string_view fileName) {
     return {};
 }
 
-OpenPicture::OpenPicture(const platform::Platform& platform, const std::string& fileName)
-    : files_(platform.files), name_(fileName) {
-    if (!files_->Exists(fileName)) RaiseError(dwErrPictureFileNotFound, {fileName});
+OpenPicture::OpenPicture(const platform::Platform& platform, const std::string& fileName) {
+    platform::FileSystem& files = *platform.files;
+    if (!files.Exists(fileName)) RaiseError(dwErrPictureFileNotFound, {fileName});
     const std::optional<PictureKind> kind = PictureTypeFromName(fileName);
     if (!kind) RaiseError(dwErrUnsupportedFileType, {fileName});
     kind_ = *kind;
     std::error_code error;
-    const auto picture = platform.pictures->Load(*files_, fileName, kind_, error);
+    const auto picture = platform.pictures->Load(files, fileName, kind_, error);
     if (error == platform::PictureError::Unreadable) RaiseRuntimeError(dwRunInvalidPicture, fileName);
     if (picture == nullptr) RaiseFileError(error, "read", fileName);
     width_ = picture->Width();
     height_ = picture->Height();
-    try {
-        if (kind_ == PictureKind::Gif || kind_ == PictureKind::Bmp) Convert(platform, *picture);
-        file_ = files_->OpenForReading(name_, error);
-        if (file_ == nullptr) RaiseFileError(error, "read", name_);
-    } catch (...) {
-        DeleteTemporary();
-        throw;
+    if (kind_ == PictureKind::Gif || kind_ == PictureKind::Bmp) {
+        Convert(platform, *picture);
+    } else {
+        Read(files, fileName);
     }
 }
 
-OpenPicture::~OpenPicture() {
-    file_.reset();
-    DeleteTemporary();
-}
-
 void OpenPicture::Convert(const platform::Platform& platform, const platform::Picture& picture) {
+    platform::FileSystem& files = *platform.files;
     // The folder is the environment's, not the document's.
-    UniqueFile claimed = CreateUniqueFile(*files_, platform.environment->TempFolder(), "~DWGC", ".tmp",
-                                          platform::Creation::ExclusivePrivate);
-    temporary_ = std::move(claimed.name);
-    claimed.file.reset();
-    name_ = temporary_;
-    kind_ = PictureKind::Emf;
-    const int twipsPerPixel = platform.pictures->TwipsPerPixel();
-    std::error_code error;
-    platform.pictures->Record(picture, HimetricToPixels(width_, twipsPerPixel),
-                              HimetricToPixels(height_, twipsPerPixel), *files_, name_, error);
-    if (error) RaiseFileError(error, "write", name_);
+    const std::string name = CreateUniqueFile(files, platform.environment->TempFolder(), "~DWGC", ".tmp",
+                                              platform::Creation::ExclusivePrivate)
+                                 .name;
+    std::error_code ignored;
+    try {
+        const int twipsPerPixel = platform.pictures->TwipsPerPixel();
+        std::error_code error;
+        platform.pictures->Record(picture, HimetricToPixels(width_, twipsPerPixel),
+                                  HimetricToPixels(height_, twipsPerPixel), files, name, error);
+        if (error) RaiseFileError(error, "write", name);
+        kind_ = PictureKind::Emf;
+        Read(files, name);
+    } catch (...) {
+        files.Delete(name, ignored);
+        throw;
+    }
+    files.Delete(name, ignored);
 }
 
-void OpenPicture::DeleteTemporary() noexcept {
-    if (temporary_.empty()) return;
-    std::error_code ignored;
-    files_->Delete(temporary_, ignored);
+void OpenPicture::Read(platform::FileSystem& files, const std::string& name) {
+    constexpr std::size_t BlockSize = std::size_t{32} * 1024;
+    std::error_code error;
+    const auto file = files.OpenForReading(name, error);
+    for (std::size_t have = 0; !error;) {
+        bytes_.resize(have + BlockSize);
+        const std::size_t more = file->Read(reinterpret_cast<char*>(bytes_.data()) + have, BlockSize, error);
+        have += more;
+        bytes_.resize(have);
+        if (more == 0) break;
+    }
+    if (error) RaiseFileError(error, "read", name);
 }
 
 std::optional<OpenPicture::Scale> OpenPicture::ScaleTo(std::int32_t width, std::int32_t height) const {
@@ -120,7 +108,7 @@ std::optional<OpenPicture::Scale> OpenPicture::ScaleTo(std::int32_t width, std::
     return Scale{Percent(width, width_), Percent(height, height_)};
 }
 
-void EmitPicture(WritingContext& context, OpenPicture& picture,
+void EmitPicture(WritingContext& context, const OpenPicture& picture,
                  const std::optional<OpenPicture::Scale>& scale) {
     Output& output = context.output;
     switch (picture.kind_) {
@@ -132,7 +120,10 @@ void EmitPicture(WritingContext& context, OpenPicture& picture,
         output.WriteControlWord("picscalex", scale->x);
         output.WriteControlWord("picscaley", scale->y);
     }
-    WritePictureData(output, *picture.file_, picture.kind_, picture.name_);
+    constexpr std::size_t PlaceableHeader = 22;  // RTF wants a metafile without it
+    const std::span<const unsigned char> bytes = picture.bytes_;
+    const bool isWmf = picture.kind_ == PictureKind::Wmf;
+    WritePictureData(output, bytes.subspan(isWmf ? std::min(PlaceableHeader, bytes.size()) : 0));
 }
 
 }  // namespace draftwick

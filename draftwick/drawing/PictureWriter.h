@@ -3,10 +3,10 @@
 #include <draftwick/platform/Platform.h>
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace draftwick {
 
@@ -15,16 +15,13 @@ class WritingContext;
 /// What a file holds according to the end of its name, in small letters; nothing when no picture has such a name.
 std::optional<platform::PictureKind> PictureTypeFromName(std::string_view fileName);
 
-/// A picture that was found, understood, converted if it must be, and opened: everything that can be known to fail
-/// before a byte of it is written. It owns the temporary file of a converted picture.
+/// A picture that was found, understood, converted if it must be, and read: everything that can fail before a byte of
+/// it is written.
 class OpenPicture {
 public:
     /// dwErrPictureFileNotFound when there is no such file, dwErrUnsupportedFileType for a name without one of the
     /// known extensions, error 481 when the content is not what the name says; std::system_error.
     OpenPicture(const platform::Platform& platform, const std::string& fileName);
-    ~OpenPicture();
-    OpenPicture(const OpenPicture&) = delete;
-    OpenPicture& operator=(const OpenPicture&) = delete;
 
     struct Scale {
         std::int32_t x = 100;  ///< percent
@@ -35,23 +32,20 @@ public:
     std::optional<Scale> ScaleTo(std::int32_t width, std::int32_t height) const;
 
 private:
-    friend void EmitPicture(WritingContext& context, OpenPicture& picture, const std::optional<Scale>& scale);
+    friend void EmitPicture(WritingContext& context, const OpenPicture& picture,
+                            const std::optional<Scale>& scale);
 
     void Convert(const platform::Platform& platform, const platform::Picture& picture);
-    void DeleteTemporary() noexcept;
+    void Read(platform::FileSystem& files, const std::string& name);
 
-    std::shared_ptr<platform::FileSystem> files_;
     platform::PictureKind kind_{};
     std::int32_t width_ = 0;  // HIMETRIC
     std::int32_t height_ = 0;
-    std::string name_;       // of the file to embed
-    std::string temporary_;  // the same when it is a temporary one
-    std::unique_ptr<platform::File> file_;
+    std::vector<unsigned char> bytes_;
 };
 
-/// \emfblip\picscalex100\picscaley50 0100...: what stands in a \pict group. Never fails: if the file cannot be read to
-/// its end, that is reported between this object and the next.
-void EmitPicture(WritingContext& context, OpenPicture& picture,
+/// \emfblip\picscalex100\picscaley50 0100...: what stands in a \pict group. Never fails.
+void EmitPicture(WritingContext& context, const OpenPicture& picture,
                  const std::optional<OpenPicture::Scale>& scale = {});
 
 }  // namespace draftwick

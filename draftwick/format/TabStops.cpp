@@ -22,7 +22,7 @@ void TabStops::Clear() {
 
 std::shared_ptr<TabStop> TabStops::Items(std::int32_t index) const {
     if (!InRange(index, 0, 255)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
-    if (!InRange(index, 1, Count())) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
+    if (index < 1 || index > Count()) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
     return ItemAt(index);
 }
 

@@ -51,6 +51,13 @@ public:
     virtual std::uint64_t Length(const std::string& name, std::error_code& error) = 0;
     virtual void Delete(const std::string& name, std::error_code& error) = 0;
 
+    /// Whether Rename can put a file under the name: a regular file has it, or nothing. Devices, pipes and folders
+    /// can only be opened for writing, or not at all.
+    virtual bool CanReplace(const std::string& name) = 0;
+    /// Gives a file another name in its folder. A regular file of that name is replaced in one step: whoever opens
+    /// it, at whatever time, gets the old file or the new one.
+    virtual void Rename(const std::string& from, const std::string& to, std::error_code& error) = 0;
+
     /// The name by which any program finds the file: a name that is relative to the current folder gets that folder
     /// in front of it. Whether the file exists does not matter.
     virtual std::string FullName(const std::string& name) = 0;

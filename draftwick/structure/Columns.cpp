@@ -40,7 +40,7 @@ std::int32_t Columns::Count() const noexcept { return list_.empty() ? values_.au
 std::shared_ptr<Column> Columns::Items(std::int32_t index) const {
     if (!InRange(index, 0, MostColumns)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
     if (list_.empty()) return nullptr;
-    if (!InRange(index, 1, Listed())) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
+    if (index < 1 || index > Listed()) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
     return ItemAt(index);
 }
 

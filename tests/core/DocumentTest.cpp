@@ -154,47 +154,6 @@ TEST_F(Documents, PutTheirBodyIntoTheFirstFreeTemporaryFile) {
     }
 }
 
-// Every operation on files fails once, in a document whose body is longer than any buffer: the failure is reported
-// once, with the name of the file, and when the host tries again the file comes out right.
-TEST_F(Documents, SurviveEveryFailureOfTheFileSystem) {
-    const auto build = [this](int failing, int& reported) {
-        files = std::make_shared<MemoryFiles>();
-        files->Put("out.rtf", "old");
-        if (failing > 0) files->FailAt(failing, std::errc::no_space_on_device, 100);
-        auto document = NewDocument();
-        const auto insist = [&](const auto& action) {
-            try {
-                return action();
-            } catch (const std::system_error& error) {
-                ++reported;
-                EXPECT_EQ(error.code(), std::errc::no_space_on_device);
-                EXPECT_NE(std::string{error.what()}.find('\''), std::string::npos) << error.what();
-                return action();
-            }
-        };
-        auto section = insist([&] { return document->AddSection(); });
-        for (int i = 0; i < 40; ++i) {
-            auto paragraph = insist([&] { return section->AddParagraph(); });
-            insist([&] { return paragraph->AddTextItem(std::string(5000, 'a')); });
-        }
-        insist([&] { return document->Finish(); });
-        return document->ActualFileName();
-    };
-    int reported = 0;
-    const std::string whole = build(0, reported);
-    const std::string expected = files->Bytes(whole);
-    const int operations = files->Operations();
-    ASSERT_EQ(reported, 0);
-    for (int n = 1; n <= operations; ++n) {
-        reported = 0;
-        const std::string name = build(n, reported);
-        EXPECT_EQ(files->Bytes(name), expected) << n;
-        // An old file that cannot be deleted is no failure: another name is taken.
-        EXPECT_EQ(reported, name == "out.rtf" ? 1 : 0) << n;
-        EXPECT_EQ(files->OpenFiles(), 0) << n;
-    }
-}
-
 TEST_F(Documents, KeepNoMoreThanABlockOfTheirBodyInMemory) {
     auto document = NewDocument();
     auto section = document->AddSection();

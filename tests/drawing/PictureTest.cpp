@@ -144,7 +144,7 @@ TEST(InlinePicture, CanHoldTextBeforeItsData) {
     built.shape->Fill()->SetPicture("a.emf");
     AddText(*built.shape, "a");
     std::error_code error;
-    built.files->Delete("a.emf", error);  // it is open already
+    built.files->Delete("a.emf", error);  // it is read already
     built->SetScaleMode(dwInches);        // what counts is the unit when the shape ends
     EXPECT_EQ(Pairs(built.Body()), R"(\pard~{\pict{\*\picprop\shplid1<ShapeType=75>}{\shptxt\pard~{a}}})"
                                    R"(\emfblip\picscalex0\picscaley0 )"
@@ -247,46 +247,6 @@ TEST(Picture, ReportsWhatTheFileSystemSays) {
     EXPECT_EQ(CheckFile(ReadFile(folder / "a.rtf")), "");
     const std::filesystem::directory_iterator left(folder.Path());
     EXPECT_EQ(std::distance(begin(left), end(left)), 3);  // folder.jpg, a.bmp, a.rtf
-}
-
-// Every operation on files fails once. Whichever it is, the host hears of it, can go on, and has one whole document
-// and no other file.
-TEST(Picture, SurvivesAFailureAtEveryOperation) {
-    for (int operation = 1;; ++operation) {
-        WithShape built(dwSKRectangle);
-        built.files->Put("a.bmp", MakeBmp(Checks, {}));
-        built.files->Put("long.emf", Emf + std::string(100'000, 'x'));
-        Apply({{"Style", dwSFSPicTile}, {"Picture", "a.bmp"}}, *built.shape->Fill());
-        Apply({{"Texture", dwSLTPicture}, {"Picture", "long.emf"}}, *built.shape->Line());
-        const int before = built.files->Operations();
-        built.files->FailAt(before + operation, std::errc::io_error);
-        int failures = 0;
-        const auto persist = [&](const std::function<void()>& action) {
-            for (int attempt = 0; attempt < 3; ++attempt) {
-                try {
-                    return action();
-                } catch (const std::system_error& error) {
-                    EXPECT_EQ(error.code(), std::errc::io_error) << operation;
-                    ++failures;
-                }
-            }
-        };
-        persist([&] { AddText(*built.shape, "a"); });
-        persist([&] {
-            auto frame = built.section->AddParagraph()->AddShape(dwSKPictureFrame);
-            frame->SetInLine(true);
-            frame->Fill()->SetPicture("a.bmp");
-        });
-        persist([&] { built->Finish(); });
-        if (built.files->Operations() < before + operation) break;
-        ASSERT_LT(operation, 1000);
-        // Only of a temporary file that cannot be deleted the host does not hear.
-        EXPECT_EQ(failures, built.Temporary().empty() ? 1 : 0) << operation;
-        const std::string bytes = built.files->Bytes(built->ActualFileName());
-        EXPECT_EQ(CheckFile(bytes), "") << operation;
-        EXPECT_NE(bytes.find("\\shptxt"), bytes.npos) << operation;
-        EXPECT_EQ(built.files->OpenFiles(), 0) << operation;
-    }
 }
 
 }  // namespace draftwick::test

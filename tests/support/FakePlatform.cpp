@@ -59,8 +59,16 @@ void MemoryFiles::FailAt(int operation, std::errc error, std::size_t taken) {
     taken_ = taken;
 }
 
+void MemoryFiles::StopAt(int operation, std::size_t taken) {
+    FailAt(operation, std::errc::io_error, taken);
+    stops_ = true;
+}
+
 std::error_code MemoryFiles::Count() {
-    return ++operations_ == failing_ ? std::make_error_code(failure_) : std::error_code();
+    ++operations_;
+    const bool stopped = stops_ && operations_ > failing_;
+    if (stopped) taken_ = 0;
+    return stopped || operations_ == failing_ ? std::make_error_code(failure_) : std::error_code();
 }
 
 MemoryFiles::Content MemoryFiles::Find(const std::string& name, std::error_code& error) {
@@ -105,6 +113,17 @@ void MemoryFiles::Delete(const std::string& name, std::error_code& error) {
         error = std::make_error_code(std::errc::device_or_resource_busy);
     } else {
         files_.erase(name);
+    }
+}
+
+void MemoryFiles::Rename(const std::string& from, const std::string& to, std::error_code& error) {
+    const Content content = Find(from, error);
+    if (!content) return;
+    if (locked_.contains(to)) {
+        error = std::make_error_code(std::errc::device_or_resource_busy);
+    } else {
+        files_[to] = content;
+        files_.erase(from);
     }
 }
 

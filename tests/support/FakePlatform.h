@@ -24,10 +24,12 @@ public:
     }
     std::vector<std::string> Names() const;
 
-    /// Lets one operation fail, counted from 1 over every Create, OpenForReading, Write, Read, Close, Length and
-    /// Delete since the beginning. When it is a Write, the first `taken` bytes still get through. A Close that
+    /// Lets one operation fail, counted from 1 over every Create, OpenForReading, Write, Read, Close, Length, Delete
+    /// and Rename since the beginning. When it is a Write, the first `taken` bytes still get through. A Close that
     /// fails ends the use of the file nevertheless.
     void FailAt(int operation, std::errc error, std::size_t taken = 0);
+    /// As FailAt, and nothing that comes after it does anything: as if the process had been killed.
+    void StopAt(int operation, std::size_t taken);
     /// How many operations there were.
     int Operations() const { return operations_; }
 
@@ -43,6 +45,8 @@ public:
     bool Exists(const std::string& name) override { return files_.contains(name); }
     std::uint64_t Length(const std::string& name, std::error_code& error) override;
     void Delete(const std::string& name, std::error_code& error) override;
+    bool CanReplace(const std::string&) override { return true; }
+    void Rename(const std::string& from, const std::string& to, std::error_code& error) override;
     std::string FullName(const std::string& name) override { return name; }
     char Separator() const override { return '/'; }
 
@@ -59,6 +63,7 @@ private:
     int operations_ = 0;
     int open_ = 0;
     int failing_ = 0;
+    bool stops_ = false;
     std::errc failure_{};
     std::size_t taken_ = 0;
 };

@@ -12,9 +12,16 @@ namespace {
 
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
+/// Whether it can be a name. One with a zero byte would silently mean another file.
+bool IsName(const std::string& name, std::error_code& error) {
+    error.clear();
+    if (name.find('\0') != std::string::npos) error = std::make_error_code(std::errc::invalid_argument);
+    return !error;
+}
+
 class PosixFile final : public File {
 public:
-    explicit PosixFile(int descriptor) : descriptor_(descriptor) {}
+    PosixFile() = default;
     ~PosixFile() override {
         if (descriptor_ >= 0) ::close(descriptor_);
     }
@@ -59,7 +66,9 @@ public:
     }
 
 private:
-    int descriptor_;
+    friend class PosixFileSystem;
+
+    int descriptor_ = -1;
 };
 
 class PosixFileSystem final : public FileSystem {
@@ -74,13 +83,14 @@ public:
     }
 
     bool Exists(const std::string& name) override {
-        struct stat status {};
-        return ::stat(name.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+        std::error_code error;
+        Length(name, error);
+        return !error;
     }
 
     std::uint64_t Length(const std::string& name, std::error_code& error) override {
-        error.clear();
         struct stat status {};
+        if (!IsName(name, error)) return 0;
         if (::stat(name.c_str(), &status) != 0) {
             error = LastError();
             return 0;
@@ -93,8 +103,19 @@ public:
     }
 
     void Delete(const std::string& name, std::error_code& error) override {
-        error.clear();
-        if (::unlink(name.c_str()) != 0) error = LastError();
+        if (IsName(name, error) && ::unlink(name.c_str()) != 0) error = LastError();
+    }
+
+    bool CanReplace(const std::string& name) override {
+        struct stat status {};
+        if (::lstat(name.c_str(), &status) != 0) return true;
+        // A link is replaced itself, unless it leads to what cannot be replaced, or nowhere.
+        return S_ISLNK(status.st_mode) ? Exists(name) : S_ISREG(status.st_mode);
+    }
+
+    void Rename(const std::string& from, const std::string& to, std::error_code& error) override {
+        if (IsName(from, error) && IsName(to, error) && ::rename(from.c_str(), to.c_str()) != 0)
+            error = LastError();
     }
 
     std::string FullName(const std::string& name) override {
@@ -109,21 +130,14 @@ public:
 private:
     static std::unique_ptr<File> Open(const std::string& name, int flags, mode_t mode,
                                       std::error_code& error) {
-        error.clear();
-        // A name with a zero byte would silently mean another file.
-        if (name.find('\0') != std::string::npos) {
-            error = std::make_error_code(std::errc::invalid_argument);
-            return nullptr;
-        }
-        int descriptor = -1;
+        if (!IsName(name, error)) return nullptr;
+        auto file = std::make_unique<PosixFile>();
         do {
-            descriptor = ::open(name.c_str(), flags | O_CLOEXEC, mode);
-        } while (descriptor < 0 && errno == EINTR);
-        if (descriptor < 0) {
-            error = LastError();
-            return nullptr;
-        }
-        return std::make_unique<PosixFile>(descriptor);
+            file->descriptor_ = ::open(name.c_str(), flags | O_CLOEXEC, mode);
+        } while (file->descriptor_ < 0 && errno == EINTR);
+        if (file->descriptor_ >= 0) return file;
+        error = LastError();
+        return nullptr;
     }
 };
 

@@ -64,7 +64,10 @@ private:
 
 class WindowsFile final : public File {
 public:
-    explicit WindowsFile(HANDLE handle) : handle_(handle) {}
+    WindowsFile(const std::wstring& name, DWORD access, DWORD share, DWORD how, SECURITY_ATTRIBUTES* security)
+        : handle_(::CreateFileW(name.c_str(), access, share, security, how, FILE_ATTRIBUTE_NORMAL, nullptr)) {
+    }
+    bool IsOpen() const { return handle_.IsOpen(); }
 
     std::size_t Write(const char* bytes, std::size_t size, std::error_code& error) override {
         error.clear();
@@ -140,6 +143,22 @@ public:
         if (!error && !::DeleteFileW(wide.c_str())) error = LastError();
     }
 
+    bool CanReplace(const std::string& name) override {
+        std::error_code error;
+        const DWORD attributes = ::GetFileAttributesW(ToName(name, error).c_str());
+        const bool isFolder =
+            attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        return !isFolder && !FullName(name).starts_with(R"(\\.\)");
+    }
+
+    void Rename(const std::string& from, const std::string& to, std::error_code& error) override {
+        const std::wstring before = ToName(from, error);
+        if (error) return;
+        const std::wstring after = ToName(to, error);
+        if (!error && !::MoveFileExW(before.c_str(), after.c_str(), MOVEFILE_REPLACE_EXISTING))
+            error = LastError();
+    }
+
     std::string FullName(const std::string& name) override {
         std::wstring full(32767, L'\0');
         full.resize(
@@ -154,13 +173,10 @@ private:
                                       SECURITY_ATTRIBUTES* security, std::error_code& error) {
         const std::wstring wide = ToName(name, error);
         if (error) return nullptr;
-        const HANDLE handle =
-            ::CreateFileW(wide.c_str(), access, share, security, how, FILE_ATTRIBUTE_NORMAL, nullptr);
-        if (handle == INVALID_HANDLE_VALUE) {
-            error = LastError();
-            return nullptr;
-        }
-        return std::make_unique<WindowsFile>(handle);
+        auto file = std::make_unique<WindowsFile>(wide, access, share, how, security);
+        if (file->IsOpen()) return file;
+        error = LastError();
+        return nullptr;
     }
 };
 

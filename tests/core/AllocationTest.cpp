@@ -1,0 +1,72 @@
+#include "tests/support/Documents.h"
+#include "tests/support/Everything.h"
+#include "tests/support/PictureFiles.h"
+#include "tests/support/TempFolder.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+thread_local long untilFailure = 0;  // counts down; 0: none fails
+}
+
+// The whole test program allocates here.
+void* operator new(std::size_t size) {
+    void* memory = untilFailure > 0 && --untilFailure == 0 ? nullptr : std::malloc(size + (size == 0));
+    if (memory == nullptr) throw std::bad_alloc();
+    return memory;
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace draftwick::test {
+
+namespace {
+
+/// How many files the process has open, where that can be seen.
+std::ptrdiff_t OpenHandles() {
+    std::error_code none;
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd", none), {});
+}
+
+}  // namespace
+
+// Real files: those in memory allocate themselves. Leaks of memory are found by the sanitizer. The host may go on to
+// use what it has: it gets more refusals perhaps, but no crash.
+TEST(Faults, OfEveryAllocationReachTheHost) {
+    const TempFolder folder;
+    const std::string bmp = folder / "a.bmp", jpg = folder / "a.jpg", file = folder / "out.rtf";
+    WriteFile(bmp, MakeBmp({3, 2, {0, 1, 2, 3, 4, 7}}, {}));
+    WriteFile(jpg, MakeJpeg(8, 8, 1, 96, 96));
+    platform::Platform services = platform::SystemPlatform();
+    const auto environment = std::make_shared<FakeEnvironment>();
+    environment->tempFolder = folder.Path();
+    services.environment = environment;
+    const std::ptrdiff_t handles = OpenHandles();
+    bool failed = true;
+    for (long n = 1; failed && !HasFailure(); ++n) {
+        std::shared_ptr<Document> document;
+        untilFailure = n;
+        try {
+            document = Document::Create(services);
+            document->SetFilename(file);
+            AddEverything(document, bmp, jpg, [](const std::function<Variant()>& step) { return step(); });
+            document->Finish();
+            EXPECT_GT(untilFailure, 0) << "the host did not hear of it";
+            failed = false;
+        } catch (const std::bad_alloc&) {
+        }
+        untilFailure = 0;
+        try {
+            if (document != nullptr) document->Finish();
+        } catch (const Error&) {
+        }
+        document.reset();
+        EXPECT_EQ(OpenHandles(), handles) << n;
+        for (const char* left : {"~dw1.tmp", "~DWGC1.tmp", "~dwout1.tmp"})
+            std::filesystem::remove(folder / left);
+    }
+    EXPECT_EQ(CheckFile(ReadFile(file)), "");
+}
+
+}  // namespace draftwick::test

@@ -1,0 +1,95 @@
+#include "tests/support/Documents.h"
+#include "tests/support/Everything.h"
+#include "tests/support/PictureFiles.h"
+
+namespace draftwick::test {
+
+namespace {
+
+/// A document with every construct, in files that fail.
+struct FaultyDocument {
+    std::shared_ptr<MemoryFiles> files = std::make_shared<MemoryFiles>();
+    std::shared_ptr<Document> document = Document::Create(MakeFakePlatform(files));
+    std::vector<std::string> reports{};
+
+    explicit FaultyDocument(const std::string& name) {
+        document->SetFilename(name);
+        if (!name.empty()) files->Put(name, "old");
+        const Indices pixels{3, 2, {0, 1, 2, 3, 4, 7}};
+        files->Put("a.bmp", MakeBmp(pixels, {}));
+        files->Put("a.jpg", MakeJpeg(8, 8, 1, 96, 96));
+    }
+
+    /// Builds and finishes it as a host that tries each step twice.
+    void Build() {
+        const auto insist = [this](const std::function<Variant()>& step) {
+            try {
+                return step();
+            } catch (const std::system_error& error) {
+                reports.emplace_back(error.what());
+                return step();
+            }
+        };
+        AddEverything(document, "a.bmp", "a.jpg", insist);
+        insist([&] { return document->Finish(), Variant{}; });
+    }
+
+    std::string Bytes() const { return files->Bytes(document->ActualFileName()); }
+    std::size_t Files() const { return files->Names().size(); }
+};
+
+}  // namespace
+
+// The failure is reported once, with the name of a file, and when the host tries again the file comes out right.
+TEST(Faults, OfEveryFileOperationAreReportedOnceAndMended) {
+    const std::pair<std::errc, std::size_t> failures[] = {
+        {std::errc::no_space_on_device, 100}, {std::errc::permission_denied, 0}, {std::errc::io_error, 1}};
+    for (const char* name : {"out.rtf", ""}) {
+        FaultyDocument whole(name);
+        whole.Build();
+        const std::string expected = whole.Bytes();
+        EXPECT_EQ(CheckFile(expected), "");
+        EXPECT_EQ(whole.Files(), 3U);
+        ASSERT_GT(whole.files->Operations(), 40);
+        for (const auto& [failure, taken] : failures) {
+            for (int n = 1; n <= whole.files->Operations(); ++n) {
+                SCOPED_TRACE(name + (" " + std::to_string(n)) + std::make_error_code(failure).message());
+                FaultyDocument built(name);
+                built.files->FailAt(n, failure, taken);
+                built.Build();
+                EXPECT_EQ(built.Bytes(), expected);
+                EXPECT_EQ(built.files->OpenFiles(), 0);
+                const bool renamed = built.document->ActualFileName() == "out1.rtf";
+                const bool left = built.Files() > (renamed ? 4U : 3U);
+                // An old file that cannot be replaced is no failure: another name is taken. A converted picture
+                // that cannot be deleted is none either.
+                ASSERT_EQ(built.reports.size(), renamed || left ? 0U : 1U);
+                if (built.reports.empty()) continue;
+                EXPECT_NE(built.reports[0].find('\''), std::string::npos) << built.reports[0];
+                EXPECT_NE(built.reports[0].find(std::make_error_code(failure).message()), std::string::npos);
+            }
+        }
+    }
+}
+
+// Under the final name is the old file or the whole new one, at whatever operation the process ends. Before that the
+// host has heard of the failure with each attempt to go on.
+TEST(Faults, ThatEndTheProcessLeaveTheOldFileOrTheWholeNewOne) {
+    FaultyDocument whole("out.rtf");
+    whole.Build();
+    bool replaced = false;
+    for (int n = 1; n <= whole.files->Operations(); ++n) {
+        FaultyDocument built("out.rtf");
+        built.files->StopAt(n, 100);
+        EXPECT_THROW(built.Build(), std::system_error) << n;
+        EXPECT_THROW(built.document->Finish(), std::system_error) << n;
+        EXPECT_FALSE(built.document->Finished()) << n;
+        if (built.files->Bytes("out.rtf") != "old") replaced = true;
+        EXPECT_EQ(built.files->Bytes("out.rtf"), replaced ? whole.Bytes() : "old") << n;
+        built.document.reset();
+        EXPECT_EQ(built.files->OpenFiles(), 0) << n;
+    }
+    EXPECT_TRUE(replaced);
+}
+
+}  // namespace draftwick::test
