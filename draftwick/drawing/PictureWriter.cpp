@@ -92,6 +92,9 @@ void OpenPicture::Convert(const platform::Platform& platform, const platform::Pi
 void OpenPicture::Read(platform::FileSystem& files, const std::string& name) {
     constexpr std::size_t BlockSize = std::size_t{32} * 1024;
     std::error_code error;
+    const std::uint64_t length = files.Length(name, error);
+    if (error) RaiseFileError(error, "read", name);
+    bytes_.reserve(static_cast<std::size_t>(length) + BlockSize);
     const auto file = files.OpenForReading(name, error);
     for (std::size_t have = 0; !error;) {
         bytes_.resize(have + BlockSize);
