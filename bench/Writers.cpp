@@ -1,10 +1,10 @@
 // What the parts of the library cost that every document goes through.
 #include "Allocations.h"
 
-#include <draftwick/base/Output.h>
-#include <draftwick/base/Text.h>
 #include <draftwick/draftwick.h>
 #include <draftwick/platform/Platform.h>
+#include <draftwick/rtf/Output.h>
+#include <draftwick/text/Escape.h>
 
 #include <benchmark/benchmark.h>
 

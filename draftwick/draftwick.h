@@ -1,7 +1,6 @@
 #pragma once
 
 /// All of Draftwick: what a host includes.
-#include <draftwick/base/Class.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Version.h>
 #include <draftwick/content/Field.h>
@@ -16,6 +15,7 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/model/Class.h>
 #include <draftwick/platform/Platform.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Cell.h>

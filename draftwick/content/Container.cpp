@@ -1,7 +1,7 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Container.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/format/Frame.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Table.h>
 
 namespace draftwick {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/Content.h>
+#include <draftwick/model/Content.h>
 
 namespace draftwick {
 

@@ -1,5 +1,3 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/TextItem.h>
@@ -8,6 +6,8 @@
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Footnote.h>
 

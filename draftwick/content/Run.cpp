@@ -1,10 +1,10 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Run.h>
 #include <draftwick/format/BackgroundWriter.h>
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <draftwick/base/Content.h>
 #include <draftwick/format/Background.h>
 #include <draftwick/format/Border.h>
 #include <draftwick/format/FontFormat.h>
+#include <draftwick/model/Content.h>
 
 #include <string>
 #include <string_view>

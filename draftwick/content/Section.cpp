@@ -1,8 +1,8 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/SectionWriter.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Table.h>
 
 #include <utility>

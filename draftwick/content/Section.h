@@ -1,7 +1,7 @@
 #pragma once
 
-#include <draftwick/base/DocumentSettings.h>
 #include <draftwick/content/Container.h>
+#include <draftwick/model/DocumentSettings.h>
 #include <draftwick/structure/Columns.h>
 #include <draftwick/structure/Header.h>
 #include <draftwick/structure/PageBorders.h>

@@ -1,6 +1,6 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/Text.h>
 #include <draftwick/content/Special.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/text/Escape.h>
 
 namespace draftwick {
 

@@ -1,8 +1,8 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/Text.h>
-#include <draftwick/base/Utf8.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/TextItem.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
+#include <draftwick/text/Escape.h>
+#include <draftwick/text/Utf8.h>
 
 namespace draftwick {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/Class.h>
+#include <draftwick/model/Class.h>
 
 #include <span>
 

@@ -1,7 +1,4 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/Text.h>
 #include <draftwick/base/Version.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/core/Document.h>
 #include <draftwick/core/DocumentWriter.h>
@@ -10,6 +7,9 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
+#include <draftwick/text/Escape.h>
 #include <draftwick/viewer/AutomationObject.h>
 #include <draftwick/viewer/Viewer.h>
 

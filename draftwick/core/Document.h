@@ -1,7 +1,7 @@
 #pragma once
 
-#include <draftwick/base/Content.h>
-#include <draftwick/base/DocumentSettings.h>
+#include <draftwick/model/Content.h>
+#include <draftwick/model/DocumentSettings.h>
 #include <draftwick/platform/Platform.h>
 #include <draftwick/viewer/ViewerKind.h>
 

@@ -1,9 +1,9 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/core/DocumentWriter.h>
 #include <draftwick/core/Properties.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

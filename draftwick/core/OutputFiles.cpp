@@ -1,8 +1,8 @@
 #include <draftwick/base/Error.h>
-#include <draftwick/base/UniqueFile.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/core/DocumentWriter.h>
 #include <draftwick/core/OutputFiles.h>
+#include <draftwick/model/WritingContext.h>
+#include <draftwick/rtf/UniqueFile.h>
 
 #include <string>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/BlockWriter.h>
+#include <draftwick/rtf/BlockWriter.h>
 
 #include <memory>
 #include <string>

@@ -1,5 +1,5 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/core/Properties.h>
+#include <draftwick/model/WritingContext.h>
 
 #include <cmath>
 #include <optional>

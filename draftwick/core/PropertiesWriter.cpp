@@ -1,6 +1,6 @@
-#include <draftwick/base/Text.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/core/Properties.h>
+#include <draftwick/model/WritingContext.h>
+#include <draftwick/text/Escape.h>
 
 namespace draftwick {
 

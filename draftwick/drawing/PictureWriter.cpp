@@ -1,8 +1,8 @@
 #include <draftwick/base/Error.h>
-#include <draftwick/base/UniqueFile.h>
 #include <draftwick/base/Units.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/drawing/PictureWriter.h>
+#include <draftwick/model/WritingContext.h>
+#include <draftwick/rtf/UniqueFile.h>
 
 #include <algorithm>
 #include <array>

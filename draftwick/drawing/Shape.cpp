@@ -1,9 +1,9 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/drawing/PictureWriter.h>
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/drawing/ShapeWriter.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Table.h>
 
 namespace draftwick {

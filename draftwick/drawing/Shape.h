@@ -1,6 +1,5 @@
 #pragma once
 
-#include <draftwick/base/LayoutState.h>
 #include <draftwick/content/Container.h>
 #include <draftwick/drawing/ShapeFill.h>
 #include <draftwick/drawing/ShapeKind.h>
@@ -9,6 +8,7 @@
 #include <draftwick/drawing/ShapeTextFormat.h>
 #include <draftwick/drawing/ShapeThreeD.h>
 #include <draftwick/drawing/ShapeWordArt.h>
+#include <draftwick/rtf/LayoutState.h>
 
 #include <array>
 #include <memory>

@@ -1,5 +1,5 @@
-#include <draftwick/base/Class.h>
 #include <draftwick/drawing/ShapeFill.h>
+#include <draftwick/model/Class.h>
 
 #include <charconv>
 

@@ -1,7 +1,7 @@
-#include <draftwick/base/Output.h>
-#include <draftwick/base/Text.h>
 #include <draftwick/base/Units.h>
 #include <draftwick/drawing/ShapeProperty.h>
+#include <draftwick/rtf/Output.h>
+#include <draftwick/text/Escape.h>
 
 #include <charconv>
 #include <string>

@@ -1,8 +1,8 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/drawing/ShapeFill.h>
 #include <draftwick/drawing/ShapeLine.h>
 #include <draftwick/drawing/ShapeProperty.h>
 #include <draftwick/drawing/ShapeShadow.h>
+#include <draftwick/model/WritingContext.h>
 
 #include <cmath>
 #include <string>

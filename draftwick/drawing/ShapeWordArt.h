@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/Object.h>
+#include <draftwick/model/Object.h>
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/drawing/ShapeProperty.h>
 #include <draftwick/drawing/ShapeWordArt.h>
 #include <draftwick/format/Fonts.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

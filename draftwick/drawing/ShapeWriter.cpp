@@ -1,6 +1,6 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/drawing/ShapeProperty.h>
 #include <draftwick/drawing/ShapeWriter.h>
+#include <draftwick/model/WritingContext.h>
 
 #include <array>
 

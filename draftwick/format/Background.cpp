@@ -1,5 +1,5 @@
-#include <draftwick/base/Class.h>
 #include <draftwick/format/Background.h>
+#include <draftwick/model/Class.h>
 
 namespace draftwick {
 

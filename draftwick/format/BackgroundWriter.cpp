@@ -1,5 +1,5 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/BackgroundWriter.h>
+#include <draftwick/model/WritingContext.h>
 
 #include <string>
 

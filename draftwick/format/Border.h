@@ -1,7 +1,7 @@
 #pragma once
 
-#include <draftwick/base/Collection.h>
-#include <draftwick/base/Object.h>
+#include <draftwick/model/Collection.h>
+#include <draftwick/model/Object.h>
 
 #include <array>
 #include <initializer_list>

@@ -1,7 +1,7 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/FontFormat.h>
 #include <draftwick/format/Fonts.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

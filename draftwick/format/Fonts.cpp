@@ -1,5 +1,5 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/Fonts.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

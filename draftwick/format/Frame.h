@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/Object.h>
+#include <draftwick/model/Object.h>
 
 namespace draftwick {
 

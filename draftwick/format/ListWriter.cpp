@@ -1,7 +1,7 @@
-#include <draftwick/base/Utf8.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Lists.h>
+#include <draftwick/model/WritingContext.h>
+#include <draftwick/text/Utf8.h>
 
 namespace draftwick {
 

@@ -1,5 +1,5 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/Lists.h>
+#include <draftwick/model/WritingContext.h>
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <draftwick/base/Collection.h>
 #include <draftwick/format/FontFormat.h>
+#include <draftwick/model/Collection.h>
 
 #include <array>
 #include <utility>

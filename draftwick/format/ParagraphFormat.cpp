@@ -1,7 +1,7 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/ParagraphFormat.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

@@ -1,6 +1,6 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/ParagraphFormat.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <draftwick/base/Collection.h>
 #include <draftwick/format/Background.h>
 #include <draftwick/format/Border.h>
 #include <draftwick/format/FontFormat.h>
 #include <draftwick/format/ParagraphFormat.h>
 #include <draftwick/format/TabStops.h>
+#include <draftwick/model/Collection.h>
 
 namespace draftwick {
 

@@ -1,8 +1,8 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/BackgroundWriter.h>
 #include <draftwick/format/BorderWriter.h>
 #include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

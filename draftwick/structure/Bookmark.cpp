@@ -1,7 +1,7 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/Utf8.h>
-#include <draftwick/base/WritingContext.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Bookmark.h>
+#include <draftwick/text/Utf8.h>
 
 namespace draftwick {
 

@@ -1,4 +1,4 @@
-#include <draftwick/base/Class.h>
+#include <draftwick/model/Class.h>
 #include <draftwick/structure/CellBorders.h>
 
 namespace draftwick {

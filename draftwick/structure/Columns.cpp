@@ -1,5 +1,5 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/WritingContext.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Columns.h>
 
 #include <limits>

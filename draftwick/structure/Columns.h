@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/Collection.h>
+#include <draftwick/model/Collection.h>
 
 namespace draftwick {
 

@@ -1,6 +1,6 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Footnote.h>
 #include <draftwick/structure/Table.h>
 

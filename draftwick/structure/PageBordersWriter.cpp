@@ -1,5 +1,5 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/BorderWriter.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/PageBorders.h>
 
 namespace draftwick {

@@ -1,6 +1,6 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/content/Container.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/TableWriter.h>
 

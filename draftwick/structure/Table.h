@@ -1,8 +1,8 @@
 #pragma once
 
-#include <draftwick/base/Content.h>
-#include <draftwick/base/LayoutState.h>
 #include <draftwick/format/Frame.h>
+#include <draftwick/model/Content.h>
+#include <draftwick/rtf/LayoutState.h>
 #include <draftwick/structure/TableBorders.h>
 
 namespace draftwick {

@@ -1,6 +1,6 @@
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/format/BackgroundWriter.h>
 #include <draftwick/format/BorderWriter.h>
+#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/TableWriter.h>
 
 namespace draftwick {

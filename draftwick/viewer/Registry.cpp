@@ -1,5 +1,5 @@
-#include <draftwick/base/CaseFolding.h>
 #include <draftwick/base/Units.h>
+#include <draftwick/text/CaseFolding.h>
 #include <draftwick/viewer/Registry.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/Object.h>
+#include <draftwick/model/Object.h>
 #include <draftwick/platform/Platform.h>
 #include <draftwick/viewer/AutomationObject.h>
 #include <draftwick/viewer/ViewerKind.h>

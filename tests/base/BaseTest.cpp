@@ -1,10 +1,10 @@
 #include "tests/support/Errors.h"
 
 #include <draftwick/base/Error.h>
-#include <draftwick/base/Text.h>
 #include <draftwick/base/Units.h>
 #include <draftwick/platform/CodePage.h>
 #include <draftwick/platform/Platform.h>
+#include <draftwick/text/Escape.h>
 
 #include <gtest/gtest.h>
 

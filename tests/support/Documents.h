@@ -4,8 +4,8 @@
 #include "tests/support/FakePlatform.h"
 #include "tests/support/Rtf.h"
 
-#include <draftwick/base/WritingContext.h>
 #include <draftwick/draftwick.h>
+#include <draftwick/model/WritingContext.h>
 
 #include <gtest/gtest.h>
 

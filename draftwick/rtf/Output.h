@@ -1,7 +1,7 @@
 #pragma once
 
-#include <draftwick/base/BlockWriter.h>
-#include <draftwick/base/Words.h>
+#include <draftwick/rtf/BlockWriter.h>
+#include <draftwick/rtf/Words.h>
 
 #include <cstddef>
 #include <cstdint>

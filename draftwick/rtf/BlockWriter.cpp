@@ -1,4 +1,4 @@
-#include <draftwick/base/BlockWriter.h>
+#include <draftwick/rtf/BlockWriter.h>
 
 #include <algorithm>
 #include <cstring>

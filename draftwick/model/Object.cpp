@@ -1,7 +1,7 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/Object.h>
-#include <draftwick/base/Utf8.h>
-#include <draftwick/base/WritingContext.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/Object.h>
+#include <draftwick/model/WritingContext.h>
+#include <draftwick/text/Utf8.h>
 
 namespace draftwick {
 

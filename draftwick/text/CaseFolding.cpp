@@ -1,5 +1,5 @@
-#include <draftwick/base/CaseFolding.h>
-#include <draftwick/base/Utf8.h>
+#include <draftwick/text/CaseFolding.h>
+#include <draftwick/text/Utf8.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -17,7 +17,7 @@ struct Range {
 };
 
 constexpr Range Ranges[] = {
-#include <draftwick/base/CaseFoldingTable.inc>
+#include <draftwick/text/CaseFoldingTable.inc>
 };
 
 char32_t Fold(char32_t character) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/Rules.h>
+#include <draftwick/model/Rules.h>
 
 #include <string>
 

@@ -1,6 +1,6 @@
-#include <draftwick/base/Output.h>
-#include <draftwick/base/Utf8.h>
 #include <draftwick/platform/CodePage.h>
+#include <draftwick/rtf/Output.h>
+#include <draftwick/text/Utf8.h>
 
 #include <algorithm>
 #include <charconv>

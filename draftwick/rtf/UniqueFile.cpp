@@ -1,5 +1,5 @@
-#include <draftwick/base/BlockWriter.h>
-#include <draftwick/base/UniqueFile.h>
+#include <draftwick/rtf/BlockWriter.h>
+#include <draftwick/rtf/UniqueFile.h>
 
 namespace draftwick {
 

@@ -1,6 +1,6 @@
 #include <draftwick/base/Error.h>
-#include <draftwick/base/Text.h>
-#include <draftwick/base/Utf8.h>
+#include <draftwick/text/Escape.h>
+#include <draftwick/text/Utf8.h>
 
 #include <array>
 #include <charconv>

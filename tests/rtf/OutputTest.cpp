@@ -1,6 +1,6 @@
 #include "tests/support/FakePlatform.h"
 
-#include <draftwick/base/Output.h>
+#include <draftwick/rtf/Output.h>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include <draftwick/base/Class.h>
-#include <draftwick/base/Content.h>
-#include <draftwick/base/WritingContext.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/Content.h>
+#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 

@@ -1,4 +1,4 @@
-#include <draftwick/base/Utf8.h>
+#include <draftwick/text/Utf8.h>
 
 #include <array>
 #include <cstdint>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <draftwick/base/CaseFolding.h>
-#include <draftwick/base/Class.h>
-#include <draftwick/base/Object.h>
-#include <draftwick/base/Utf8.h>
+#include <draftwick/model/Class.h>
+#include <draftwick/model/Object.h>
+#include <draftwick/text/CaseFolding.h>
+#include <draftwick/text/Utf8.h>
 
 #include <cstddef>
 #include <cstdint>

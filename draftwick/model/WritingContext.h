@@ -1,10 +1,10 @@
 #pragma once
 
-#include <draftwick/base/ColorTable.h>
-#include <draftwick/base/DocumentSettings.h>
-#include <draftwick/base/LayoutState.h>
-#include <draftwick/base/Output.h>
+#include <draftwick/model/DocumentSettings.h>
 #include <draftwick/platform/Platform.h>
+#include <draftwick/rtf/ColorTable.h>
+#include <draftwick/rtf/LayoutState.h>
+#include <draftwick/rtf/Output.h>
 
 #include <cstdint>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <draftwick/base/Rules.h>
 #include <draftwick/base/Variant.h>
+#include <draftwick/model/Rules.h>
 #include <draftwick/platform/Export.h>
 
 #include <cstdint>

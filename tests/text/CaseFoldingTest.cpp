@@ -1,4 +1,4 @@
-#include <draftwick/base/CaseFolding.h>
+#include <draftwick/text/CaseFolding.h>
 
 #include <gtest/gtest.h>
 

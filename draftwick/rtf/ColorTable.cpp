@@ -1,5 +1,5 @@
-#include <draftwick/base/ColorTable.h>
-#include <draftwick/base/Output.h>
+#include <draftwick/rtf/ColorTable.h>
+#include <draftwick/rtf/Output.h>
 
 #include <string>
 
