@@ -61,6 +61,26 @@ void CheckRange(std::int32_t value, std::int32_t bound1, std::int32_t bound2, st
     if (!InRange(value, bound1, bound2)) RaiseError(dwErrPropertyOutOfRange, {std::string{name}});
 }
 
+std::int32_t PointsToTwips(double points) { return RoundDown(points * 20); }
+
+std::int32_t PointsToSignedTwips(double points) {
+    RoundHalfEven(points * -20);
+    return RoundHalfEven(points * 20);
+}
+
+std::int32_t PointsToHalfPoints(double points) { return RoundDown(points * 2); }
+std::int32_t LinesToParts(double lines) { return RoundHalfEven(lines * 240); }
+
+double ToFixedPoint(double value) {
+    RoundHalfEven(value * 65536);
+    return value * 65536;
+}
+
+double PercentToFixedPoint(double percent) { return ToFixedPoint(percent / 100); }
+double PercentFromFarEdge(double percent) { return PercentToFixedPoint(std::abs(percent - 100)); }
+std::int32_t TwipsToEmu(std::int32_t twips) { return RoundHalfEven(twips * 635.0); }
+std::int32_t PointsToEmu(double points) { return TwipsToEmu(RoundHalfEven(points * 20)); }
+
 double TwipsToInches(std::int32_t twips) noexcept { return twips / 1440.0; }
 std::int32_t InchesToHimetric(double inches) { return RoundHalfEven(inches * 2540.0); }
 std::int32_t TwipsToHimetric(std::int32_t twips) { return InchesToHimetric(TwipsToInches(twips)); }

@@ -37,6 +37,26 @@ constexpr bool InRange(std::int32_t value, std::int32_t bound1, std::int32_t bou
 DRAFTWICK_API void CheckRange(std::int32_t value, std::int32_t bound1, std::int32_t bound2,
                               std::string_view name);
 
+// Numbers as the file has them. Error 6 when they are not finite or do not fit 32 bits.
+
+/// Points as twips, rounded down.
+DRAFTWICK_API std::int32_t PointsToTwips(double points);
+/// Points as twips, ties to even; the negative number fits, too.
+DRAFTWICK_API std::int32_t PointsToSignedTwips(double points);
+/// Points as half-points, rounded down.
+DRAFTWICK_API std::int32_t PointsToHalfPoints(double points);
+/// Lines as their 240ths, ties to even.
+DRAFTWICK_API std::int32_t LinesToParts(double lines);
+/// A number as 65536ths, not rounded.
+DRAFTWICK_API double ToFixedPoint(double value);
+/// Percent as 65536ths of the whole, not rounded.
+DRAFTWICK_API double PercentToFixedPoint(double percent);
+/// Likewise how far percent are from the whole.
+DRAFTWICK_API double PercentFromFarEdge(double percent);
+/// English Metric Units, 635 to the twip; of points in whole twips, ties to even.
+DRAFTWICK_API std::int32_t TwipsToEmu(std::int32_t twips);
+DRAFTWICK_API std::int32_t PointsToEmu(double points);
+
 /// Picture sizes. HIMETRIC is a hundredth of a millimetre, 2540 to the inch.
 DRAFTWICK_API double TwipsToInches(std::int32_t twips) noexcept;
 /// To the nearest hundredth of a millimetre. Error 6 when it does not fit 32 bits.

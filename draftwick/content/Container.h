@@ -21,18 +21,19 @@ public:
     /// The paragraph that was added last; empty before the first.
     std::shared_ptr<Paragraph> CurrentParagraph() const { return currentParagraph_; }
 
-    // The rest is for the library.
-
+protected:
     /// Writes what stands before a paragraph's \pard: \par when another paragraph comes before it.
     virtual void WriteParagraphMark();
-    /// Writes what stands right after a paragraph's \pard: where the paragraph's own frame, if it has one, places
-    /// it. A paragraph in a cell goes where its row does.
+    /// Writes \pard and where the paragraph's own frame, if it has one, places it. A paragraph in a cell goes where its
+    /// row does.
     virtual void WriteParagraphPlace(const Frame* frame);
     /// Whether the container is a cell, or a note in a cell: then what stands in its paragraphs must leave the writers
     /// of paragraphs and rows as it found them.
     virtual bool StandsInCell() const { return false; }
 
 private:
+    friend class Paragraph;
+
     std::shared_ptr<Paragraph> currentParagraph_;
 };
 
@@ -48,12 +49,13 @@ public:
     /// The row that was added last; empty before the first.
     std::shared_ptr<Table> CurrentTable() const { return currentTable_; }
 
-    // The rest is for the library.
-
+protected:
     /// Writes what stands before a row's \trowd: \par when a paragraph comes before it.
     virtual void WriteRowMark();
 
 private:
+    friend class Table;
+
     std::shared_ptr<Table> currentTable_;
 };
 

@@ -1,6 +1,7 @@
 #include <draftwick/content/Field.h>
+#include <draftwick/content/Writers.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 #include <draftwick/text/Utf8.h>
 
 namespace draftwick {
@@ -10,11 +11,7 @@ Field::Field(const Origin& origin, std::string_view code, std::string_view text)
     values_.text = ToValidUtf8(text);
 }
 
-void Field::WriteStart() {
-    WriteRunStart();
-    EmitField(Writing(), values_);
-    Writing().output.WriteGroupEnd();
-}
+void Field::WriteStart() { EmitField(Writer(), Settings(), values_, Session().settings); }
 
 const Class& Field::Describe() {
     using F = Field;

@@ -108,10 +108,9 @@ protected:
     void WriteStart() override;
 
 private:
+    friend struct Access;
+
     Values values_;
 };
-
-/// "{\field{\*\fldinst PAGE}{\fldrslt 1}}", inside of the run's group.
-void EmitField(WritingContext& context, const Field::Values& field);
 
 }  // namespace draftwick

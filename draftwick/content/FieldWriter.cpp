@@ -1,6 +1,4 @@
-#include <draftwick/content/Field.h>
-#include <draftwick/model/WritingContext.h>
-#include <draftwick/text/Escape.h>
+#include <draftwick/content/Writers.h>
 
 namespace draftwick {
 
@@ -30,23 +28,19 @@ std::string InstructionOf(const Field::Values& field) {
 
 }  // namespace
 
-void EmitField(WritingContext& context, const Field::Values& field) {
-    Output& output = context.output;
-    output.WriteGroupStart();
-    output.WriteControlWord("field");
-    if (field.dirty) output.WriteControlWord("flddirty");
-    if (field.edited) output.WriteControlWord("fldedit");
-    if (field.locked) output.WriteControlWord("fldlock");
-    if (field.isPrivate) output.WriteControlWord("fldpriv");
-    output.WriteDestinationStart();
-    output.WriteControlWord("fldinst");
-    output.WriteText(EscapeText(InstructionOf(field)));
-    output.WriteGroupEnd();
-    output.WriteGroupStart();
-    output.WriteControlWord("fldrslt");
-    output.WriteText(EscapeText(field.text));
-    output.WriteGroupEnd();
-    output.WriteGroupEnd();
+void EmitField(RtfWriter& writer, const RunSettings& run, const Field::Values& field,
+               const DocumentSettings& document) {
+    writer.Group([&] {
+        EmitRunFormat(writer, run, document);
+        writer.Group("field", [&] {
+            if (field.dirty) writer.Word("flddirty");
+            if (field.edited) writer.Word("fldedit");
+            if (field.locked) writer.Word("fldlock");
+            if (field.isPrivate) writer.Word("fldpriv");
+            writer.Destination("fldinst", [&] { writer.Text(InstructionOf(field)); });
+            writer.Group("fldrslt", [&] { writer.Text(field.text); });
+        });
+    });
 }
 
 }  // namespace draftwick

@@ -1,37 +1,33 @@
 #include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/TextItem.h>
+#include <draftwick/content/Writers.h>
 #include <draftwick/drawing/Shape.h>
-#include <draftwick/format/BackgroundWriter.h>
-#include <draftwick/format/BorderWriter.h>
-#include <draftwick/format/FontFormatWriter.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/model/Access.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Footnote.h>
 
 namespace draftwick {
 
-std::string Paragraph::StyleName() const {
-    return style_ == Style::NoStyle ? std::string{} : Writing().paragraphStyles->At(style_).Name();
-}
+std::string Paragraph::StyleName() const { return style_.Name(*Session().collections->paragraphStyles); }
 
 void Paragraph::SetStyleName(std::string_view name) {
     OpenForChange();
-    if (name.empty()) {
-        style_ = Style::NoStyle;
-        return;
+    const ParagraphStyles& styles = *Session().collections->paragraphStyles;
+    Ref<ParagraphStyles> named;
+    named.Set(styles, name);
+    if (named) {
+        const auto& style = PartsOf(named.In(styles));
+        tabStops_.Get(AsOwner()).CopyFrom(style.tabStops);
+        borders_.Get(AsOwner()).CopyFrom(style.borders);
+        CopyValues(fontFormat_.Get(AsOwner()), style.fontFormat);
+        CopyValues(background_.Get(AsOwner()), style.background);
+        CopyValues(format_, style.format);
     }
-    const ParagraphStyles& styles = *Writing().paragraphStyles;
-    const std::int32_t index = styles.IndexOf(name);
-    const ParagraphStyle& style = styles.At(index);
-    tabStops_.Get(*this).CopyFrom(style.StoredTabStops());
-    borders_.Get(*this).CopyFrom(style.StoredBorders());
-    fontFormat_.Get(*this).CopyFrom(style.StoredFontFormat());
-    background_.Get(*this).CopyFrom(style.StoredBackground());
-    format_.CopyFrom(style.StoredFormat());
-    style_ = index;
+    style_ = named;
 }
 
 std::shared_ptr<Bookmark> Paragraph::AddBookmark(std::string_view name, bool isStart) {
@@ -49,34 +45,26 @@ std::shared_ptr<Field> Paragraph::AddField(std::string_view code, std::string_vi
 }
 
 std::shared_ptr<Shape> Paragraph::AddShape(dwShapeKind kind) {
-    Writing();
+    Session();
     CheckNotFinished();
-    if (dynamic_cast<Shape*>(&Holder<Container>()) != nullptr) {
+    if (dynamic_cast<Shape*>(&Holder()) != nullptr) {
         RaiseError(dwErrShapesCantContainShapes);
     }
     return Add(currentShape_, kind);
 }
 
-bool Paragraph::StandsInCell() const {
-    const std::shared_ptr<Object> container = Parent();
-    return container != nullptr && static_cast<const Container&>(*container).StandsInCell();
-}
-
-/// \par\pard\phcol...\s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
 void Paragraph::WriteStart() {
-    WritingContext& context = Writing();
-    auto& container = Holder<Container>();
-    container.WriteParagraphMark();
-    context.output.WriteControlWord("pard");
-    container.WriteParagraphPlace(frame_.Find());
-    if (style_ != Style::NoStyle) context.output.WriteControlWord("s", style_);
-    if (const ParagraphBorders* borders = borders_.Find()) EmitParagraphBorders(context, *borders);
-    if (const draftwick::Background* background = background_.Find())
-        EmitBackground(context, background->Stored());
-    const draftwick::FontFormat* font = fontFormat_.Find();
-    EmitFontFormat(context, font != nullptr ? font->Stored() : DefaultFontFormat(context), true);
-    EmitParagraphFormat(context, format_.Stored());
-    if (const draftwick::TabStops* tabStops = tabStops_.Find()) EmitTabStops(context, *tabStops);
+    NoteLists(Writer().lists, ValuesOf(format_));
+    Holder().WriteParagraphMark();
+    Holder().WriteParagraphPlace(frame_.Find());
+    EmitParagraph(Writer(),
+                  {.style = style_,
+                   .borders = borders_.Find(),
+                   .background = background_.Find(),
+                   .fontFormat = fontFormat_.Find(),
+                   .format = ValuesOf(format_),
+                   .tabStops = tabStops_.Find()},
+                  Session().settings);
 }
 
 const Class& Paragraph::Describe() {

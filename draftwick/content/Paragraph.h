@@ -17,15 +17,17 @@ namespace draftwick {
 class Bookmark;
 class Field;
 class Footnote;
+class ParagraphStyles;
+class Run;
 class Shape;
 class TextItem;
 
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
 /// on they and those of its parts refuse ("Paragraph"). It is closed when its container gets another child or is
 /// closed itself; then it takes no more children.
-class DRAFTWICK_API Paragraph final : public Content {
+class DRAFTWICK_API Paragraph final : public HeldBy<Container> {
 public:
-    explicit Paragraph(const Origin& origin) : Content(origin), format_(*this) {}
+    explicit Paragraph(const Origin& origin) : HeldBy(origin), format_(AsOwner()) {}
 
     /// The name of a paragraph style; empty (default) for none. Setting it looks the style up (dwErrItemNotFound),
     /// takes its spelling and copies everything that the style has into the paragraph, over what was set before;
@@ -37,12 +39,12 @@ public:
     /// Alignment, indents, spacing, page breaks, outline level and list.
     std::shared_ptr<ParagraphFormat> Format() { return Share(format_); }
     /// The look of the paragraph's runs unless they say otherwise. Reading it once makes it the paragraph's own.
-    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_.Get(*this)); }
-    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
-    std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_.Get(*this)); }
-    std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_.Get(*this)); }
+    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_.Get(AsOwner())); }
+    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(AsOwner())); }
+    std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_.Get(AsOwner())); }
+    std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_.Get(AsOwner())); }
     /// Styles have none.
-    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(*this)); }
+    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(AsOwner())); }
 
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
@@ -67,16 +69,17 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
-
-    const draftwick::FontFormat* OwnFontFormat() const noexcept { return fontFormat_.Find(); }
-    bool StandsInCell() const;
-
 protected:
     void WriteStart() override;
 
 private:
-    std::int32_t style_ = -1;  // the position in the document's paragraph styles, or Style::NoStyle
+    friend class Footnote;
+    friend class Run;
+    friend class Shape;
+
+    bool StandsInCell() const { return Holder().StandsInCell(); }
+
+    Ref<ParagraphStyles> style_;
     ParagraphFormat format_;
     Lazy<draftwick::FontFormat> fontFormat_;
     Lazy<draftwick::Background> background_;

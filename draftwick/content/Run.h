@@ -10,11 +10,14 @@
 
 namespace draftwick {
 
+class Paragraph;
+struct RunSettings;
+
 /// What a run of text and a field have in common: a text style and a look of their own. Everything can be changed
 /// until the run is written, which is when its paragraph gets the next child or is closed.
-class DRAFTWICK_API Run : public Content {
+class DRAFTWICK_API Run : public HeldBy<Paragraph> {
 public:
-    using Content::Content;
+    using HeldBy::HeldBy;
 
     /// The name of a text style; empty (default) for none. It is looked up when the run is written: a name that does
     /// not exist then makes the call that would write it fail (dwErrItemNotFound), and the name can still be mended.
@@ -26,13 +29,13 @@ public:
     /// Before it is read nothing differs: with a text style, reading alone can change what is written.
     std::shared_ptr<draftwick::FontFormat> FontFormat();
     /// What stands behind the text.
-    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
+    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(AsOwner())); }
     /// The line around the text.
-    std::shared_ptr<TextBorder> Border() { return Share(border_.Get(*this)); }
+    std::shared_ptr<TextBorder> Border() { return Share(border_.Get(AsOwner())); }
 
 protected:
-    /// "{\cs2\b1\chbgcross...\chbrdr...": opens the run's group. Fails before the first byte or not at all.
-    void WriteRunStart();
+    /// What is written of the run before its text. dwErrItemNotFound when there is no such style.
+    RunSettings Settings() const;
 
 private:
     std::string styleName_;

@@ -1,16 +1,16 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
-#include <draftwick/content/SectionWriter.h>
+#include <draftwick/content/Writers.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 #include <draftwick/structure/Table.h>
 
 #include <utility>
 
 namespace draftwick {
 
-Section::Section(const Origin& origin) : RowContainer(origin), columns_(*this), pageBorders_(*this) {
-    const DocumentSettings& document = Writing().settings;
+Section::Section(const Origin& origin) : RowContainer(origin), columns_(AsOwner()), pageBorders_(AsOwner()) {
+    const DocumentSettings& document = Session().settings;
     values_.page = document.page;
     values_.orientation = dwOrientation{document.orientation};
 }
@@ -22,10 +22,10 @@ void Section::SetOrientation(dwOrientation orientation) {
 }
 
 std::shared_ptr<Header> Section::AddHeader(dwHeaderKind kind) {
-    const WritingContext& context = Writing();
+    const auto& session = Session();
     CheckNotFinished();
     Emit();
-    const bool facing = context.settings.facingPage;
+    const bool facing = session.settings.facingPage;
     const bool everyPage = kind == dwHeader || kind == dwFooter;
     const bool oneSide = kind >= dwHeaderLeft && kind <= dwFooterRight;
     const bool firstPage = kind == dwHeaderFirst || kind == dwFooterFirst;
@@ -42,9 +42,9 @@ std::shared_ptr<Header> Section::AddHeader(dwHeaderKind kind) {
     return header;
 }
 
-void Section::WriteStart() { EmitSection(Writing(), values_, columns_, pageBorders_); }
+void Section::WriteStart() { EmitSection(Writer(), values_, columns_, pageBorders_, Session().settings); }
 
-void Section::WriteEnd() { WriteSectionEnd(Writing()); }
+void Section::WriteEnd() { WriteSectionEnd(Writer()); }
 
 const Class& Section::Describe() {
     using S = Section;

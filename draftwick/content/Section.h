@@ -163,6 +163,8 @@ protected:
     void WriteEnd() override;
 
 private:
+    friend struct Access;
+
     Values values_;
     draftwick::Columns columns_;
     draftwick::PageBorders pageBorders_;

@@ -1,5 +1,5 @@
-#include <draftwick/content/SectionWriter.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/content/Writers.h>
+#include <draftwick/structure/Writers.h>
 
 namespace draftwick {
 
@@ -11,54 +11,53 @@ constexpr std::string_view PageRestartWords[] = {"pgnrestart", "pgncont"};
 constexpr std::string_view PageNumberWords[] = {"pgndec", "pgnlcrm", "pgnucrm", "pgnlcltr", "pgnucltr"};
 constexpr std::string_view VerticalWords[] = {"vertalt", "vertalb", "vertalc", "vertalj"};
 
-void WriteLineNumbering(Output& output, const Section::Values& section) {
+void WriteLineNumbering(RtfWriter& writer, const Section::Values& section) {
     if (!section.lineNumberingVisible) return;
-    output.WriteControlWord("linemod", section.lineNumberingInterval);
-    output.WriteControlWord("linex", section.lineNumberingX.Twips());
-    output.WriteControlWord("linestarts", section.lineNumberingStart);
-    output.WriteWord(LineRestartWords, section.lineNumberingRestart);
+    writer.Word("linemod", section.lineNumberingInterval);
+    writer.Word("linex", section.lineNumberingX.Twips());
+    writer.Word("linestarts", section.lineNumberingStart);
+    writer.Word(LineRestartWords, section.lineNumberingRestart);
 }
 
-void WritePage(Output& output, const Section::Values& section) {
-    output.WriteControlWord("pgwsxn", section.page.pageWidth.Twips());
-    output.WriteControlWord("pghsxn", section.page.pageHeight.Twips());
-    output.WriteControlWord("margtsxn", section.page.marginTop.Twips());
-    output.WriteControlWord("marglsxn", section.page.marginLeft.Twips());
-    output.WriteControlWord("margrsxn", section.page.marginRight.Twips());
-    output.WriteControlWord("margbsxn", section.page.marginBottom.Twips());
-    output.WriteControlWord("guttersxn", section.page.gutter.Twips());
-    if (section.orientation == dwLandscape) output.WriteControlWord("lndscpsxn");
+void WritePage(RtfWriter& writer, const Section::Values& section) {
+    writer.Word("pgwsxn", section.page.pageWidth.Twips());
+    writer.Word("pghsxn", section.page.pageHeight.Twips());
+    writer.Word("margtsxn", section.page.marginTop.Twips());
+    writer.Word("marglsxn", section.page.marginLeft.Twips());
+    writer.Word("margrsxn", section.page.marginRight.Twips());
+    writer.Word("margbsxn", section.page.marginBottom.Twips());
+    writer.Word("guttersxn", section.page.gutter.Twips());
+    if (section.orientation == dwLandscape) writer.Word("lndscpsxn");
 }
 
 }  // namespace
 
-void EmitSection(WritingContext& context, const Section::Values& section, const Columns& columns,
-                 const PageBorders& pageBorders) {
-    Output& output = context.output;
-    if (!context.firstSection) output.WriteControlWord("sect");
-    context.firstSection = false;
-    output.WriteControlWord("sectd");
+void EmitSection(RtfWriter& writer, const Section::Values& section, const Columns& columns,
+                 const PageBorders& pageBorders, const DocumentSettings& document) {
+    if (!writer.layout.FirstSection) writer.Word("sect");
+    writer.layout.FirstSection = false;
+    writer.Word("sectd");
     // Only printer-specific numbers below zero are written here; PaperBin is always written.
-    if (section.paperBinFirst < 0) output.WriteControlWord("binfsxn", section.paperBinFirst);
-    output.WriteControlWord("binsxn", section.paperBin);
-    output.WriteWord(BreakWords, section.sectionBreak);
-    EmitColumns(context, columns);
-    WriteLineNumbering(output, section);
-    WritePage(output, section);
-    if (section.titlePage) output.WriteControlWord("titlepg");
-    output.WriteControlWord("headery", section.headerY.Twips());
-    output.WriteControlWord("footery", section.footerY.Twips());
-    output.WriteControlWord("pgnstarts", section.pageNumberingStart);
-    output.WriteWord(PageRestartWords, section.pageNumberingRestart);
-    output.WriteWord(PageNumberWords, section.pageNumberingFormat);
-    output.WriteWord(VerticalWords, section.verticalAlign);
-    EmitPageBorders(context, pageBorders);
-    if (context.settings.endnoteLocation == dwELSection) output.WriteControlWord("endnhere");
-    context.layout.SuppressNextParagraphMark = true;
+    if (section.paperBinFirst < 0) writer.Word("binfsxn", section.paperBinFirst);
+    writer.Word("binsxn", section.paperBin);
+    writer.Word(BreakWords, section.sectionBreak);
+    EmitColumns(writer, columns);
+    WriteLineNumbering(writer, section);
+    WritePage(writer, section);
+    if (section.titlePage) writer.Word("titlepg");
+    writer.Word("headery", section.headerY.Twips());
+    writer.Word("footery", section.footerY.Twips());
+    writer.Word("pgnstarts", section.pageNumberingStart);
+    writer.Word(PageRestartWords, section.pageNumberingRestart);
+    writer.Word(PageNumberWords, section.pageNumberingFormat);
+    writer.Word(VerticalWords, section.verticalAlign);
+    EmitPageBorders(writer, pageBorders);
+    if (document.endnoteLocation == dwELSection) writer.Word("endnhere");
+    writer.layout.SuppressNextParagraphMark = true;
 }
 
-void WriteSectionEnd(WritingContext& context) {
-    if (context.layout.TableEndsSection) context.output.WriteControlWord("par");
+void WriteSectionEnd(RtfWriter& writer) {
+    if (writer.layout.TableEndsSection) writer.Word("par");
 }
 
 }  // namespace draftwick

@@ -7,7 +7,7 @@ namespace draftwick {
 /// The codes of RTF's special characters, for TextItem::AddSpecial. Needs no document.
 class DRAFTWICK_API Special final : public Node {
 public:
-    Special() : Node(Origin{nullptr}) {}
+    Special() = default;
 
     /// The codes of breaks, of characters that the file's code page may not have, and of what the reader works out:
     /// dates, times, numbers of pages, sections and notes.

@@ -1,6 +1,7 @@
 #include <draftwick/content/TextItem.h>
+#include <draftwick/content/Writers.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 #include <draftwick/text/Escape.h>
 #include <draftwick/text/Utf8.h>
 
@@ -34,13 +35,7 @@ void TextItem::AddSpecial(std::string_view special) {
     text_ += code + " ";
 }
 
-/// "{\b1 text}"
-void TextItem::WriteStart() {
-    WriteRunStart();
-    Output& output = Writing().output;
-    output.WriteText(text_);
-    output.WriteGroupEnd();
-}
+void TextItem::WriteStart() { EmitTextItem(Writer(), Settings(), text_, Session().settings); }
 
 const Class& TextItem::Describe() {
     using T = TextItem;

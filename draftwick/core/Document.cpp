@@ -1,14 +1,14 @@
 #include <draftwick/base/Version.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/core/Document.h>
-#include <draftwick/core/DocumentWriter.h>
 #include <draftwick/core/OutputFiles.h>
 #include <draftwick/core/Properties.h>
+#include <draftwick/core/Writers.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 #include <draftwick/text/Escape.h>
 #include <draftwick/viewer/AutomationObject.h>
 #include <draftwick/viewer/Viewer.h>
@@ -20,40 +20,46 @@ namespace draftwick {
 std::shared_ptr<Document> Document::Create() { return Create(platform::SystemPlatform()); }
 
 std::shared_ptr<Document> Document::Create(platform::Platform services) {
-    auto document = std::make_shared<Document>(std::make_shared<WritingContext>(std::move(services)));
-    document->CreateCollections();
+    const auto session = std::make_shared<draftwick::Session>(std::move(services));
+    auto document = std::make_shared<Document>(Origin(session), session->settings);
+    document->Open();
     return document;
 }
 
-Document::Document(const std::shared_ptr<WritingContext>& context)
-    : Content(Origin{context}), context_(context), settings_(context->settings),
-      files_(std::make_unique<OutputFiles>()), viewer_(std::make_unique<Viewer>(context->platform)) {}
+Document::Document(const Origin& origin, DocumentSettings& settings)
+    : Content(origin), settings_(settings), collections_(std::make_unique<Collections>()),
+      files_(std::make_unique<OutputFiles>()), viewer_(std::make_unique<Viewer>(SharedSession()->platform)) {}
 
 /// Children need a reference to their parent, so they come after the constructor.
-void Document::CreateCollections() {
-    context_->document = this;
-    context_->documentLink = weak_from_this();
-    fonts_ = std::make_shared<draftwick::Fonts>(OriginOfChild());
-    lists_ = std::make_shared<draftwick::Lists>(OriginOfChild());
-    paragraphStyles_ = std::make_shared<draftwick::ParagraphStyles>(OriginOfChild());
-    textStyles_ = std::make_shared<draftwick::TextStyles>(OriginOfChild());
-    properties_ = std::make_shared<draftwick::Properties>(OriginOfChild());
-    context_->fonts = fonts_.get();
-    context_->lists = lists_.get();
-    context_->paragraphStyles = paragraphStyles_.get();
-    context_->textStyles = textStyles_.get();
-    context_->properties = properties_.get();
+void Document::Open() {
+    const Origin origin = OriginOfChild();
+    collections_->fonts = std::make_shared<draftwick::Fonts>(origin);
+    collections_->lists = std::make_shared<draftwick::Lists>(origin);
+    collections_->paragraphStyles = std::make_shared<draftwick::ParagraphStyles>(origin);
+    collections_->textStyles = std::make_shared<draftwick::TextStyles>(origin);
+    collections_->properties = std::make_shared<draftwick::Properties>(origin);
+    draftwick::Session& session = *SharedSession();
+    session.document = this;
+    session.documentLink = weak_from_this();
+    session.collections = collections_.get();
+    session.writer.names = collections_.get();
 }
 
 Document::~Document() {
-    context_->output.SetStream(nullptr);
-    context_->document = nullptr;
-    context_->fonts = nullptr;
-    context_->lists = nullptr;
-    context_->paragraphStyles = nullptr;
-    context_->textStyles = nullptr;
-    context_->properties = nullptr;
+    draftwick::Session& session = *SharedSession();
+    session.writer.output.SetStream(nullptr);
+    session.writer.names = nullptr;
+    session.document = nullptr;
+    session.collections = nullptr;
 }
+
+std::shared_ptr<draftwick::Fonts> Document::Fonts() const { return collections_->fonts; }
+std::shared_ptr<draftwick::Lists> Document::Lists() const { return collections_->lists; }
+std::shared_ptr<draftwick::ParagraphStyles> Document::ParagraphStyles() const {
+    return collections_->paragraphStyles;
+}
+std::shared_ptr<draftwick::TextStyles> Document::TextStyles() const { return collections_->textStyles; }
+std::shared_ptr<draftwick::Properties> Document::Properties() const { return collections_->properties; }
 
 std::shared_ptr<Section> Document::AddSection() {
     // Once the file's last brace is written nothing can follow it, even if Finish failed after that.
@@ -64,11 +70,11 @@ std::shared_ptr<Section> Document::AddSection() {
 void Document::Finish() { Close(); }
 
 void Document::WriteStart() {
-    files_->OpenBody(*context_);
-    WriteDocumentFormatting(*context_);
+    files_->OpenBody(Session());
+    WriteDocumentFormatting(Writer(), settings_);
 }
 
-void Document::WriteEnd() { files_->AssembleOutputFile(*context_); }
+void Document::WriteEnd() { files_->AssembleOutputFile(Session()); }
 
 dwViewer Document::Preview(dwViewer program) { return RunViewer(program, false); }
 dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true); }
@@ -76,7 +82,7 @@ dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true);
 dwViewer Document::RunViewer(dwViewer program, bool printIt) {
     Finish();
     // Other programs have a current folder of their own.
-    const std::string file = context_->platform.files->FullName(ActualFileName());
+    const std::string file = Session().platform.files->FullName(ActualFileName());
     return viewer_->RunViewer(OriginOfChild(), file, program, printIt);
 }
 
@@ -84,14 +90,11 @@ std::shared_ptr<AutomationObject> Document::ViewerApp() const { return viewer_->
 std::int32_t Document::ViewerTaskID() const { return viewer_->TaskID(); }
 const std::string& Document::ActualFileName() const { return files_->ActualFileName(); }
 
-std::string Document::DefaultFontName() const {
-    return context_->defaultFont == WritingContext::NoFont ? std::string{}
-                                                           : fonts_->At(context_->defaultFont).Name();
-}
+std::string Document::DefaultFontName() const { return settings_.defaultFont.Name(*collections_->fonts); }
 
 void Document::SetDefaultFontName(std::string_view name) {
     OpenForChange();
-    context_->defaultFont = name.empty() ? WritingContext::NoFont : fonts_->GetFontIndex(name);
+    settings_.defaultFont.Set(*collections_->fonts, name);
 }
 
 void Document::SetOrientation(dwOrientation orientation) {

@@ -20,6 +20,7 @@ class Properties;
 class Section;
 class TextStyles;
 class Viewer;
+struct Collections;
 
 /// A document that is written while it is built.
 ///
@@ -84,12 +85,12 @@ public:
 
     /// The fonts, lists and styles that the content refers to by name. Fonts and styles must be there before the first
     /// section is added, lists before Finish.
-    std::shared_ptr<draftwick::Fonts> Fonts() const { return fonts_; }
-    std::shared_ptr<draftwick::Lists> Lists() const { return lists_; }
-    std::shared_ptr<draftwick::ParagraphStyles> ParagraphStyles() const { return paragraphStyles_; }
-    std::shared_ptr<draftwick::TextStyles> TextStyles() const { return textStyles_; }
+    std::shared_ptr<draftwick::Fonts> Fonts() const;
+    std::shared_ptr<draftwick::Lists> Lists() const;
+    std::shared_ptr<draftwick::ParagraphStyles> ParagraphStyles() const;
+    std::shared_ptr<draftwick::TextStyles> TextStyles() const;
     /// Title, author and the like, and those of the host's own.
-    std::shared_ptr<draftwick::Properties> Properties() const { return properties_; }
+    std::shared_ptr<draftwick::Properties> Properties() const;
 
     /// The font of everything that has no other; empty (default) leaves it to the reader. It takes the spelling of
     /// the font in Fonts; dwErrItemNotFound when there is none. Formats that exist already do not follow.
@@ -206,28 +207,23 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    /// Only for Create.
-    explicit Document(const std::shared_ptr<WritingContext>& context);
+    /// Only for Create, which alone can make an Origin.
+    Document(const Origin& origin, DocumentSettings& settings);
 
 protected:
     void WriteStart() override;
     void WriteEnd() override;
 
 private:
-    void CreateCollections();
+    void Open();
     dwViewer RunViewer(dwViewer program, bool printIt);
     void SetPath(std::string& field, std::string_view path);
 
-    std::shared_ptr<WritingContext> context_;
-    DocumentSettings& settings_;
+    DocumentSettings& settings_;  // the session's
+    std::unique_ptr<Collections> collections_;
     std::unique_ptr<OutputFiles> files_;
     std::unique_ptr<Viewer> viewer_;
     std::shared_ptr<Section> currentSection_;
-    std::shared_ptr<draftwick::Fonts> fonts_;
-    std::shared_ptr<draftwick::Lists> lists_;
-    std::shared_ptr<draftwick::ParagraphStyles> paragraphStyles_;
-    std::shared_ptr<draftwick::TextStyles> textStyles_;
-    std::shared_ptr<draftwick::Properties> properties_;
 };
 
 }  // namespace draftwick

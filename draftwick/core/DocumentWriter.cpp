@@ -1,54 +1,49 @@
-#include <draftwick/core/DocumentWriter.h>
-#include <draftwick/core/Properties.h>
-#include <draftwick/format/Fonts.h>
-#include <draftwick/format/Lists.h>
-#include <draftwick/format/Styles.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/core/Writers.h>
+#include <draftwick/format/Writers.h>
+#include <draftwick/model/Access.h>
+#include <draftwick/model/Session.h>
+
+#include <string>
 
 namespace draftwick {
 
 namespace {
 
-void WriteHyphenation(Output& output, const DocumentSettings& settings) {
-    output.WriteControlWord("hyphhotz", settings.hyphenHotZone.Twips());
-    output.WriteControlWord("hyphconsec", settings.hyphenConsecutiveLines);
-    output.WriteFlag("hyphcaps", settings.hyphenCaps);
-    output.WriteFlag("hyphauto", settings.hyphenAuto);
+void WriteHyphenation(RtfWriter& writer, const DocumentSettings& settings) {
+    writer.Word("hyphhotz", settings.hyphenHotZone.Twips());
+    writer.Word("hyphconsec", settings.hyphenConsecutiveLines);
+    writer.Flag("hyphcaps", settings.hyphenCaps);
+    writer.Flag("hyphauto", settings.hyphenAuto);
 }
 
-void WritePage(Output& output, const DocumentSettings& settings) {
-    output.WriteControlWord("paperw", settings.page.pageWidth.Twips());
-    output.WriteControlWord("paperh", settings.page.pageHeight.Twips());
-    output.WriteControlWord("margt", settings.page.marginTop.Twips());
-    output.WriteControlWord("margl", settings.page.marginLeft.Twips());
-    output.WriteControlWord("margr", settings.page.marginRight.Twips());
-    output.WriteControlWord("margb", settings.page.marginBottom.Twips());
-    output.WriteFlag("facingp", settings.facingPage);  // readers want the bare word; the number is promised
-    output.WriteControlWord("gutter", settings.page.gutter.Twips());
-    output.WriteFlag("margmirror", settings.marginMirror);
-    if (settings.orientation == dwLandscape) output.WriteControlWord("landscape");
-    output.WriteControlWord("pgnstart", settings.pageNumberStart);
-    output.WriteFlag("widowctrl", settings.widowOrphanControl);
+void WritePage(RtfWriter& writer, const DocumentSettings& settings) {
+    writer.Word("paperw", settings.page.pageWidth.Twips());
+    writer.Word("paperh", settings.page.pageHeight.Twips());
+    writer.Word("margt", settings.page.marginTop.Twips());
+    writer.Word("margl", settings.page.marginLeft.Twips());
+    writer.Word("margr", settings.page.marginRight.Twips());
+    writer.Word("margb", settings.page.marginBottom.Twips());
+    writer.Flag("facingp", settings.facingPage);  // readers want the bare word; the number is promised
+    writer.Word("gutter", settings.page.gutter.Twips());
+    writer.Flag("margmirror", settings.marginMirror);
+    if (settings.orientation == dwLandscape) writer.Word("landscape");
+    writer.Word("pgnstart", settings.pageNumberStart);
+    writer.Flag("widowctrl", settings.widowOrphanControl);
 }
 
-void WriteView(Output& output, const DocumentSettings& settings) {
-    if (!settings.caption.empty()) {
-        output.WriteGroupStart();
-        output.WriteControlWord("windowcaption");
-        output.WriteText(settings.caption);
-        output.WriteGroupEnd();
-    }
+void WriteView(RtfWriter& writer, const DocumentSettings& settings) {
+    if (!settings.caption.empty()) writer.Group("windowcaption", [&] { writer.Raw(settings.caption); });
     if (settings.viewKind != dwViewNone) {
-        output.WriteControlWord("viewkind", settings.viewKind - 1);
-        output.WriteControlWord("viewscale", settings.zoomScale);
-        output.WriteControlWord("viewzk", settings.zoomKind - 1);
+        writer.Word("viewkind", settings.viewKind - 1);
+        writer.Word("viewscale", settings.zoomScale);
+        writer.Word("viewzk", settings.zoomKind - 1);
     }
-    if (settings.pageBorderAroundHeader) output.WriteControlWord("pgbrdrhead");
-    if (settings.pageBorderAroundFooter) output.WriteControlWord("pgbrdrfoot");
+    if (settings.pageBorderAroundHeader) writer.Word("pgbrdrhead");
+    if (settings.pageBorderAroundFooter) writer.Word("pgbrdrfoot");
 }
 
 /// \fet2\fntbj\ftnrstcont\ftnstart1\ftnnar, two line breaks, \aendnotes\aftnrstcont\aftnstart1\aftnnar
-void EmitNoteSettings(Output& output, const DocumentSettings& settings) {
+void WriteNoteSettings(RtfWriter& writer, const DocumentSettings& settings) {
     // "fntbj" is not what readers expect and "aftnrstcont" stands for a restart on each page: both are promised.
     static constexpr std::string_view LocationWords[] = {"ftntj", "fntbj"};
     static constexpr std::string_view RestartWords[] = {"ftnrstpg", "ftnrestart", "ftnrstcont"};
@@ -57,47 +52,60 @@ void EmitNoteSettings(Output& output, const DocumentSettings& settings) {
     static constexpr std::string_view EndRestartWords[] = {"aftnrstcont", "aftnrestart", "aftnrstcont"};
     static constexpr std::string_view EndFormatWords[] = {"aftnnar", "aftnnalc", "aftnnauc", "aftnnrlc",
                                                           "aftnnruc"};
-    output.WriteControlWord("fet", 2);
-    output.WriteWord(LocationWords, settings.footnoteLocation);
-    output.WriteWord(RestartWords, settings.footnoteRestart);
-    output.WriteControlWord("ftnstart", settings.footnoteStartAt);
-    output.WriteWord(FormatWords, settings.footnoteFormat);
-    output.WriteText("\r\n\r\n");
-    output.WriteWord(EndLocationWords, settings.endnoteLocation);
-    output.WriteWord(EndRestartWords, settings.endnoteRestart);
-    output.WriteControlWord("aftnstart", settings.endnoteStartAt);
-    output.WriteWord(EndFormatWords, settings.endnoteFormat);
+    writer.Word("fet", 2);
+    writer.Word(LocationWords, settings.footnoteLocation);
+    writer.Word(RestartWords, settings.footnoteRestart);
+    writer.Word("ftnstart", settings.footnoteStartAt);
+    writer.Word(FormatWords, settings.footnoteFormat);
+    writer.Raw("\r\n\r\n");
+    writer.Word(EndLocationWords, settings.endnoteLocation);
+    writer.Word(EndRestartWords, settings.endnoteRestart);
+    writer.Word("aftnstart", settings.endnoteStartAt);
+    writer.Word(EndFormatWords, settings.endnoteFormat);
+}
+
+/// {\colortbl\red0\green0\blue0;}; nothing while no colour was used.
+void WriteColorTable(RtfWriter& writer) {
+    if (writer.colors.InOrder().empty()) return;
+    writer.Group("colortbl", [&] {
+        for (const std::int32_t color : writer.colors.InOrder()) {
+            const auto bits = static_cast<std::uint32_t>(color);
+            writer.Word("red", static_cast<std::int32_t>(bits & 0xFF));
+            writer.Word("green", static_cast<std::int32_t>(bits >> 8 & 0xFF));
+            // The semicolon belongs to the word: a text would get a space before it.
+            writer.Word("blue" + std::to_string(bits >> 16 & 0xFF) + ";");
+        }
+    });
 }
 
 }  // namespace
 
-void WriteDocumentFormatting(WritingContext& context) {
-    Output& output = context.output;
-    const DocumentSettings& settings = context.settings;
-    output.WriteControlWord("deftab", settings.tabWidth.Twips());
-    WriteHyphenation(output, settings);
-    WritePage(output, settings);
-    WriteView(output, settings);
-    EmitNoteSettings(output, settings);
+void WriteDocumentFormatting(RtfWriter& writer, const DocumentSettings& settings) {
+    writer.Word("deftab", settings.tabWidth.Twips());
+    WriteHyphenation(writer, settings);
+    WritePage(writer, settings);
+    WriteView(writer, settings);
+    WriteNoteSettings(writer, settings);
 }
 
-void RegisterHeaderColors(WritingContext& context) {
-    EmitStylesheet(context, *context.paragraphStyles, *context.textStyles);
-    EmitListTable(context, *context.lists);
-    context.output.FlushLine();
+void RegisterHeaderColors(RtfWriter& writer, const DocumentSettings& settings) {
+    for (const auto& style : *writer.names->paragraphStyles)
+        NoteLists(writer.lists, ValuesOf(PartsOf(*style).format));
+    EmitStylesheet(writer, *writer.names->paragraphStyles, *writer.names->textStyles, settings);
+    EmitListTable(writer, *writer.names->lists);
+    writer.output.FlushLine();
 }
 
-void WriteHeader(WritingContext& context) {
-    Output& output = context.output;
-    output.WriteGroupStart();
-    output.WriteControlWord("rtf", 1);
-    if (context.defaultFont != WritingContext::NoFont) output.WriteControlWord("deff", context.defaultFont);
-    EmitFontTable(context, *context.fonts);
-    context.colors.EmitColorTable(output);
-    EmitStylesheet(context, *context.paragraphStyles, *context.textStyles);
-    EmitListTable(context, *context.lists);
-    EmitProperties(context, *context.properties);
-    output.FlushLine();
+void EmitHeader(RtfWriter& writer, const DocumentSettings& settings) {
+    writer.output.WriteGroupStart();  // closed at the end of the body
+    writer.Word("rtf", 1);
+    if (settings.defaultFont) writer.Word("deff", settings.defaultFont.Position());
+    EmitFontTable(writer, *writer.names->fonts);
+    WriteColorTable(writer);
+    EmitStylesheet(writer, *writer.names->paragraphStyles, *writer.names->textStyles, settings);
+    EmitListTable(writer, *writer.names->lists);
+    EmitProperties(writer, *writer.names->properties);
+    writer.output.FlushLine();
 }
 
 }  // namespace draftwick

@@ -1,7 +1,7 @@
 #include <draftwick/base/Error.h>
-#include <draftwick/core/DocumentWriter.h>
 #include <draftwick/core/OutputFiles.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/core/Writers.h>
+#include <draftwick/model/Session.h>
 #include <draftwick/rtf/UniqueFile.h>
 
 #include <string>
@@ -23,16 +23,16 @@ std::size_t FindExtension(const std::string& name) {
     return name[at] == '.' ? at : name.size();
 }
 
-std::unique_ptr<platform::File> Open(WritingContext& context, const std::string& name) {
+std::unique_ptr<platform::File> Open(Session& session, const std::string& name) {
     std::error_code error;
-    auto file = context.platform.files->OpenForReading(name, error);
+    auto file = session.platform.files->OpenForReading(name, error);
     if (file == nullptr) RaiseFileError(error, "read", name);
     return file;
 }
 
-void Delete(WritingContext& context, const std::string& name) {
+void Delete(Session& session, const std::string& name) {
     std::error_code error;
-    context.platform.files->Delete(name, error);
+    session.platform.files->Delete(name, error);
     if (error && error != std::errc::no_such_file_or_directory) RaiseFileError(error, "delete", name);
 }
 
@@ -85,49 +85,49 @@ private:
 
 }  // namespace
 
-void OutputFiles::OpenBody(WritingContext& context) {
-    const std::string& chosen = context.settings.tempPath;
-    UniqueFile body = CreateUniqueFile(*context.platform.files,
-                                       chosen.empty() ? context.platform.environment->TempFolder() : chosen,
+void OutputFiles::OpenBody(Session& session) {
+    const std::string& chosen = session.settings.tempPath;
+    UniqueFile body = CreateUniqueFile(*session.platform.files,
+                                       chosen.empty() ? session.platform.environment->TempFolder() : chosen,
                                        "~dw", ".tmp", platform::Creation::ExclusivePrivate);
     body_ = std::make_unique<BlockWriter>(std::move(body.file), body.name);
     bodyFileName_ = std::move(body.name);
-    context.output.SetStream(body_.get());
+    session.writer.output.SetStream(body_.get());
 }
 
-void OutputFiles::AssembleOutputFile(WritingContext& context) {
-    context.output.Checkpoint();
+void OutputFiles::AssembleOutputFile(Session& session) {
+    session.writer.output.Checkpoint();
     if (!ended_) {
-        context.output.WriteGroupEnd();
-        context.output.FlushLine();
+        session.writer.CloseGroup();
+        session.writer.output.FlushLine();
         ended_ = true;
     }
     body_->Close();
-    context.output.SetStream(nullptr);
-    if (actualFileName_.empty()) actualFileName_ = CreateOutputFile(context);
-    Delete(context, bodyFileName_);
+    session.writer.output.SetStream(nullptr);
+    if (actualFileName_.empty()) actualFileName_ = CreateOutputFile(session);
+    Delete(session, bodyFileName_);
 }
 
 /// Returns its name.
-std::string OutputFiles::CreateOutputFile(WritingContext& context) {
-    platform::FileSystem& files = *context.platform.files;
-    const std::string& name = context.settings.filename;
+std::string OutputFiles::CreateOutputFile(Session& session) {
+    platform::FileSystem& files = *session.platform.files;
+    const std::string& name = session.settings.filename;
     const std::size_t extension = name.empty() ? 0 : FindExtension(name);
-    const std::unique_ptr<platform::File> body = Open(context, bodyFileName_);
-    RegisterHeaderColors(context);
+    const std::unique_ptr<platform::File> body = Open(session, bodyFileName_);
+    RegisterHeaderColors(session.writer, session.settings);
     if (!name.empty() && !files.CanReplace(name)) {
         std::error_code error;
         auto file = files.Create(name, platform::Creation::Overwrite, error);
         if (file == nullptr) RaiseFileError(error, "create", name);
-        WriteOutput(context, *body, {std::move(file), name});
+        WriteOutput(session, *body, {std::move(file), name});
         return name;
     }
     // The folder of a file that has no name yet is the environment's, not TempPath.
     const std::string folder =
-        name.empty() ? context.platform.environment->TempFolder() : FolderOf(files, name);
+        name.empty() ? session.platform.environment->TempFolder() : FolderOf(files, name);
     UniqueFile file = CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);
     try {
-        WriteOutput(context, *body, {std::move(file.file), file.name});
+        WriteOutput(session, *body, {std::move(file.file), file.name});
         return name.empty() ? GiveNewName(files, file.name, folder)
                             : GiveName(files, file.name, name, extension);
     } catch (...) {
@@ -137,10 +137,10 @@ std::string OutputFiles::CreateOutputFile(WritingContext& context) {
     }
 }
 
-void OutputFiles::WriteOutput(WritingContext& context, platform::File& body, BlockWriter output) {
+void OutputFiles::WriteOutput(Session& session, platform::File& body, BlockWriter output) {
     {
-        const Redirection redirection(context.output, &output);
-        WriteHeader(context);
+        const Redirection redirection(session.writer.output, &output);
+        EmitHeader(session.writer, session.settings);
     }
     output.Checkpoint();
     output.AppendFile(body, bodyFileName_, body_->Written());

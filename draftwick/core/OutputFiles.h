@@ -7,26 +7,26 @@
 
 namespace draftwick {
 
-class WritingContext;
+class Session;
 
 /// The two files of a document: the temporary file that the body goes to while the document is built, and the file
 /// that Finish makes of it.
 class OutputFiles {
 public:
     /// Creates the body file and lets the output go there. Changes nothing when it fails.
-    void OpenBody(WritingContext& context);
+    void OpenBody(Session& session);
 
     /// Ends the body, writes the header and the body to the output file and deletes the body file. When it fails it
     /// can be called again. The file gets its name when it is complete: until then an old one stays what it was.
-    void AssembleOutputFile(WritingContext& context);
+    void AssembleOutputFile(Session& session);
 
     /// Whether the brace that closes the document is written.
     bool Ended() const noexcept { return ended_; }
     const std::string& ActualFileName() const noexcept { return actualFileName_; }
 
 private:
-    std::string CreateOutputFile(WritingContext& context);
-    void WriteOutput(WritingContext& context, platform::File& body, BlockWriter output);
+    std::string CreateOutputFile(Session& session);
+    void WriteOutput(Session& session, platform::File& body, BlockWriter output);
 
     std::unique_ptr<BlockWriter> body_;
     std::string bodyFileName_;

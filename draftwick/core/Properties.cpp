@@ -1,5 +1,4 @@
 #include <draftwick/core/Properties.h>
-#include <draftwick/model/WritingContext.h>
 
 #include <cmath>
 #include <optional>

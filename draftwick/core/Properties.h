@@ -95,13 +95,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
+private:
+    friend struct Access;
 
     void RemoveOf(const Variant& index);
 };
-
-/// "{\info{\title Report}}{\*\userprops{\propname Client}\proptype30{\staticval Smith}}": the built-in properties and
-/// the custom ones that have a value; nothing without any.
-void EmitProperties(WritingContext& context, const Properties& properties);
 
 }  // namespace draftwick

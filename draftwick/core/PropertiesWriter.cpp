@@ -1,5 +1,4 @@
-#include <draftwick/core/Properties.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/core/Writers.h>
 #include <draftwick/text/Escape.h>
 
 namespace draftwick {
@@ -9,39 +8,35 @@ namespace {
 bool HasValue(const Property& property) { return !std::holds_alternative<std::monostate>(property.Value()); }
 
 /// "{\title Report}"
-void WriteTextGroup(Output& output, std::string_view word, std::string_view text) {
-    output.WriteGroupStart();
-    output.WriteControlWord(word);
-    output.WriteText(EscapeText(text));
-    output.WriteGroupEnd();
+void WriteTextGroup(RtfWriter& writer, std::string_view word, std::string_view text) {
+    writer.Group(word, [&] { writer.Text(text); });
 }
 
 /// "{\creatim\yr2024\mo2\dy29\hr12\min0\sec0}"
-void WriteDateGroup(Output& output, std::string_view word, const Date& date) {
-    output.WriteGroupStart();
-    output.WriteControlWord(word);
-    output.WriteControlWord("yr", date.year);
-    output.WriteControlWord("mo", date.month);
-    output.WriteControlWord("dy", date.day);
-    output.WriteControlWord("hr", date.hour);
-    output.WriteControlWord("min", date.minute);
-    output.WriteControlWord("sec", date.second);
-    output.WriteGroupEnd();
+void WriteDateGroup(RtfWriter& writer, std::string_view word, const Date& date) {
+    writer.Group(word, [&] {
+        writer.Word("yr", date.year);
+        writer.Word("mo", date.month);
+        writer.Word("dy", date.day);
+        writer.Word("hr", date.hour);
+        writer.Word("min", date.minute);
+        writer.Word("sec", date.second);
+    });
 }
 
 /// One of the information group. In the order of the enumeration.
-void EmitBuiltIn(Output& output, std::int32_t position, const Variant& value) {
+void WriteBuiltIn(RtfWriter& writer, std::int32_t position, const Variant& value) {
     static constexpr std::string_view Words[] = {"title",     "subject",  "author",   "manager",  "company",
                                                  "operator",  "category", "keywords", "comment",  "doccomm",
                                                  "hlinkbase", "creatim",  "revtim",   "printim",  "buptim",
                                                  "version",   "edmins",   "nofpages", "nofwords", "nofchars"};
     const std::string_view word = WordList{Words}[position];
     if (const auto* text = std::get_if<std::string>(&value)) {
-        WriteTextGroup(output, word, *text);
+        WriteTextGroup(writer, word, *text);
     } else if (const auto* date = std::get_if<Date>(&value)) {
-        WriteDateGroup(output, word, *date);
+        WriteDateGroup(writer, word, *date);
     } else {
-        output.WriteControlWord(word, std::get<std::int32_t>(value));
+        writer.Group([&] { writer.Word(word, std::get<std::int32_t>(value)); });
     }
 }
 
@@ -71,12 +66,12 @@ std::string ValueText(const Variant& value) {
 }
 
 /// "{\propname Client}\proptype30{\staticval Smith}{\linkval client}"
-void EmitCustom(Output& output, const Property& property) {
+void WriteCustom(RtfWriter& writer, const Property& property) {
     static constexpr std::int32_t TypeNumbers[] = {3, 5, 64, 11, 30};
-    WriteTextGroup(output, "propname", property.Name());
-    output.WriteControlWord("proptype", TypeNumbers[property.Type() - 1]);
-    WriteTextGroup(output, "staticval", ValueText(property.Value()));
-    if (!property.LinkTo().empty()) WriteTextGroup(output, "linkval", property.LinkTo());
+    WriteTextGroup(writer, "propname", property.Name());
+    writer.Word("proptype", TypeNumbers[property.Type() - 1]);
+    WriteTextGroup(writer, "staticval", ValueText(property.Value()));
+    if (!property.LinkTo().empty()) WriteTextGroup(writer, "linkval", property.LinkTo());
 }
 
 /// Whether a property from one position to another has a value.
@@ -89,25 +84,25 @@ bool AnyValue(const Properties& properties, std::int32_t first, std::int32_t las
 
 }  // namespace
 
-void EmitProperties(WritingContext& context, const Properties& properties) {
-    Output& output = context.output;
-    if (AnyValue(properties, 1, dwBIPCharacters)) {
-        output.WriteGroupStart();
-        output.WriteControlWord("info");
-        for (std::int32_t position = 1; position <= dwBIPCharacters; ++position) {
+void EmitProperties(RtfWriter& writer, const Properties& properties) {
+    const auto writeAll = [&](std::int32_t first, std::int32_t last, auto write) {
+        for (std::int32_t position = first; position <= last; ++position) {
             const Property& property = properties.At(position - 1);
-            if (HasValue(property)) EmitBuiltIn(output, position, property.Value());
+            if (HasValue(property)) write(position, property);
         }
-        output.WriteGroupEnd();
+    };
+    if (AnyValue(properties, 1, dwBIPCharacters)) {
+        writer.Group("info", [&] {
+            writeAll(1, dwBIPCharacters, [&](std::int32_t position, const Property& property) {
+                WriteBuiltIn(writer, position, property.Value());
+            });
+        });
     }
     if (AnyValue(properties, dwBIPCharacters + 1, properties.Count())) {
-        output.WriteDestinationStart();
-        output.WriteControlWord("userprops");
-        for (std::int32_t position = dwBIPCharacters + 1; position <= properties.Count(); ++position) {
-            const Property& property = properties.At(position - 1);
-            if (HasValue(property)) EmitCustom(output, property);
-        }
-        output.WriteGroupEnd();
+        writer.Destination("userprops", [&] {
+            writeAll(dwBIPCharacters + 1, properties.Count(),
+                     [&](std::int32_t, const Property& property) { WriteCustom(writer, property); });
+        });
     }
 }
 

@@ -1,8 +1,4 @@
-#include <draftwick/base/Error.h>
-#include <draftwick/base/Units.h>
-#include <draftwick/drawing/PictureWriter.h>
-#include <draftwick/model/WritingContext.h>
-#include <draftwick/rtf/UniqueFile.h>
+#include <draftwick/drawing/Writers.h>
 
 #include <algorithm>
 #include <array>
@@ -14,13 +10,8 @@ namespace {
 
 using platform::PictureKind;
 
-std::int32_t Percent(std::int32_t twips, std::int32_t himetric) {
-    if (himetric == 0) RaiseRuntimeError(dwRunDivisionByZero, "the picture has no size that could be scaled");
-    return RoundDown(static_cast<double>(TwipsToHimetric(twips)) / himetric * 100);
-}
-
 /// Upper-case hexadecimal, 64 bytes to one text.
-void WritePictureData(Output& output, std::span<const unsigned char> bytes) {
+void WritePictureData(RtfWriter& writer, std::span<const unsigned char> bytes) {
     constexpr std::string_view Digits = "0123456789ABCDEF";
     constexpr std::size_t PerText = 64;
     std::array<char, 2 * PerText> text;
@@ -30,103 +21,28 @@ void WritePictureData(Output& output, std::span<const unsigned char> bytes) {
             text[2 * i] = Digits[bytes[i] >> 4];
             text[2 * i + 1] = Digits[bytes[i] & 15];
         }
-        output.WriteText({text.data(), 2 * count});
+        writer.Raw({text.data(), 2 * count});
         bytes = bytes.subspan(count);
     }
 }
 
 }  // namespace
 
-std::optional<PictureKind> PictureTypeFromName(std::string_view fileName) {
-    static constexpr std::pair<std::string_view, PictureKind> Endings[] = {
-        {".jpg", PictureKind::Jpeg}, {".jpeg", PictureKind::Jpeg}, {".bmp", PictureKind::Bmp},
-        {".emf", PictureKind::Emf},  {".wmf", PictureKind::Wmf},   {".gif", PictureKind::Gif},
-    };
-    for (const auto& [ending, kind] : Endings) {
-        if (fileName.ends_with(ending)) return kind;
-    }
-    return {};
-}
-
-OpenPicture::OpenPicture(const platform::Platform& platform, const std::string& fileName) {
-    platform::FileSystem& files = *platform.files;
-    if (!files.Exists(fileName)) RaiseError(dwErrPictureFileNotFound, {fileName});
-    const std::optional<PictureKind> kind = PictureTypeFromName(fileName);
-    if (!kind) RaiseError(dwErrUnsupportedFileType, {fileName});
-    kind_ = *kind;
-    std::error_code error;
-    const auto picture = platform.pictures->Load(files, fileName, kind_, error);
-    if (error == platform::PictureError::Unreadable) RaiseRuntimeError(dwRunInvalidPicture, fileName);
-    if (picture == nullptr) RaiseFileError(error, "read", fileName);
-    width_ = picture->Width();
-    height_ = picture->Height();
-    if (kind_ == PictureKind::Gif || kind_ == PictureKind::Bmp) {
-        Convert(platform, *picture);
-    } else {
-        Read(files, fileName);
-    }
-}
-
-void OpenPicture::Convert(const platform::Platform& platform, const platform::Picture& picture) {
-    platform::FileSystem& files = *platform.files;
-    // The folder is the environment's, not the document's.
-    const std::string name = CreateUniqueFile(files, platform.environment->TempFolder(), "~DWGC", ".tmp",
-                                              platform::Creation::ExclusivePrivate)
-                                 .name;
-    std::error_code ignored;
-    try {
-        const int twipsPerPixel = platform.pictures->TwipsPerPixel();
-        std::error_code error;
-        platform.pictures->Record(picture, HimetricToPixels(width_, twipsPerPixel),
-                                  HimetricToPixels(height_, twipsPerPixel), files, name, error);
-        if (error) RaiseFileError(error, "write", name);
-        kind_ = PictureKind::Emf;
-        Read(files, name);
-    } catch (...) {
-        files.Delete(name, ignored);
-        throw;
-    }
-    files.Delete(name, ignored);
-}
-
-void OpenPicture::Read(platform::FileSystem& files, const std::string& name) {
-    constexpr std::size_t BlockSize = std::size_t{32} * 1024;
-    std::error_code error;
-    const std::uint64_t length = files.Length(name, error);
-    if (error) RaiseFileError(error, "read", name);
-    bytes_.reserve(static_cast<std::size_t>(length) + BlockSize);
-    const auto file = files.OpenForReading(name, error);
-    for (std::size_t have = 0; !error;) {
-        bytes_.resize(have + BlockSize);
-        const std::size_t more = file->Read(reinterpret_cast<char*>(bytes_.data()) + have, BlockSize, error);
-        have += more;
-        bytes_.resize(have);
-        if (more == 0) break;
-    }
-    if (error) RaiseFileError(error, "read", name);
-}
-
-std::optional<OpenPicture::Scale> OpenPicture::ScaleTo(std::int32_t width, std::int32_t height) const {
-    if (width <= 0 || height <= 0) return {};
-    return Scale{Percent(width, width_), Percent(height, height_)};
-}
-
-void EmitPicture(WritingContext& context, const OpenPicture& picture,
+void EmitPicture(RtfWriter& writer, const OpenPicture& picture,
                  const std::optional<OpenPicture::Scale>& scale) {
-    Output& output = context.output;
-    switch (picture.kind_) {
-    case PictureKind::Wmf: output.WriteControlWord("wmetafile8"); break;
-    case PictureKind::Emf: output.WriteControlWord("emfblip"); break;
-    default: output.WriteControlWord("jpegblip");
+    switch (picture.Kind()) {
+    case PictureKind::Wmf: writer.Word("wmetafile8"); break;
+    case PictureKind::Emf: writer.Word("emfblip"); break;
+    default: writer.Word("jpegblip");
     }
     if (scale) {
-        output.WriteControlWord("picscalex", scale->x);
-        output.WriteControlWord("picscaley", scale->y);
+        writer.Word("picscalex", scale->x);
+        writer.Word("picscaley", scale->y);
     }
     constexpr std::size_t PlaceableHeader = 22;  // RTF wants a metafile without it
-    const std::span<const unsigned char> bytes = picture.bytes_;
-    const bool isWmf = picture.kind_ == PictureKind::Wmf;
-    WritePictureData(output, bytes.subspan(isWmf ? std::min(PlaceableHeader, bytes.size()) : 0));
+    const std::span<const unsigned char> bytes = picture.Bytes();
+    const bool isWmf = picture.Kind() == PictureKind::Wmf;
+    WritePictureData(writer, bytes.subspan(isWmf ? std::min(PlaceableHeader, bytes.size()) : 0));
 }
 
 }  // namespace draftwick

@@ -1,15 +1,24 @@
 #include <draftwick/content/Paragraph.h>
-#include <draftwick/drawing/PictureWriter.h>
 #include <draftwick/drawing/Shape.h>
-#include <draftwick/drawing/ShapeWriter.h>
+#include <draftwick/drawing/Writers.h>
+#include <draftwick/model/Access.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 #include <draftwick/structure/Table.h>
 
 namespace draftwick {
 
-Shape::Shape(const Origin& origin, dwShapeKind kind)
-    : RowContainer(origin), index_(++Writing().lastShapeIndex) {
+namespace {
+
+template <class Part>
+const typename Part::Values& OwnOrDefault(const Lazy<Part>& part) {
+    static const typename Part::Values defaults{};
+    return part.Find() != nullptr ? ValuesOf(*part.Find()) : defaults;
+}
+
+}  // namespace
+
+Shape::Shape(const Origin& origin, dwShapeKind kind) : HeldBy(origin), index_(++Session().lastShapeIndex) {
     values_.kind = kind;
 }
 
@@ -26,42 +35,47 @@ void Shape::SetAdjustValues(std::int32_t index, std::int32_t value) {
     values_.adjustValues[static_cast<std::size_t>(index - 1)] = value;
 }
 
-void Shape::OpenText() {
-    WritingContext& context = Writing();
-    if (!context.layout.ShapeTextPending) return;
-    context.output.WriteGroupStart();
-    context.output.WriteControlWord("shptxt");
-    context.layout.ShapeTextPending = false;
+ShapeSettings Shape::Settings() const {
+    return {.index = index_,
+            .shape = values_,
+            .fill = OwnOrDefault(fill_),
+            .line = OwnOrDefault(line_),
+            .shadow = OwnOrDefault(shadow_),
+            .textFormat = OwnOrDefault(textFormat_),
+            .threeD = OwnOrDefault(threeD_),
+            .wordArt = OwnOrDefault(wordArt_),
+            .width = Width(),
+            .height = Height()};
 }
 
 void Shape::WriteParagraphMark() {
-    OpenText();
+    EmitShapeTextStart(Writer());
     RowContainer::WriteParagraphMark();
 }
 
 void Shape::WriteRowMark() {
-    OpenText();
+    EmitShapeTextStart(Writer());
     RowContainer::WriteRowMark();
 }
 
 void Shape::WriteStart() {
-    WritingContext& context = Writing();
-    ShapePictures pictures = OpenPictures(context, *this);
-    outerLayout_ = context.layout;
-    EmitShapeStart(context, *this, pictures);
-    if (IsInlinePicture()) inlinePicture_ = std::move(pictures.fill);
+    const ShapeSettings settings = Settings();
+    ShapePictures pictures = OpenPictures(Session().platform, settings);
+    Writer().EnterShape();
+    EmitShapeStart(Writer(), settings, pictures);
+    if (settings.IsInlinePicture()) inlinePicture_ = std::move(pictures.fill);
 }
 
 void Shape::WriteEnd() {
-    WritingContext& context = Writing();
-    EmitShapeEnd(context, *this, inlinePicture_.get());
+    EmitShapeEnd(Writer(), Settings(), inlinePicture_.get());
     inlinePicture_.reset();
-    LayoutState& layout = context.layout;
-    layout.ShapeTextPending = outerLayout_.ShapeTextPending;
-    layout.InlinePicture = outerLayout_.InlinePicture;
-    if (Holder<Paragraph>().StandsInCell()) {
-        layout.SuppressNextParagraphMark = outerLayout_.SuppressNextParagraphMark;
-        layout.TableEndsSection = outerLayout_.TableEndsSection;
+    const LayoutState outer = Writer().LeaveShape();
+    LayoutState& layout = Writer().layout;
+    layout.ShapeTextPending = outer.ShapeTextPending;
+    layout.InlinePicture = outer.InlinePicture;
+    if (Holder().StandsInCell()) {
+        layout.SuppressNextParagraphMark = outer.SuppressNextParagraphMark;
+        layout.TableEndsSection = outer.TableEndsSection;
     }
 }
 

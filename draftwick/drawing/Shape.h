@@ -8,7 +8,6 @@
 #include <draftwick/drawing/ShapeTextFormat.h>
 #include <draftwick/drawing/ShapeThreeD.h>
 #include <draftwick/drawing/ShapeWordArt.h>
-#include <draftwick/rtf/LayoutState.h>
 
 #include <array>
 #include <memory>
@@ -17,6 +16,8 @@
 namespace draftwick {
 
 class OpenPicture;
+class Paragraph;
+struct ShapeSettings;
 
 /// What Left is counted from.
 enum dwShapeReferenceX : std::int32_t { dwSRXPage = 1, dwSRXColumn = 2, dwSRXMargin = 3 };
@@ -52,9 +53,8 @@ enum dwShapeTextWrap : std::int32_t {
 /// that would write it is then refused with dwErrPictureFileNotFound (also for a folder, and for a picture frame
 /// without a picture), dwErrUnsupportedFileType (also for an extension in capitals), error 481 (a file that is not
 /// the picture that its name promises) or std::system_error; nothing is written yet, and the name or the file can
-/// still be mended. If a file turns out to be unreadable in the middle, the shape is written with what there is, and
-/// the call reports it as std::system_error.
-class DRAFTWICK_API Shape final : public RowContainer {
+/// still be mended.
+class DRAFTWICK_API Shape final : public HeldBy<Paragraph, RowContainer> {
 public:
     struct Values {
         dwShapeKind kind = dwSKRectangle;
@@ -153,42 +153,26 @@ public:
 
     /// The inside, the outline, the shadow, the text box, the depth and the drawn text of the shape. Each is there from
     /// its first use on and refuses when the shape refuses.
-    std::shared_ptr<ShapeFill> Fill() { return Share(fill_.Get(*this)); }
-    std::shared_ptr<ShapeLine> Line() { return Share(line_.Get(*this)); }
-    std::shared_ptr<ShapeShadow> Shadow() { return Share(shadow_.Get(*this)); }
-    std::shared_ptr<ShapeTextFormat> TextFormat() { return Share(textFormat_.Get(*this)); }
-    std::shared_ptr<ShapeThreeD> ThreeD() { return Share(threeD_.Get(*this)); }
-    std::shared_ptr<ShapeWordArt> WordArt() { return Share(wordArt_.Get(*this)); }
+    std::shared_ptr<ShapeFill> Fill() { return Share(fill_.Get(AsOwner())); }
+    std::shared_ptr<ShapeLine> Line() { return Share(line_.Get(AsOwner())); }
+    std::shared_ptr<ShapeShadow> Shadow() { return Share(shadow_.Get(AsOwner())); }
+    std::shared_ptr<ShapeTextFormat> TextFormat() { return Share(textFormat_.Get(AsOwner())); }
+    std::shared_ptr<ShapeThreeD> ThreeD() { return Share(threeD_.Get(AsOwner())); }
+    std::shared_ptr<ShapeWordArt> WordArt() { return Share(wordArt_.Get(AsOwner())); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
-
-    const Values& Stored() const noexcept { return values_; }
-    const ShapeFill::Values& StoredFill() const { return OwnOrDefault(fill_); }
-    const ShapeLine::Values& StoredLine() const { return OwnOrDefault(line_); }
-    const ShapeShadow::Values& StoredShadow() const { return OwnOrDefault(shadow_); }
-    const ShapeTextFormat::Values& StoredTextFormat() const { return OwnOrDefault(textFormat_); }
-    const ShapeThreeD::Values& StoredThreeD() const { return OwnOrDefault(threeD_); }
-    const ShapeWordArt::Values& StoredWordArt() const { return OwnOrDefault(wordArt_); }
-    bool IsPictureFrame() const noexcept { return values_.kind == dwSKPictureFrame; }
-    bool IsInlinePicture() const noexcept { return IsPictureFrame() && values_.inLine; }
-
-    void WriteParagraphMark() override;
-    void WriteRowMark() override;
-
 protected:
     void WriteStart() override;
     void WriteEnd() override;
+    void WriteParagraphMark() override;
+    void WriteRowMark() override;
 
 private:
-    template <class Settings>
-    static const typename Settings::Values& OwnOrDefault(const Lazy<Settings>& settings) {
-        static const typename Settings::Values defaults{};
-        return settings.Find() != nullptr ? settings.Find()->Stored() : defaults;
-    }
-    void OpenText();
+    friend struct Access;
+
+    ShapeSettings Settings() const;
 
     std::int32_t index_;
     Values values_;
@@ -199,8 +183,6 @@ private:
     Lazy<ShapeThreeD> threeD_;
     Lazy<ShapeWordArt> wordArt_;
     std::unique_ptr<OpenPicture> inlinePicture_;  // from the first half to the second
-    LayoutState
-        outerLayout_;  // where the writers stood around this shape, which can be in another shape's cell
 };
 
 }  // namespace draftwick

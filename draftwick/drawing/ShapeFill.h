@@ -4,8 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace draftwick {
 
@@ -24,23 +22,18 @@ enum dwShapeFillStyle : std::int32_t {
 /// green, then blue. Percentages go from 0 to 100, which is not checked.
 class DRAFTWICK_API ShapeFill final : public Part {
 public:
-    /// Written as a fraction of 65536.
-    using Percent = Real<65536, 100>;
-    /// Written as the distance from 100 percent, which must fit, too.
-    using PercentFromFarEdge = Real<656>;
-
     struct Values {
         Choice<"ShapeFill.Style", dwSFSNone, dwSFSShadeRect> style{dwSFSNone};
         std::int32_t color = 0;
-        Percent opacity{100};
+        Real<PercentToFixedPoint> opacity{100};
         std::int32_t backColor = 0;
-        Percent backOpacity{100};
-        Real<65536> shadeAngle{0};
+        Real<PercentToFixedPoint> backOpacity{100};
+        Real<ToFixedPoint> shadeAngle{0};
         bool shadeFocus = false;
-        PercentFromFarEdge shadeToTop{0};
-        PercentFromFarEdge shadeToLeft{0};
-        Percent shadeToRight{0};
-        Percent shadeToBottom{0};
+        Real<PercentFromFarEdge> shadeToTop{0};
+        Real<PercentFromFarEdge> shadeToLeft{0};
+        Real<PercentToFixedPoint> shadeToRight{0};
+        Real<PercentToFixedPoint> shadeToBottom{0};
         std::string shadeArray;
         std::string picture;
     };
@@ -99,21 +92,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
-
-    const Values& Stored() const noexcept { return values_; }
-
-    struct ShadeColor {
-        std::int32_t color = 0;
-        std::int32_t position = 0;  ///< as it is written: of 65536
-    };
-    static std::vector<ShadeColor> ReadShadeArray(std::string_view colors);
-
 private:
+    friend struct Access;
+
     Values values_;
 };
-
-/// {\sp{\sn fFilled}{\sv 1}}{\sp{\sn fillType}{\sv 0}}...
-void EmitShapeFill(WritingContext& context, const ShapeFill::Values& fill);
 
 }  // namespace draftwick

@@ -63,7 +63,7 @@ public:
         Choice<"ShapeLine.Dash", dwSLDSolid, dwSLDLongDashDotDot> dash{dwSLDSolid};
         std::int32_t color = 0;
         std::int32_t backColor = 0;
-        Real<12700> width{1};
+        Real<PointsToEmu> width{1};
         Choice<"ShapeLine.StartArrow", dwSLANone, LastArrow> startArrow{dwSLANone};
         Choice<"ShapeLine.EndArrow", dwSLANone, LastArrow> endArrow{dwSLANone};
         Choice<"ShapeLine.StartArrowWidth", dwSLAWNarrow, dwSLAWWide> startArrowWidth{dwSLAWMedium};
@@ -121,13 +121,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
-
-/// {\sp{\sn lineColor}{\sv 0}}...{\sp{\sn fLine}{\sv 1}}
-void EmitShapeLine(WritingContext& context, const ShapeLine::Values& line);
 
 }  // namespace draftwick

@@ -1,102 +1,92 @@
-#include <draftwick/drawing/ShapeFill.h>
-#include <draftwick/drawing/ShapeLine.h>
-#include <draftwick/drawing/ShapeProperty.h>
-#include <draftwick/drawing/ShapeShadow.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/drawing/ShadeArray.h>
+#include <draftwick/drawing/Writers.h>
 
-#include <cmath>
 #include <string>
 
 namespace draftwick {
 
 namespace {
 
-/// Percent as a fraction of 65536.
-double Fraction(double percent) { return percent / 100 * 65536; }
-
 /// Full opacity is not written.
-void EmitOpacity(Output& output, std::string_view name, double percent) {
-    if (percent < 100) WriteShapeProperty(output, name, Fraction(percent));
+void WriteOpacity(RtfWriter& writer, std::string_view name, Real<PercentToFixedPoint> percent) {
+    if (percent < 100) WriteShapeProperty(writer, name, percent.Written());
 }
 
 /// 8;2;(255,0);(16711680,65536): the size of an element in bytes, their number, colours and positions.
-void EmitShapeFillShadeColors(Output& output, const std::string& shadeArray) {
-    const auto colors = ShapeFill::ReadShadeArray(shadeArray);
+void EmitShapeFillShadeColors(RtfWriter& writer, const std::string& shadeArray) {
+    const auto colors = ReadShadeArray(shadeArray);
     std::string value = "8;" + std::to_string(colors.size());
     for (const auto& [color, position] : colors) {
         value += ";(" + std::to_string(color) + "," + std::to_string(position) + ")";
     }
-    WriteShapeProperty(output, "fillShadeColors", value);
+    WriteShapeProperty(writer, "fillShadeColors", value);
 }
 
 struct ArrowNames {
     std::string_view head, width, length;
 };
 
-void EmitArrow(Output& output, const ArrowNames& names, std::int32_t arrow, std::int32_t width,
-               std::int32_t length) {
+void WriteArrow(RtfWriter& writer, const ArrowNames& names, std::int32_t arrow, std::int32_t width,
+                std::int32_t length) {
     if (arrow == dwSLANone) return;
-    WriteShapeProperty(output, names.head, arrow - 1);
-    WriteShapeProperty(output, names.width, width - 1);
-    WriteShapeProperty(output, names.length, length - 1);
+    WriteShapeProperty(writer, names.head, arrow - 1);
+    WriteShapeProperty(writer, names.width, width - 1);
+    WriteShapeProperty(writer, names.length, length - 1);
 }
 
 }  // namespace
 
-void EmitShapeFill(WritingContext& context, const ShapeFill::Values& fill) {
+void EmitShapeFill(RtfWriter& writer, const ShapeFill::Values& fill) {
     static constexpr std::int32_t Types[] = {0, 1, 2, 3, 7, 6};  // from dwSFSSolid
-    Output& output = context.output;
     if (fill.style == dwSFSNone) return;
-    WriteShapeProperty(output, "fFilled", 1);
+    WriteShapeProperty(writer, "fFilled", 1);
     // Twice: readers that go by the first number and readers that go by the second are both promised theirs.
-    WriteShapeProperty(output, "fillType", Types[fill.style - dwSFSSolid]);
-    WriteShapeProperty(output, "fillType", fill.style - dwSFSSolid);
-    WriteShapeProperty(output, "fillColor", fill.color);
-    EmitOpacity(output, "fillOpacity", fill.opacity);
-    WriteShapeProperty(output, "fillBackColor", fill.backColor);
-    EmitOpacity(output, "fillBackOpacity", fill.backOpacity);
+    WriteShapeProperty(writer, "fillType", Types[fill.style - dwSFSSolid]);
+    WriteShapeProperty(writer, "fillType", fill.style - dwSFSSolid);
+    WriteShapeProperty(writer, "fillColor", fill.color);
+    WriteOpacity(writer, "fillOpacity", fill.opacity);
+    WriteShapeProperty(writer, "fillBackColor", fill.backColor);
+    WriteOpacity(writer, "fillBackOpacity", fill.backOpacity);
     if (fill.style == dwSFSShade) {
-        WriteShapeProperty(output, "fillAngle", fill.shadeAngle * 65536);
-        if (fill.shadeFocus) WriteShapeProperty(output, "fillFocus", 50);
+        WriteShapeProperty(writer, "fillAngle", fill.shadeAngle.Written());
+        if (fill.shadeFocus) WriteShapeProperty(writer, "fillFocus", 50);
     }
-    WriteShapeProperty(output, "fillToTop", std::abs((fill.shadeToTop - 100) / 100) * 65536);
-    WriteShapeProperty(output, "fillToLeft", std::abs(fill.shadeToLeft - 100) / 100 * 65536);
-    WriteShapeProperty(output, "fillToRight", Fraction(fill.shadeToRight));
-    WriteShapeProperty(output, "fillToBottom", Fraction(fill.shadeToBottom));
-    if (!fill.shadeArray.empty()) EmitShapeFillShadeColors(output, fill.shadeArray);
+    WriteShapeProperty(writer, "fillToTop", fill.shadeToTop.Written());
+    WriteShapeProperty(writer, "fillToLeft", fill.shadeToLeft.Written());
+    WriteShapeProperty(writer, "fillToRight", fill.shadeToRight.Written());
+    WriteShapeProperty(writer, "fillToBottom", fill.shadeToBottom.Written());
+    if (!fill.shadeArray.empty()) EmitShapeFillShadeColors(writer, fill.shadeArray);
 }
 
-void EmitShapeLine(WritingContext& context, const ShapeLine::Values& line) {
-    Output& output = context.output;
+void EmitShapeLine(RtfWriter& writer, const ShapeLine::Values& line) {
     if (line.style == dwSLSNone) return;
-    WriteShapeProperty(output, "lineColor", line.color);
-    WriteShapeProperty(output, "lineBackColor", line.backColor);
-    WriteShapeProperty(output, "lineType", line.texture - 1);
-    WriteShapeProperty(output, "lineWidth", TwipsToEmu(RoundHalfEven(line.width * 20)));
-    WriteShapeProperty(output, "lineStyle", line.style - dwSLSSingle);
-    if (line.dash != dwSLDSolid) WriteShapeProperty(output, "lineDashing", line.dash - 1);
-    EmitArrow(output, {"lineStartArrowhead", "lineStartArrowWidth", "lineStartArrowLength"}, line.startArrow,
-              line.startArrowWidth, line.startArrowLength);
-    EmitArrow(output, {"lineEndArrowhead", "lineEndArrowWidth", "lineEndArrowLength"}, line.endArrow,
-              line.endArrowWidth, line.endArrowLength);
-    WriteShapeProperty(output, "fLine", 1);
+    WriteShapeProperty(writer, "lineColor", line.color);
+    WriteShapeProperty(writer, "lineBackColor", line.backColor);
+    WriteShapeProperty(writer, "lineType", line.texture - 1);
+    WriteShapeProperty(writer, "lineWidth", line.width.Written());
+    WriteShapeProperty(writer, "lineStyle", line.style - dwSLSSingle);
+    if (line.dash != dwSLDSolid) WriteShapeProperty(writer, "lineDashing", line.dash - 1);
+    WriteArrow(writer, {"lineStartArrowhead", "lineStartArrowWidth", "lineStartArrowLength"}, line.startArrow,
+               line.startArrowWidth, line.startArrowLength);
+    WriteArrow(writer, {"lineEndArrowhead", "lineEndArrowWidth", "lineEndArrowLength"}, line.endArrow,
+               line.endArrowWidth, line.endArrowLength);
+    WriteShapeProperty(writer, "fLine", 1);
 }
 
-void EmitShapeShadow(WritingContext& context, const ShapeShadow::Values& shadow) {
-    Output& output = context.output;
+void EmitShapeShadow(RtfWriter& writer, const ShapeShadow::Values& shadow) {
     const auto emu = [&](std::string_view name, Length length) {
-        WriteShapeProperty(output, name, TwipsToEmu(length.Twips()));
+        WriteShapeProperty(writer, name, TwipsToEmu(length.Twips()));
     };
     if (shadow.style == dwSSSNone) return;
-    WriteShapeProperty(output, "fShadow", 1);
+    WriteShapeProperty(writer, "fShadow", 1);
     static constexpr std::string_view Types[] = {"", "0", "1"};
-    WriteShapeProperty(output, "shadowType", WordList{Types}[shadow.style]);
-    WriteShapeProperty(output, "shadowColor", shadow.color);
-    EmitOpacity(output, "shadowOpacity", shadow.opacity);
+    WriteShapeProperty(writer, "shadowType", WordList{Types}[shadow.style]);
+    WriteShapeProperty(writer, "shadowColor", shadow.color);
+    WriteOpacity(writer, "shadowOpacity", shadow.opacity);
     emu("shadowOffsetX", shadow.offsetX);
     emu("shadowoffsetY", shadow.offsetY);  // the spelling is part of the format we promise
     if (shadow.style == dwSSSDouble) {
-        WriteShapeProperty(output, "shadowHighlight", shadow.color2);
+        WriteShapeProperty(writer, "shadowHighlight", shadow.color2);
         emu("shadowSecondOffsetX", shadow.offsetX2);
         emu("shadowSecondOffsetY", shadow.offsetY2);
     }

@@ -23,7 +23,7 @@ public:
         Length offsetY{45};
         Length offsetX2{-45};
         Length offsetY2{-45};
-        Real<65536, 100> opacity{100};
+        Real<PercentToFixedPoint> opacity{100};
     };
 
     using Part::Part;
@@ -59,13 +59,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
-
-/// {\sp{\sn fShadow}{\sv 1}}{\sp{\sn shadowType}{\sv 0}}...
-void EmitShapeShadow(WritingContext& context, const ShapeShadow::Values& shadow);
 
 }  // namespace draftwick

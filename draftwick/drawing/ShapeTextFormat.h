@@ -38,9 +38,9 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
 

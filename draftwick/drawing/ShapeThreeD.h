@@ -4,8 +4,6 @@
 
 namespace draftwick {
 
-class WritingContext;
-
 /// How much of a solid is drawn.
 enum dwShape3DRenderMode : std::int32_t { dwS3RSolid = 1, dwS3RWireFrame = 2, dwS3RBoundingCube = 3 };
 /// Whether what is farther away is drawn smaller.
@@ -25,21 +23,21 @@ public:
         std::int32_t color = 0;
         bool metallic = false;
         bool lightFace = true;
-        Real<65536, 100> specularity{0};
-        Real<65536, 100> diffusion{100};
+        Real<PercentToFixedPoint> specularity{0};
+        Real<PercentToFixedPoint> diffusion{100};
         std::int32_t shininess = 5;
-        Real<12700> edgeThickness{1};
-        Real<65536> rotationX{0};
-        Real<65536> rotationY{0};
+        Real<PointsToEmu> edgeThickness{1};
+        Real<ToFixedPoint> rotationX{0};
+        Real<ToFixedPoint> rotationY{0};
         Choice<"ShapeThreeD.RenderMode", dwS3RSolid, dwS3RBoundingCube> renderMode{dwS3RSolid};
         Choice<"ShapeThreeD.Projection", dwS3PParallel, dwS3PPerspective> projection{dwS3PParallel};
-        Real<65536> skewAngle{-135};
+        Real<ToFixedPoint> skewAngle{-135};
         std::int32_t skewAmount = 50;
         std::int32_t viewpointX = 1250000;
         std::int32_t viewpointY = -1250000;
         std::int32_t viewpointZ = 9000000;
-        Real<65536> originX{0.5};
-        Real<65536> originY{-0.5};
+        Real<ToFixedPoint> originX{0.5};
+        Real<ToFixedPoint> originY{-0.5};
         std::int32_t ambientIntensity = 20000;
         std::int32_t keyX = 50000;
         std::int32_t keyY = 0;
@@ -162,13 +160,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
-
-/// {\sp{\sn fc3D}{\sv 1}}{\sp{\sn c3DExtrudeBackward}{\sv 914400}}...; nothing for a shape without depth.
-void EmitShapeThreeD(WritingContext& context, const ShapeThreeD::Values& effect);
 
 }  // namespace draftwick

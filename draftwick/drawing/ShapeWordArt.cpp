@@ -1,20 +1,17 @@
 #include <draftwick/drawing/ShapeWordArt.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 
 namespace draftwick {
 
-ShapeWordArt::ShapeWordArt(Object& parent) : Part(parent) { values_.font = Writing().defaultFont; }
+ShapeWordArt::ShapeWordArt(Owner owner) : Part(owner) { values_.font = Session().settings.defaultFont; }
 
-std::string ShapeWordArt::FontName() const {
-    if (values_.font == WritingContext::NoFont) return {};
-    return Writing().fonts->At(values_.font).Name();
-}
+std::string ShapeWordArt::FontName() const { return values_.font.Name(*Session().collections->fonts); }
 
 void ShapeWordArt::SetFontName(std::string_view name) {
     OpenForChange();
-    values_.font = name.empty() ? WritingContext::NoFont : Writing().fonts->GetFontIndex(name);
+    values_.font.Set(*Session().collections->fonts, name);
 }
 
 const Class& ShapeWordArt::Describe() {

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <draftwick/model/Object.h>
+#include <draftwick/model/Ref.h>
 
 #include <string>
 #include <string_view>
 
 namespace draftwick {
 
-class WritingContext;
+class Fonts;
 
 /// Where the lines of WordArt stand.
 enum dwShapeWordArtAlign : std::int32_t {
@@ -26,10 +27,10 @@ class DRAFTWICK_API ShapeWordArt final : public Part {
 public:
     struct Values {
         std::string text;
-        std::int32_t font = -1;  // the position in the document's fonts, or WritingContext::NoFont
-        Real<65536> size{36};
+        Ref<Fonts> font{};
+        Real<ToFixedPoint> size{36};
         Choice<"ShapeWordArt.Align", dwWAAStretch, dwWAAWordJustify> align{dwWAACenter};
-        Real<65536, 100> spacing{100};
+        Real<PercentToFixedPoint> spacing{100};
         bool reverseRows = false;
         bool vertical = false;
         bool kern = false;
@@ -47,7 +48,7 @@ public:
     };
 
     /// Starts from the defaults and the document's DefaultFontName.
-    explicit ShapeWordArt(Object& parent);
+    explicit ShapeWordArt(Owner owner);
 
     /// Default empty: nothing is written at all.
     const std::string& Text() const { return values_.text; }
@@ -111,13 +112,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
-
-/// {\sp{\sn fGText}{\sv 1}}{\sp{\sn gtextUNICODE}{\sv Sale}}...; nothing without a text.
-void EmitShapeWordArt(WritingContext& context, const ShapeWordArt::Values& wordArt);
 
 }  // namespace draftwick

@@ -1,38 +1,33 @@
-#include <draftwick/drawing/ShapeProperty.h>
-#include <draftwick/drawing/ShapeWordArt.h>
+#include <draftwick/drawing/ShapeDifferences.h>
 #include <draftwick/format/Fonts.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 
 namespace draftwick {
 
-void EmitShapeWordArt(WritingContext& context, const ShapeWordArt::Values& wordArt) {
+void EmitShapeWordArt(RtfWriter& writer, const ShapeWordArt::Values& wordArt) {
+    using V = ShapeWordArt::Values;
     if (wordArt.text.empty()) return;
-    Output& output = context.output;
-    const auto flag = [&](std::string_view name, bool on) {
-        if (on) WriteShapeProperty(output, name, 1);
-    };
-    flag("fGText", true);
-    WriteShapeProperty(output, "gtextUNICODE", wordArt.text);
-    if (wordArt.font != WritingContext::NoFont) {
-        WriteShapeProperty(output, "gtextFont", context.fonts->At(wordArt.font).Name());
-    }
-    if (wordArt.size != 36) WriteShapeProperty(output, "gtextSize", wordArt.size * 65536);
-    if (wordArt.align != dwWAACenter) WriteShapeProperty(output, "gtextAlign", wordArt.align - 1);
-    if (wordArt.spacing != 100) WriteShapeProperty(output, "gtextSpacing", wordArt.spacing / 100 * 65536);
-    flag("gtextFReverseRows", wordArt.reverseRows);
-    flag("gtextFVertical", wordArt.vertical);
-    flag("gtextFKern", wordArt.kern);
-    flag("gtextFTight", wordArt.tight);
-    flag("gtextFStretch", wordArt.stretch);
-    flag("gtextFShrinkFit", wordArt.shrinkFit);
-    flag("gtextFBestFit", wordArt.bestFit);
-    flag("gtextFNormalize", wordArt.normalize);
-    flag("gtextFBold", wordArt.bold);
-    flag("gtextFItalic", wordArt.italic);
-    flag("gtextFUnderline", wordArt.underline);
-    flag("gtextFShadow", wordArt.shadow);
-    flag("gtextFSmallcaps", wordArt.smallCaps);
-    flag("gtextFStrikethrough", wordArt.strikethrough);
+    const ShapeDifferences changed(writer, wordArt);
+    WriteShapeProperty(writer, "fGText", 1);
+    WriteShapeProperty(writer, "gtextUNICODE", wordArt.text);
+    if (wordArt.font) WriteShapeProperty(writer, "gtextFont", wordArt.font.In(*writer.names->fonts).Name());
+    changed.Real("gtextSize", &V::size);
+    changed.Position("gtextAlign", &V::align);
+    changed.Real("gtextSpacing", &V::spacing);
+    changed.Flag("gtextFReverseRows", &V::reverseRows);
+    changed.Flag("gtextFVertical", &V::vertical);
+    changed.Flag("gtextFKern", &V::kern);
+    changed.Flag("gtextFTight", &V::tight);
+    changed.Flag("gtextFStretch", &V::stretch);
+    changed.Flag("gtextFShrinkFit", &V::shrinkFit);
+    changed.Flag("gtextFBestFit", &V::bestFit);
+    changed.Flag("gtextFNormalize", &V::normalize);
+    changed.Flag("gtextFBold", &V::bold);
+    changed.Flag("gtextFItalic", &V::italic);
+    changed.Flag("gtextFUnderline", &V::underline);
+    changed.Flag("gtextFShadow", &V::shadow);
+    changed.Flag("gtextFSmallcaps", &V::smallCaps);
+    changed.Flag("gtextFStrikethrough", &V::strikethrough);
 }
 
 }  // namespace draftwick

@@ -1,6 +1,4 @@
-#include <draftwick/drawing/ShapeProperty.h>
-#include <draftwick/drawing/ShapeWriter.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/drawing/Writers.h>
 
 #include <array>
 
@@ -19,76 +17,83 @@ constexpr std::string_view FlowValues[] = {"0", "2", "2"};
 /// A turn of one degree. The format has 65536 parts; this number is part of the format we promise.
 constexpr double PartsOfDegree = 63356;
 
-void WriteEmu(Output& output, std::string_view name, Length length) {
-    WriteShapeProperty(output, name, TwipsToEmu(length.Twips()));
+void WriteEmu(RtfWriter& writer, std::string_view name, Length length) {
+    WriteShapeProperty(writer, name, TwipsToEmu(length.Twips()));
 }
 
-void EmitPosition(Output& output, const Shape::Values& shape) {
-    output.WriteControlWord("shpleft", shape.left.Twips());
-    output.WriteControlWord("shptop", shape.top.Twips());
-    output.WriteControlWord("shpbottom", shape.top.Twips() + shape.height.Twips());
-    output.WriteControlWord("shpright", shape.left.Twips() + shape.width.Twips());
-    if (shape.behindText) output.WriteControlWord("shpfblwtxt", 1);
-    output.WriteWord(ReferenceXWords, shape.referenceX);
-    output.WriteWord(ReferenceYWords, shape.referenceY);
-    output.WriteControlWord("shpwr", shape.wrap);
-    output.WriteControlWord("shpwrk", shape.wrapSides - 1);
-    if (shape.lockAnchor) output.WriteControlWord("shplockanchor");
+void WritePosition(RtfWriter& writer, const Shape::Values& shape) {
+    writer.Word("shpleft", shape.left.Twips());
+    writer.Word("shptop", shape.top.Twips());
+    writer.Word("shpbottom", shape.top.Twips() + shape.height.Twips());
+    writer.Word("shpright", shape.left.Twips() + shape.width.Twips());
+    if (shape.behindText) writer.Word("shpfblwtxt", 1);
+    writer.Word(ReferenceXWords, shape.referenceX);
+    writer.Word(ReferenceYWords, shape.referenceY);
+    writer.Word("shpwr", shape.wrap);
+    writer.Word("shpwrk", shape.wrapSides - 1);
+    if (shape.lockAnchor) writer.Word("shplockanchor");
 }
 
-void EmitGeometry(Output& output, const Shape::Values& shape) {
-    if (shape.rotation > 0) WriteShapeProperty(output, "Rotation", shape.rotation * PartsOfDegree);
-    WriteEmu(output, "dxWrapDistLeft", shape.wrapLeft);
-    WriteEmu(output, "dxWrapDistRight", shape.wrapRight);
-    WriteEmu(output, "dxWrapDistTop", shape.wrapTop);
-    WriteEmu(output, "dxWrapDistBottom", shape.wrapBottom);
-    if (shape.behindText) WriteShapeProperty(output, "fBehindDocument", 1);
+void WriteGeometry(RtfWriter& writer, const Shape::Values& shape) {
+    if (shape.rotation > 0) WriteShapeProperty(writer, "Rotation", shape.rotation * PartsOfDegree);
+    WriteEmu(writer, "dxWrapDistLeft", shape.wrapLeft);
+    WriteEmu(writer, "dxWrapDistRight", shape.wrapRight);
+    WriteEmu(writer, "dxWrapDistTop", shape.wrapTop);
+    WriteEmu(writer, "dxWrapDistBottom", shape.wrapBottom);
+    if (shape.behindText) WriteShapeProperty(writer, "fBehindDocument", 1);
     for (std::size_t i = 0; i < AdjustNames.size(); ++i) {
-        if (shape.adjustValues[i] != 0) WriteShapeProperty(output, AdjustNames[i], shape.adjustValues[i]);
+        if (shape.adjustValues[i] != 0) WriteShapeProperty(writer, AdjustNames[i], shape.adjustValues[i]);
     }
 }
 
-/// {\sp{\sn pib}{\sv {\pict\jpegblip FFD8...}}}
-void EmitPictureProperty(WritingContext& context, std::string_view name, OpenPicture* picture) {
-    if (picture == nullptr) return;
-    Output& output = context.output;
-    WriteShapePropertyStart(output, name);
-    output.WriteText("");
-    output.WriteGroupStart();
-    output.WriteControlWord("pict");
-    EmitPicture(context, *picture);
-    output.WriteGroupEnd();
-    WriteShapePropertyEnd(output);
+void WriteTextFormat(RtfWriter& writer, const ShapeSettings& settings) {
+    const ShapeTextFormat::Values& format = settings.textFormat;
+    WriteShapeProperty(writer, "lTxid", settings.index);
+    WriteEmu(writer, "dxTextLeft", format.spacingLeft);
+    WriteEmu(writer, "dxTextRight", format.spacingRight);
+    WriteEmu(writer, "dxTextTop", format.spacingTop);
+    WriteEmu(writer, "dxTextBottom", format.spacingBottom);
+    WriteShapeProperty(writer, "txflTextFlow", WordList{FlowValues}[format.flow]);
+    if (settings.shape.nextIndex != 0) WriteShapeProperty(writer, "hspNext", settings.shape.nextIndex);
 }
 
-void EmitTextFormat(Output& output, const Shape& shape) {
-    const ShapeTextFormat::Values& format = shape.StoredTextFormat();
-    WriteShapeProperty(output, "lTxid", shape.Index());
-    WriteEmu(output, "dxTextLeft", format.spacingLeft);
-    WriteEmu(output, "dxTextRight", format.spacingRight);
-    WriteEmu(output, "dxTextTop", format.spacingTop);
-    WriteEmu(output, "dxTextBottom", format.spacingBottom);
-    WriteShapeProperty(output, "txflTextFlow", WordList{FlowValues}[format.flow]);
-    if (shape.NextIndex() != 0) WriteShapeProperty(output, "hspNext", shape.NextIndex());
+/// What every shape says about itself.
+void WriteIdentity(RtfWriter& writer, const ShapeSettings& settings) {
+    writer.Word("shplid", settings.index);
+    WriteShapeProperty(writer, "ShapeType", settings.shape.kind);
+    if (settings.shape.flipH) WriteShapeProperty(writer, "FFlipH", 1);
+    if (settings.shape.flipV) WriteShapeProperty(writer, "FFlipV", 1);
+}
+
+void WriteInstance(RtfWriter& writer, const ShapeSettings& settings, const ShapePictures& pictures) {
+    WriteIdentity(writer, settings);
+    WritePosition(writer, settings.shape);
+    WriteGeometry(writer, settings.shape);
+    EmitShapeFill(writer, settings.fill);
+    EmitShapeLine(writer, settings.line);
+    EmitShapeShadow(writer, settings.shadow);
+    EmitShapeThreeD(writer, settings.threeD);
+    EmitShapeWordArt(writer, settings.wordArt);
+    if (pictures.fill != nullptr)
+        WriteShapeProperty(writer, settings.IsPictureFrame() ? "pib" : "fillBlip", *pictures.fill);
+    if (pictures.line != nullptr) WriteShapeProperty(writer, "lineFillBlip", *pictures.line);
 }
 
 /// An in-line picture is scaled to the numbers that its size has in the document's unit, taken as twips.
-std::optional<OpenPicture::Scale> ScaleOf(const Shape& shape, const OpenPicture& picture) {
-    return picture.ScaleTo(RoundHalfEven(shape.Width()), RoundHalfEven(shape.Height()));
+std::optional<OpenPicture::Scale> ScaleOf(const ShapeSettings& settings, const OpenPicture& picture) {
+    return picture.ScaleTo(RoundHalfEven(settings.width), RoundHalfEven(settings.height));
 }
 
 }  // namespace
 
-ShapePictures OpenPictures(WritingContext& context, const Shape& shape) {
-    const ShapeFill::Values& fill = shape.StoredFill();
-    const ShapeLine::Values& line = shape.StoredLine();
-    const auto open = [&](const std::string& name) {
-        return std::make_unique<OpenPicture>(context.platform, name);
-    };
+ShapePictures OpenPictures(const platform::Platform& platform, const ShapeSettings& settings) {
+    const ShapeFill::Values& fill = settings.fill;
+    const ShapeLine::Values& line = settings.line;
+    const auto open = [&](const std::string& name) { return std::make_unique<OpenPicture>(platform, name); };
     ShapePictures pictures;
-    if (shape.IsPictureFrame()) {
+    if (settings.IsPictureFrame()) {
         pictures.fill = open(fill.picture);
-        if (shape.IsInlinePicture()) ScaleOf(shape, *pictures.fill);
+        if (settings.IsInlinePicture()) ScaleOf(settings, *pictures.fill);
         return pictures;
     }
     const bool fillsWithPicture = fill.style >= dwSFSPattern && fill.style <= dwSFSPicStretch;
@@ -97,51 +102,41 @@ ShapePictures OpenPictures(WritingContext& context, const Shape& shape) {
     return pictures;
 }
 
-void EmitShapeStart(WritingContext& context, const Shape& shape, ShapePictures& pictures) {
-    Output& output = context.output;
-    LayoutState& layout = context.layout;
-    const Shape::Values& values = shape.Stored();
-    layout.InlinePicture = shape.IsInlinePicture();
-    output.WriteGroupStart();
-    output.WriteControlWord(layout.InlinePicture ? "pict" : "shp");
-    output.WriteDestinationStart();
-    output.WriteControlWord(layout.InlinePicture ? "picprop" : "shpinst");
-    // The second brace is one more than the format has; it is part of what we promise.
-    if (!layout.InlinePicture) output.WriteGroupStart();
-    output.WriteControlWord("shplid", shape.Index());
-    WriteShapeProperty(output, "ShapeType", values.kind);
-    if (values.flipH) WriteShapeProperty(output, "FFlipH", 1);
-    if (values.flipV) WriteShapeProperty(output, "FFlipV", 1);
-    if (!layout.InlinePicture) {
-        EmitPosition(output, values);
-        EmitGeometry(output, values);
-        EmitShapeFill(context, shape.StoredFill());
-        EmitShapeLine(context, shape.StoredLine());
-        EmitShapeShadow(context, shape.StoredShadow());
-        EmitShapeThreeD(context, shape.StoredThreeD());
-        EmitShapeWordArt(context, shape.StoredWordArt());
-        EmitPictureProperty(context, shape.IsPictureFrame() ? "pib" : "fillBlip", pictures.fill.get());
-        EmitPictureProperty(context, "lineFillBlip", pictures.line.get());
-        output.WriteGroupEnd();
-        EmitTextFormat(output, shape);
+void EmitShapeStart(RtfWriter& writer, const ShapeSettings& settings, const ShapePictures& pictures) {
+    LayoutState& layout = writer.layout;
+    layout.InlinePicture = settings.IsInlinePicture();
+    if (layout.InlinePicture) {
+        writer.OpenGroup("pict");
+        writer.Destination("picprop", [&] { WriteIdentity(writer, settings); });
+    } else {
+        writer.OpenGroup("shp");
+        writer.Destination("shpinst", [&] {
+            // This brace is one more than the format has; it is part of what we promise.
+            writer.Group([&] { WriteInstance(writer, settings, pictures); });
+            WriteTextFormat(writer, settings);
+        });
     }
     layout.ShapeTextPending = true;
     layout.SuppressNextParagraphMark = true;
     layout.TableEndsSection = false;
-    output.WriteGroupEnd();
 }
 
-void EmitShapeEnd(WritingContext& context, const Shape& shape, OpenPicture* inlinePicture) {
-    Output& output = context.output;
+void EmitShapeTextStart(RtfWriter& writer) {
+    if (!writer.layout.ShapeTextPending) return;
+    writer.OpenGroup("shptxt");
+    writer.layout.ShapeTextPending = false;
+}
+
+void EmitShapeEnd(RtfWriter& writer, const ShapeSettings& settings, const OpenPicture* inlinePicture) {
     std::optional<OpenPicture::Scale> scale;
-    if (inlinePicture != nullptr) scale = ScaleOf(shape, *inlinePicture);
-    if (!context.layout.ShapeTextPending) {
-        output.WriteGroupEnd();
-        if (context.layout.TableEndsSection) output.WriteControlWord("par");
+    if (inlinePicture != nullptr) scale = ScaleOf(settings, *inlinePicture);
+    if (!writer.layout.ShapeTextPending) {
+        writer.CloseGroup();
+        if (writer.layout.TableEndsSection) writer.Word("par");
     }
-    output.WriteGroupEnd();
+    writer.CloseGroup();
     // Readers look for the data within the group; that it stands behind it is part of the format we promise.
-    if (inlinePicture != nullptr) EmitPicture(context, *inlinePicture, scale);
+    if (inlinePicture != nullptr) EmitPicture(writer, *inlinePicture, scale);
 }
 
 }  // namespace draftwick

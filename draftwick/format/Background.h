@@ -59,10 +59,9 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-    void CopyFrom(const Background& other) { values_ = other.values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
 

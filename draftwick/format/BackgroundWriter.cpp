@@ -1,5 +1,4 @@
-#include <draftwick/format/BackgroundWriter.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/format/Writers.h>
 
 #include <string>
 
@@ -11,45 +10,42 @@ constexpr std::string_view Patterns[] = {"",          "bgcross",   "bgdkcross", 
                                          "bgdkbdiag", "bgdkhoriz", "bgdkvert",  "bgdcross",   "bgfdiag",
                                          "bgbdiag",   "bghoriz",   "",          "bgvert"};
 
+/// The shading in hundredths of a percent; solid is full.
+std::int32_t Shading(const Background::Values& background) {
+    return background.texture == dwTextureSolid ? 10000 : RoundHalfEven(background.shading * 100);
+}
+
 /// Runs ("ch") and cells ("cl"): solid is written in the back colour, shaded without a colour, unlike in
 /// paragraphs, and the foreground word is fpat.
-void EmitInner(WritingContext& context, const Background::Values& background, const std::string& prefix) {
-    Output& output = context.output;
+void EmitInner(RtfWriter& writer, const Background::Values& background, const std::string& prefix) {
     switch (background.texture) {
     case dwTextureNone: return;
-    case dwTextureShaded:
-        output.WriteControlWord(prefix + "shdng", RoundHalfEven(background.shading * 100));
-        return;
-    case dwTextureSolid: output.WriteControlWord(prefix + "shdng", 10000); break;
-    default: output.WriteControlWord(prefix + std::string{WordList{Patterns}[background.texture]});
+    case dwTextureShaded: writer.Word(prefix + "shdng", Shading(background)); return;
+    case dwTextureSolid: writer.Word(prefix + "shdng", Shading(background)); break;
+    default: writer.Word(prefix + std::string{WordList{Patterns}[background.texture]});
     }
-    output.WriteControlWord(prefix + "cbpat", context.colors.GetColorIndex(background.backColor));
-    if (background.texture != dwTextureSolid) {
-        output.WriteControlWord(prefix + "fpat", context.colors.GetColorIndex(background.color));
-    }
+    writer.Color(prefix + "cbpat", background.backColor);
+    if (background.texture != dwTextureSolid) writer.Color(prefix + "fpat", background.color);
 }
 
 }  // namespace
 
-void EmitBackground(WritingContext& context, const Background::Values& background) {
-    Output& output = context.output;
+void EmitBackground(RtfWriter& writer, const Background::Values& background) {
     switch (background.texture) {
     case dwTextureNone: return;
-    case dwTextureShaded: output.WriteControlWord("shading", RoundHalfEven(background.shading * 100)); break;
-    case dwTextureSolid: output.WriteControlWord("shading", 10000); break;
-    default:
-        output.WriteWord(Patterns, background.texture);
-        output.WriteControlWord("cbpat", context.colors.GetColorIndex(background.backColor));
+    case dwTextureShaded:
+    case dwTextureSolid: writer.Word("shading", Shading(background)); break;
+    default: writer.Word(Patterns, background.texture); writer.Color("cbpat", background.backColor);
     }
-    output.WriteControlWord("cfpat", context.colors.GetColorIndex(background.color));
+    writer.Color("cfpat", background.color);
 }
 
-void EmitCharacterBackground(WritingContext& context, const Background::Values& background) {
-    EmitInner(context, background, "ch");
+void EmitCharacterBackground(RtfWriter& writer, const Background::Values& background) {
+    EmitInner(writer, background, "ch");
 }
 
-void EmitCellBackground(WritingContext& context, const Background::Values& background) {
-    EmitInner(context, background, "cl");
+void EmitCellBackground(RtfWriter& writer, const Background::Values& background) {
+    EmitInner(writer, background, "cl");
 }
 
 }  // namespace draftwick

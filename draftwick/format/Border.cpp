@@ -3,7 +3,7 @@
 
 namespace draftwick {
 
-ParagraphBorder::ParagraphBorder(Object& parent, dwParagraphBorder side) : Border(parent) {
+ParagraphBorder::ParagraphBorder(Owner owner, dwParagraphBorder side) : Border(owner) {
     const bool beside = side == dwPBorderLeft || side == dwPBorderRight || side == dwPBorderOutside;
     values_.spacing = beside ? 4 : 1;
 }

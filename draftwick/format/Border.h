@@ -62,9 +62,6 @@ public:
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
 
-    const Values& Stored() const noexcept { return values_; }
-    void CopyFrom(const Border& other) { values_ = other.values_; }
-
 protected:
     /// The rows of the members above and then `more`, for the table of a class.
     static std::vector<ClassProperty> Rows(std::initializer_list<ClassProperty> more = {}) {
@@ -77,6 +74,10 @@ protected:
         rows.insert(rows.end(), more);
         return rows;
     }
+
+    friend struct Access;
+    template <class SideBorder, class Side, std::int32_t SideCount>
+    friend class BorderCollection;
 
     Values values_;
 };
@@ -116,11 +117,13 @@ public:
 
     /// Takes over the sides that the other one has and leaves the others.
     void CopyFrom(const BorderCollection& other) {
-        other.ForEach([&](Side side, const SideBorder& border) { Create(side).CopyFrom(border); });
+        other.ForEach([&](Side side, const SideBorder& border) { Create(side).values_ = border.values_; });
     }
 
 private:
-    SideBorder& Create(Side side) { return sides_[static_cast<std::size_t>(side - 1)].Get(Whole(), side); }
+    SideBorder& Create(Side side) {
+        return sides_[static_cast<std::size_t>(side - 1)].Get(WholeAsOwner(), side);
+    }
 
     std::array<Lazy<SideBorder>, static_cast<std::size_t>(SideCount)> sides_;
 };
@@ -162,7 +165,7 @@ struct DRAFTWICK_API ParagraphBorderValues {
 /// One side of the borders of a paragraph or paragraph style. Refuses when the owner refuses.
 class DRAFTWICK_API ParagraphBorder final : public Border<ParagraphBorderValues> {
 public:
-    ParagraphBorder(Object& parent, dwParagraphBorder side);
+    ParagraphBorder(Owner owner, dwParagraphBorder side);
 
     /// From the text to the border, in points as Width (RTF \brsp). Default 1; 4 on the left, on the right and for
     /// the bar.

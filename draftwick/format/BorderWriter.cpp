@@ -1,5 +1,5 @@
-#include <draftwick/format/BorderWriter.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/format/Writers.h>
+#include <draftwick/model/Access.h>
 
 namespace draftwick {
 
@@ -36,34 +36,29 @@ constexpr std::string_view SideWords[] = {"brdrt", "brdrl", "brdrr", "brdrb", "b
 
 std::string_view BorderStyleWord(std::int32_t style) noexcept { return WordList{StyleWords}[style]; }
 
-void EmitBorderLine(WritingContext& context, std::int32_t style, double width, std::string_view colorWord,
+void EmitBorderLine(RtfWriter& writer, std::int32_t style, std::int32_t twips, std::string_view colorWord,
                     std::int32_t color) {
-    context.output.WriteWord(StyleWords, style);
-    context.output.WriteControlWord("brdrw", RoundDown(width * 20));
-    context.output.WriteControlWord(colorWord, context.colors.GetColorIndex(color));
+    writer.Word(StyleWords, style);
+    writer.Word("brdrw", twips);
+    writer.Color(colorWord, color);
 }
 
-void EmitTextBorder(WritingContext& context, const TextBorder::Values& border) {
+void EmitTextBorder(RtfWriter& writer, const TextBorder::Values& border) {
     if (border.style == dwBSNone) return;
-    context.output.WriteControlWord("chbrdr");
+    writer.Word("chbrdr");
     // The colour of a text border is spelled brdrref, the one of rows and cells brdref: all three are promised.
-    EmitBorderLine(context, border.style, border.width, "brdrref", border.color);
+    EmitBorderLine(writer, border.style, border.width.Written(), "brdrref", border.color);
 }
 
-void EmitParagraphBorder(WritingContext& context, dwParagraphBorder side,
-                         const ParagraphBorder::Values& border) {
-    if (border.style == dwBSNone) return;
-    Output& output = context.output;
-    output.WriteWord(SideWords, side);
-    output.WriteWord(StyleWords, border.style);
-    output.WriteControlWord("brsp", RoundDown(border.spacing * 20));
-    output.WriteControlWord("brdrw", RoundDown(border.width * 20));
-    output.WriteControlWord("brdrcf", context.colors.GetColorIndex(border.color));
-}
-
-void EmitParagraphBorders(WritingContext& context, const ParagraphBorders& borders) {
+void EmitParagraphBorders(RtfWriter& writer, const ParagraphBorders& borders) {
     borders.ForEach([&](dwParagraphBorder side, const ParagraphBorder& border) {
-        EmitParagraphBorder(context, side, border.Stored());
+        const ParagraphBorder::Values& values = ValuesOf(border);
+        if (values.style == dwBSNone) return;
+        writer.Word(SideWords, side);
+        writer.Word(StyleWords, values.style);
+        writer.Word("brsp", values.spacing.Written());
+        writer.Word("brdrw", values.width.Written());
+        writer.Color("brdrcf", values.color);
     });
 }
 

@@ -1,25 +1,22 @@
 #include <draftwick/format/FontFormat.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 
 namespace draftwick {
 
-FontFormat::FontFormat(Object& parent) : Part(parent) { values_.font = Writing().defaultFont; }
+FontFormat::FontFormat(Owner owner) : Part(owner) { values_.font = Session().settings.defaultFont; }
 
 void FontFormat::SetSubscript(bool on) {
     Change(values_.subscript, on);
     if (on) values_.superscript = false;
 }
 
-std::string FontFormat::FontName() const {
-    if (values_.font == WritingContext::NoFont) return {};
-    return Writing().fonts->At(values_.font).Name();
-}
+std::string FontFormat::FontName() const { return values_.font.Name(*Session().collections->fonts); }
 
 void FontFormat::SetFontName(std::string_view name) {
     OpenForChange();
-    values_.font = name.empty() ? WritingContext::NoFont : Writing().fonts->GetFontIndex(name);
+    values_.font.Set(*Session().collections->fonts, name);
 }
 
 void FontFormat::SetEmboss(bool on) {

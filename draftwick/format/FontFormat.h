@@ -1,8 +1,11 @@
 #pragma once
 
 #include <draftwick/model/Object.h>
+#include <draftwick/model/Ref.h>
 
 namespace draftwick {
+
+class Fonts;
 
 /// Lines under text (RTF \ulnone, \ul, \uld to \ulwave).
 enum dwUnderlineStyle : std::int32_t {
@@ -49,17 +52,17 @@ public:
         bool engrave = false;
         Rounded subscriptPosition{3};
         Rounded superscriptPosition{3};
-        Real<2> size{12};
+        Real<PointsToHalfPoints> size{12};
         Choice<"FontFormat.Underline", dwUnderlineNone, dwUnderlineWave> underline{dwUnderlineNone};
         Choice<"FontFormat.Animation", dwTxAnimNone, dwTxAnimSparkle> animation{dwTxAnimNone};
         std::int32_t color = 0;
-        std::int32_t font = -1;  // the position in the document's fonts, or WritingContext::NoFont
+        Ref<Fonts> font{};
     };
 
     /// Starts from the defaults and the document's DefaultFontName.
-    explicit FontFormat(Object& parent);
+    explicit FontFormat(Owner owner);
     /// Starts from the values of another one.
-    FontFormat(Object& parent, const Values& values) : Part(parent), values_(values) {}
+    FontFormat(Owner owner, const Values& values) : Part(owner), values_(values) {}
 
     /// RTF \b.
     bool Bold() const { return values_.bold; }
@@ -148,10 +151,9 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-    void CopyFrom(const FontFormat& other) { values_ = other.values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
 

@@ -1,5 +1,4 @@
-#include <draftwick/format/FontFormatWriter.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/format/Writers.h>
 
 namespace draftwick {
 
@@ -11,88 +10,69 @@ constexpr std::string_view UnderlineWords[] = {"ulnone", "ul",      "uld",      
 constexpr std::string_view AnimationWords[] = {"animtext0", "animtext2", "animtext1", "animtext4",
                                                "animtext5", "animtext6", "animtext3"};
 
-std::int32_t HalfPoints(double points) { return RoundDown(points * 2); }
-
 }  // namespace
 
-void EmitFontFormat(WritingContext& context, const FontFormat::Values& format, bool withPlain) {
-    Output& output = context.output;
-    if (withPlain) output.WriteControlWord("plain");
-    if (format.bold) output.WriteControlWord("b");
-    if (format.allCaps) output.WriteControlWord("caps");
+void EmitFontFormat(RtfWriter& writer, const FontFormat::Values& format, bool withPlain) {
+    if (withPlain) writer.Word("plain");
+    if (format.bold) writer.Word("b");
+    if (format.allCaps) writer.Word("caps");
     if (format.subscript) {
-        output.WriteControlWord("sub");
-        output.WriteControlWord("dn", HalfPoints(format.subscriptPosition));
+        writer.Word("sub");
+        writer.Word("dn", PointsToHalfPoints(format.subscriptPosition));
     }
-    if (format.font != WritingContext::NoFont) output.WriteControlWord("f", format.font);
-    output.WriteControlWord("fs", HalfPoints(format.size));
-    if (format.italic) output.WriteControlWord("i");
-    if (format.outline) output.WriteControlWord("outl");
-    if (format.smallCaps) output.WriteControlWord("scaps");
-    if (format.shadow) output.WriteControlWord("shad");
-    if (format.strikethrough) output.WriteControlWord("strike");
-    if (format.underline != dwUnderlineNone) output.WriteWord(UnderlineWords, format.underline);
+    if (format.font) writer.Word("f", format.font.Position());
+    writer.Word("fs", format.size.Written());
+    if (format.italic) writer.Word("i");
+    if (format.outline) writer.Word("outl");
+    if (format.smallCaps) writer.Word("scaps");
+    if (format.shadow) writer.Word("shad");
+    if (format.strikethrough) writer.Word("strike");
+    if (format.underline != dwUnderlineNone) writer.Word(UnderlineWords, format.underline);
     if (format.superscript) {
-        output.WriteControlWord("super");
-        output.WriteControlWord("up", HalfPoints(format.superscriptPosition));
+        writer.Word("super");
+        writer.Word("up", PointsToHalfPoints(format.superscriptPosition));
     }
-    if (format.hidden) output.WriteControlWord("v");
-    output.WriteControlWord("cf", context.colors.GetColorIndex(format.color));
-    if (format.animation != dwTxAnimNone) output.WriteWord(AnimationWords, format.animation);
-    if (format.emboss) output.WriteControlWord("embo");
-    if (format.engrave) output.WriteControlWord("impr");
-    if (format.strikethroughDouble) output.WriteControlWord("striked", 1);
+    if (format.hidden) writer.Word("v");
+    writer.Color("cf", format.color);
+    if (format.animation != dwTxAnimNone) writer.Word(AnimationWords, format.animation);
+    if (format.emboss) writer.Word("embo");
+    if (format.engrave) writer.Word("impr");
+    if (format.strikethroughDouble) writer.Word("striked", 1);
 }
 
-void EmitFontFormatChanges(WritingContext& context, const FontFormat::Values& format,
+void EmitFontFormatChanges(RtfWriter& writer, const FontFormat::Values& format,
                            const FontFormat::Values& reference) {
-    Output& output = context.output;
     const auto flag = [&](std::string_view word, bool FontFormat::Values::*field) {
         const bool differs = format.*field != reference.*field;
-        if (differs) output.WriteFlag(word, format.*field);
+        if (differs) writer.Flag(word, format.*field);
         return differs && format.*field;
     };
     using V = FontFormat::Values;
     flag("b", &V::bold);
     flag("caps", &V::allCaps);
-    if (flag("sub", &V::subscript)) output.WriteControlWord("dn", HalfPoints(format.subscriptPosition));
-    if (format.font != reference.font && format.font != WritingContext::NoFont) {
-        output.WriteControlWord("f", format.font);
-    }
-    if (format.size != reference.size) output.WriteControlWord("fs", HalfPoints(format.size));
+    if (flag("sub", &V::subscript)) writer.Word("dn", PointsToHalfPoints(format.subscriptPosition));
+    if (format.font != reference.font && format.font) writer.Word("f", format.font.Position());
+    if (format.size != reference.size) writer.Word("fs", format.size.Written());
     flag("i", &V::italic);
     flag("outl", &V::outline);
     flag("scaps", &V::smallCaps);
     flag("shad", &V::shadow);
     flag("strike", &V::strikethrough);
-    if (format.underline != reference.underline) output.WriteWord(UnderlineWords, format.underline);
-    if (flag("super", &V::superscript)) output.WriteControlWord("up", HalfPoints(format.superscriptPosition));
+    if (format.underline != reference.underline) writer.Word(UnderlineWords, format.underline);
+    if (flag("super", &V::superscript)) writer.Word("up", PointsToHalfPoints(format.superscriptPosition));
     flag("v", &V::hidden);
-    if (format.color != reference.color) {
-        output.WriteControlWord("cf", context.colors.GetColorIndex(format.color));
-    }
-    if (format.animation != reference.animation) output.WriteWord(AnimationWords, format.animation);
+    if (format.color != reference.color) writer.Color("cf", format.color);
+    if (format.animation != reference.animation) writer.Word(AnimationWords, format.animation);
     // Here engraving comes first; in the whole format embossing does.
     flag("impr", &V::engrave);
     flag("embo", &V::emboss);
     flag("striked1", &V::strikethroughDouble);  // "\striked11" and "\striked10" are the spellings we promise
 }
 
-FontFormat::Values DefaultFontFormat(const WritingContext& context) {
+FontFormat::Values DefaultFontFormat(const DocumentSettings& document) {
     FontFormat::Values values;
-    values.font = context.defaultFont;
+    values.font = document.defaultFont;
     return values;
-}
-
-FontFormat::Values BlankReference(const WritingContext& context) {
-    FontFormat::Values blank;
-    blank.subscriptPosition = 0;
-    blank.superscriptPosition = 0;
-    blank.size = 0;
-    blank.underline = static_cast<dwUnderlineStyle>(0);
-    blank.animation = static_cast<dwTextAnimation>(0);
-    blank.font = context.defaultFont;
-    return blank;
 }
 
 }  // namespace draftwick

@@ -1,5 +1,4 @@
 #include <draftwick/format/Fonts.h>
-#include <draftwick/model/WritingContext.h>
 
 namespace draftwick {
 
@@ -24,29 +23,6 @@ const Class& Fonts::Describe() {
                                    {PropertyOf<&Fonts::Count>("Count")},
                                    {ItemsMethod<Fonts>(), MethodOf<&Fonts::Add>("Add", {{"Name"}})}};
     return description;
-}
-
-void EmitFontTable(WritingContext& context, const Fonts& fonts) {
-    static constexpr std::string_view FamilyWords[] = {"fnil",    "froman", "fswiss", "fmodern",
-                                                       "fscript", "fdecor", "ftech"};
-    if (fonts.Count() == 0) return;
-    Output& output = context.output;
-    output.WriteGroupStart();
-    output.WriteControlWord("fonttbl");
-    for (const auto& font : fonts) {
-        output.WriteGroupStart();
-        output.WriteControlWord("f", font->FontIndex());
-        output.WriteWord(FamilyWords, font->Family());
-        if (!font->AltName().empty()) {
-            output.WriteDestinationStart();
-            output.WriteControlWord("falt");
-            output.WriteText(font->AltName());
-            output.WriteGroupEnd();
-        }
-        output.WriteText(font->Name() + ";");
-        output.WriteGroupEnd();
-    }
-    output.WriteGroupEnd();
 }
 
 }  // namespace draftwick

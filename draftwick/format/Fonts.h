@@ -48,6 +48,8 @@ public:
 private:
     std::string name_;
     std::int32_t index_;
+    friend struct Access;
+
     Values values_;
 };
 
@@ -66,12 +68,6 @@ public:
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
-
-    /// The number of the font of that name in the file. dwErrItemNotFound when there is none.
-    std::int32_t GetFontIndex(std::string_view name) const { return IndexOf(name); }
 };
-
-/// "{\fonttbl{\f0\froman Times New Roman;}}"; nothing without fonts.
-void EmitFontTable(WritingContext& context, const Fonts& fonts);
 
 }  // namespace draftwick

@@ -119,13 +119,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
-
-/// \absw2880\phcol\posxr\pvmrg\posy720: the place of a frame; nothing when all its properties have their defaults.
-void EmitFrame(WritingContext& context, const Frame::Values& frame);
 
 }  // namespace draftwick

@@ -1,40 +1,26 @@
 #include <draftwick/format/Lists.h>
-#include <draftwick/model/WritingContext.h>
-
-#include <algorithm>
+#include <draftwick/model/Session.h>
 
 namespace draftwick {
 
-ListLevel::ListLevel(Object& list, std::int32_t number) : Part(list), fontFormat_(*this) {
+ListLevel::ListLevel(Owner list, std::int32_t number) : Part(list), parts_{draftwick::FontFormat(AsOwner())} {
     values_.format = "\\L" + std::to_string(number) + ".";
 }
 
-List::List(const Origin& origin, std::string name, std::int32_t index)
-    : Node(origin), name_(std::move(name)),
-      index_(index), levels_{ListLevel{*this, 1}, ListLevel{*this, 2}, ListLevel{*this, 3},
-                             ListLevel{*this, 4}, ListLevel{*this, 5}, ListLevel{*this, 6},
-                             ListLevel{*this, 7}, ListLevel{*this, 8}, ListLevel{*this, 9}} {}
+List::List(const Origin& origin, std::string name, std::int32_t)
+    : Node(origin), name_(std::move(name)), parts_{{ListLevel{AsOwner(), 1}, ListLevel{AsOwner(), 2},
+                                                    ListLevel{AsOwner(), 3}, ListLevel{AsOwner(), 4},
+                                                    ListLevel{AsOwner(), 5}, ListLevel{AsOwner(), 6},
+                                                    ListLevel{AsOwner(), 7}, ListLevel{AsOwner(), 8},
+                                                    ListLevel{AsOwner(), 9}}} {}
 
 std::shared_ptr<ListLevel> List::Levels(std::int32_t level) {
     if (!InRange(level, 1, 9)) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(level));
-    return Share(levels_[static_cast<std::size_t>(level - 1)]);
-}
-
-std::int32_t List::PairOverrideNumber(std::int32_t otherList) {
-    const auto [entry, isNew] = numberOfPairing_.try_emplace(otherList, Writing().lastOverrideNumber + 1);
-    if (isNew) {
-        pairings_.emplace_back(*entry);
-        ++Writing().lastOverrideNumber;
-    }
-    return entry->second;
-}
-
-void List::MarkLevelUsed(std::int32_t level) noexcept {
-    highestLevelUsed_ = std::max(highestLevelUsed_, level);
+    return Share(parts_.levels[static_cast<std::size_t>(level - 1)]);
 }
 
 std::shared_ptr<List> Lists::Add(std::string_view name) {
-    Writing();
+    Session();
     return AddItem(name, "Lists");
 }
 

@@ -4,7 +4,6 @@
 #include <draftwick/model/Collection.h>
 
 #include <array>
-#include <utility>
 
 namespace draftwick {
 
@@ -41,7 +40,7 @@ public:
         Length tabPosition{360};
     };
 
-    ListLevel(Object& list, std::int32_t number);
+    ListLevel(Owner list, std::int32_t number);
 
     /// Default dwLNSDecimal.
     dwListNumberStyle Style() const { return values_.style; }
@@ -79,17 +78,20 @@ public:
     void SetTabPosition(double length) { Change(values_.tabPosition, length); }
 
     /// The look of the number.
-    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
+    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(parts_.fontFormat); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-    const draftwick::FontFormat& StoredFontFormat() const noexcept { return fontFormat_; }
-
 private:
+    friend struct Access;
+
+    struct Parts {
+        draftwick::FontFormat fontFormat;
+    };
+
     Values values_;
-    draftwick::FontFormat fontFormat_;
+    Parts parts_;
 };
 
 /// A numbered or bulleted list of nine levels (RTF \list). Paragraphs join it by its name, with
@@ -105,33 +107,20 @@ public:
     /// Level 1 to 9. Error 9 for any other.
     std::shared_ptr<ListLevel> Levels(std::int32_t level);
 
-    void CheckNotEmitted() const override {}
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
-
-    using Pairing = std::pair<std::int32_t, std::int32_t>;  // the other list's index, the override number
-
-    std::int32_t Identifier() const noexcept { return index_ + 1; }
-    std::int32_t OwnOverrideNumber() const noexcept { return Identifier(); }
-    /// The number of this list in the look of another one: the same for every paragraph that asks.
-    std::int32_t PairOverrideNumber(std::int32_t otherList);
-    void MarkLevelUsed(std::int32_t level) noexcept;
-    /// More than the first level is in use.
-    bool UsesLevels() const noexcept { return highestLevelUsed_ > 1; }
-    const ListLevel& LevelAt(std::int32_t level) const {
-        return levels_[static_cast<std::size_t>(level - 1)];
-    }
-    const std::vector<Pairing>& Pairings() const noexcept { return pairings_; }
-
 private:
+    friend struct Access;
+
+    struct Parts {
+        std::array<ListLevel, 9> levels;
+    };
+
+    void CheckNotEmitted() const override {}
+
     std::string name_;
-    std::int32_t index_;
-    std::int32_t highestLevelUsed_ = 0;
-    std::array<ListLevel, 9> levels_;
-    std::vector<Pairing> pairings_;  // in the order in which they were made
-    std::unordered_map<std::int32_t, std::int32_t> numberOfPairing_;
+    Parts parts_;
 };
 
 /// The lists of a document, in the order in which they were added.
@@ -146,8 +135,5 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 };
-
-/// "{\*\listtable...}" and "{\*\listoverridetable...}"; nothing without lists.
-void EmitListTable(WritingContext& context, const Lists& lists);
 
 }  // namespace draftwick

@@ -1,22 +1,21 @@
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/ParagraphFormat.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 
 namespace draftwick {
 
-ParagraphFormat::ParagraphFormat(Object& parent) : Part(parent) {
-    values_.widowOrphanControl = Writing().settings.widowOrphanControl;
+ParagraphFormat::ParagraphFormat(Owner owner) : Part(owner) {
+    values_.widowOrphanControl = Session().settings.widowOrphanControl;
 }
 
-std::string ParagraphFormat::NameOfList(std::int32_t list) const {
-    if (list == NoList) return {};
-    return Writing().lists->At(list).Name();
+std::string ParagraphFormat::NameOfList(Ref<Lists> list) const {
+    return list.Name(*Session().collections->lists);
 }
 
-void ParagraphFormat::SetList(std::int32_t& list, std::string_view name) {
+void ParagraphFormat::SetList(Ref<Lists>& list, std::string_view name) {
     OpenForChange();
-    list = name.empty() ? NoList : Writing().lists->IndexOf(name);
+    list.Set(*Session().collections->lists, name);
 }
 
 const Class& ParagraphFormat::Describe() {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <draftwick/model/Object.h>
+#include <draftwick/model/Ref.h>
 
 namespace draftwick {
+
+class Lists;
 
 /// How the lines of a paragraph stand between its indents (RTF \qr, \qc, \qj).
 enum dwParagraphAlign : std::int32_t {
@@ -32,8 +35,8 @@ public:
         Points spaceAfter{0};
         Choice<"ParagraphFormat.LineSpacingStyle", dwSpacingMultiple, dwSpacingExactly> lineSpacingStyle{
             dwSpacingMultiple};
-        Real<240> lineSpacingMultiple{1};
-        Points lineSpacingDistance{0};
+        Real<LinesToParts> lineSpacingMultiple{1};
+        Real<PointsToSignedTwips> lineSpacingDistance{0};
         bool keepIntact = false;
         bool keepWithNext = false;
         bool pageBreakBefore = false;
@@ -42,14 +45,12 @@ public:
         bool widowOrphanControl = true;
         Byte<"ParagraphFormat.OutlineLevel", 0, 9> outlineLevel{0};
         Byte<"ParagraphList.Level", 1, 9> listLevel{1};
-        std::int32_t list = -1;        // the position in the document's lists, or NoList
-        std::int32_t listFormat = -1;  // likewise
+        Ref<Lists> list{};
+        Ref<Lists> listFormat{};
     };
-    /// Where a paragraph belongs to no list.
-    static constexpr std::int32_t NoList = -1;
 
     /// Starts from the defaults and the document's WidowOrphanControl.
-    explicit ParagraphFormat(Object& parent);
+    explicit ParagraphFormat(Owner owner);
 
     /// Default dwAlignLeft.
     dwParagraphAlign Align() const { return values_.align; }
@@ -135,18 +136,13 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-    void CopyFrom(const ParagraphFormat& other) { values_ = other.values_; }
-
 private:
-    std::string NameOfList(std::int32_t list) const;
-    void SetList(std::int32_t& list, std::string_view name);
+    std::string NameOfList(Ref<Lists> list) const;
+    void SetList(Ref<Lists>& list, std::string_view name);
+
+    friend struct Access;
 
     Values values_;
 };
-
-/// \qc\fi360\sb0\sa0\sl240\slmult1\ls1\ilvl0: the words of a paragraph's layout. A list that is written is told
-/// which of its levels is in use.
-void EmitParagraphFormat(WritingContext& context, const ParagraphFormat::Values& format);
 
 }  // namespace draftwick

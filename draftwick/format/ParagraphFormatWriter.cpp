@@ -1,61 +1,65 @@
-#include <draftwick/format/Lists.h>
-#include <draftwick/format/ParagraphFormat.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/format/Writers.h>
 
 namespace draftwick {
 
 namespace {
 
-void WriteIfNotZero(Output& output, std::string_view word, Length length) {
-    if (length.Twips() != 0) output.WriteControlWord(word, length.Twips());
+void WriteIfNotZero(RtfWriter& writer, std::string_view word, Length length) {
+    if (length.Twips() != 0) writer.Word(word, length.Twips());
 }
 
-void WriteLineSpacing(Output& output, const ParagraphFormat::Values& format) {
+void WriteLineSpacing(RtfWriter& writer, const ParagraphFormat::Values& format) {
     switch (format.lineSpacingStyle) {
     case dwSpacingMultiple:
-        output.WriteControlWord("sl", RoundHalfEven(format.lineSpacingMultiple * 240));
-        output.WriteControlWord("slmult", 1);
+        writer.Word("sl", format.lineSpacingMultiple.Written());
+        writer.Word("slmult", 1);
         break;
     case dwSpacingAtLeast:
-        output.WriteControlWord("sl", RoundHalfEven(format.lineSpacingDistance * 20));
-        output.WriteControlWord("slmult", 0);
+        writer.Word("sl", format.lineSpacingDistance.Written());
+        writer.Word("slmult", 0);
         break;
     case dwSpacingExactly:
-        output.WriteControlWord("sl", RoundHalfEven(format.lineSpacingDistance * -20));
-        output.WriteControlWord("smult", 0);  // spelled without an l after exact spacing: it is promised so
+        writer.Word("sl", -format.lineSpacingDistance.Written());
+        writer.Word("smult", 0);  // spelled without an l after exact spacing: it is promised so
         break;
     }
+}
+
+void WriteList(RtfWriter& writer, const ParagraphFormat::Values& format) {
+    const std::int32_t list = format.list.Position();
+    writer.Word("ls", format.listFormat ? writer.lists.OverrideNumber(list, format.listFormat.Position())
+                                        : ListNumbers::OverrideNumber(list));
+    writer.Word("ilvl", format.listLevel - 1);
 }
 
 }  // namespace
 
-void EmitParagraphFormat(WritingContext& context, const ParagraphFormat::Values& format) {
+void NoteLists(ListNumbers& lists, const ParagraphFormat::Values& format) {
+    if (!format.list) return;
+    lists.NoteLevel(format.list.Position(), format.listLevel);
+    if (format.listFormat) lists.NotePairing(format.list.Position(), format.listFormat.Position());
+}
+
+void EmitParagraphFormat(RtfWriter& writer, const ParagraphFormat::Values& format,
+                         const DocumentSettings& settings) {
     static constexpr std::string_view AlignWords[] = {"", "qr", "qc", "qj"};
-    Output& output = context.output;
-    if (format.suppressHyphen) output.WriteControlWord("hyphpar", 0);
-    if (format.keepIntact) output.WriteControlWord("keep");
-    if (format.widowOrphanControl != context.settings.widowOrphanControl) {
-        output.WriteControlWord(format.widowOrphanControl ? "widctlpar" : "nowidctlpar");
+    if (format.suppressHyphen) writer.Word("hyphpar", 0);
+    if (format.keepIntact) writer.Word("keep");
+    if (format.widowOrphanControl != settings.widowOrphanControl) {
+        writer.Word(format.widowOrphanControl ? "widctlpar" : "nowidctlpar");
     }
-    if (format.keepWithNext) output.WriteControlWord("keepn");
-    if (format.noLineNumbering) output.WriteControlWord("noline");
-    if (format.pageBreakBefore) output.WriteControlWord("pagebb");
-    output.WriteWord(AlignWords, format.align);
-    WriteIfNotZero(output, "fi", format.indentFirst);
-    WriteIfNotZero(output, "li", format.indentLeft);
-    WriteIfNotZero(output, "ri", format.indentRight);
-    output.WriteControlWord("sb", RoundDown(format.spaceBefore * 20));
-    output.WriteControlWord("sa", RoundDown(format.spaceAfter * 20));
-    WriteLineSpacing(output, format);
-    if (format.outlineLevel != 0) output.WriteControlWord("outlinelevel", format.outlineLevel - 1);
-    if (format.list != ParagraphFormat::NoList) {
-        List& list = context.lists->At(format.list);
-        output.WriteControlWord("ls", format.listFormat == ParagraphFormat::NoList
-                                          ? list.OwnOverrideNumber()
-                                          : list.PairOverrideNumber(format.listFormat));
-        output.WriteControlWord("ilvl", format.listLevel - 1);
-        list.MarkLevelUsed(format.listLevel);
-    }
+    if (format.keepWithNext) writer.Word("keepn");
+    if (format.noLineNumbering) writer.Word("noline");
+    if (format.pageBreakBefore) writer.Word("pagebb");
+    writer.Word(AlignWords, format.align);
+    WriteIfNotZero(writer, "fi", format.indentFirst);
+    WriteIfNotZero(writer, "li", format.indentLeft);
+    WriteIfNotZero(writer, "ri", format.indentRight);
+    writer.Word("sb", format.spaceBefore.Written());
+    writer.Word("sa", format.spaceAfter.Written());
+    WriteLineSpacing(writer, format);
+    if (format.outlineLevel != 0) writer.Word("outlinelevel", format.outlineLevel - 1);
+    if (format.list) WriteList(writer, format);
 }
 
 }  // namespace draftwick

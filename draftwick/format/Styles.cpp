@@ -1,58 +1,61 @@
 #include <draftwick/format/Styles.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Access.h>
+#include <draftwick/model/Session.h>
 
 namespace draftwick {
 
 ParagraphStyle::ParagraphStyle(const Origin& origin, std::string name, std::int32_t index)
-    : Style(origin, std::move(name), index), format_(*this), fontFormat_(*this), borders_(*this),
-      background_(*this), tabStops_(*this) {}
+    : Style(origin, std::move(name), index), parts_{.format = ParagraphFormat(AsOwner()),
+                                                    .fontFormat = draftwick::FontFormat(AsOwner()),
+                                                    .borders = ParagraphBorders(AsOwner()),
+                                                    .background = draftwick::Background(AsOwner()),
+                                                    .tabStops = draftwick::TabStops(AsOwner())} {}
 
-std::string ParagraphStyle::NameOf(std::int32_t style) const {
-    return style == NoStyle ? std::string{} : Writing().paragraphStyles->At(style).Name();
+std::string ParagraphStyle::BasedOn() const {
+    return values_.basedOn.Name(*Session().collections->paragraphStyles);
 }
 
 void ParagraphStyle::SetBasedOn(std::string_view name) {
     OpenForChange();
-    if (name.empty()) {
-        basedOn_ = NoStyle;
-        return;
+    const ParagraphStyles& styles = *Session().collections->paragraphStyles;
+    Ref<ParagraphStyles> basedOn;
+    basedOn.Set(styles, name);
+    if (basedOn) {
+        const Parts& base = basedOn.In(styles).parts_;
+        parts_.tabStops.CopyFrom(base.tabStops);
+        parts_.borders.CopyFrom(base.borders);
+        CopyValues(parts_.background, base.background);
+        CopyValues(parts_.fontFormat, base.fontFormat);
+        CopyValues(parts_.format, base.format);
     }
-    const ParagraphStyles& styles = *Writing().paragraphStyles;
-    const std::int32_t index = styles.IndexOf(name);
-    const ParagraphStyle& base = styles.At(index);
-    tabStops_.CopyFrom(base.tabStops_);
-    borders_.CopyFrom(base.borders_);
-    background_.CopyFrom(base.background_);
-    fontFormat_.CopyFrom(base.fontFormat_);
-    format_.CopyFrom(base.format_);
-    basedOn_ = index;
+    values_.basedOn = basedOn;
+}
+
+std::string ParagraphStyle::NextStyle() const {
+    return values_.nextStyle.Name(*Session().collections->paragraphStyles);
 }
 
 void ParagraphStyle::SetNextStyle(std::string_view name) {
     OpenForChange();
-    nextStyle_ = name.empty() ? NoStyle : Writing().paragraphStyles->IndexOf(name);
+    values_.nextStyle.Set(*Session().collections->paragraphStyles, name);
 }
 
 TextStyle::TextStyle(const Origin& origin, std::string name, std::int32_t index)
-    : Style(origin, std::move(name), index), fontFormat_(*this), border_(*this), background_(*this) {}
+    : Style(origin, std::move(name), index), parts_{.fontFormat = draftwick::FontFormat(AsOwner()),
+                                                    .border = TextBorder(AsOwner()),
+                                                    .background = draftwick::Background(AsOwner())} {}
 
-std::string TextStyle::BasedOn() const {
-    return basedOn_ == NoStyle ? std::string{} : Writing().textStyles->At(basedOn_).Name();
-}
+std::string TextStyle::BasedOn() const { return values_.basedOn.Name(*Session().collections->textStyles); }
 
 void TextStyle::SetBasedOn(std::string_view name) {
     OpenForChange();
-    if (name.empty()) {
-        basedOn_ = NoStyle;
-        return;
-    }
-    const TextStyles& styles = *Writing().textStyles;
-    const std::int32_t index = styles.IndexOf(name);
-    const TextStyle& base = styles.At(index);
-    background_.CopyFrom(base.background_);
-    border_.CopyFrom(base.border_);
-    fontFormat_.CopyFrom(base.fontFormat_);
-    basedOn_ = index;
+    const TextStyles& styles = *Session().collections->textStyles;
+    values_.basedOn.Set(styles, name);
+    if (!values_.basedOn) return;
+    const Parts& base = values_.basedOn.In(styles).parts_;
+    CopyValues(parts_.background, base.background);
+    CopyValues(parts_.border, base.border);
+    CopyValues(parts_.fontFormat, base.fontFormat);
 }
 
 const Class& ParagraphStyle::Describe() {

@@ -6,8 +6,12 @@
 #include <draftwick/format/ParagraphFormat.h>
 #include <draftwick/format/TabStops.h>
 #include <draftwick/model/Collection.h>
+#include <draftwick/model/Ref.h>
 
 namespace draftwick {
+
+class ParagraphStyles;
+class TextStyles;
 
 /// What both kinds of style have: a name and a number. Their parent is the document. Setters refuse once that is
 /// emitted ("Document"), and so do the setters of a style's parts.
@@ -21,9 +25,6 @@ public:
 
     /// The position among the styles of its kind, from 0.
     std::int32_t StyleIndex() const noexcept { return index_; }
-
-    /// The index of no style.
-    static constexpr std::int32_t NoStyle = -1;
 
 private:
     std::string name_;
@@ -39,45 +40,42 @@ public:
     /// everything that the other style has now over what was set here; only borders on sides that the other does
     /// not have stay. Later changes to the other are not followed. An empty name copies nothing. dwErrItemNotFound
     /// when there is no such style.
-    std::string BasedOn() const { return NameOf(basedOn_); }
+    std::string BasedOn() const;
     void SetBasedOn(std::string_view name);
 
     /// The paragraph style that an editor gives to the paragraph after one of this style (RTF \snext); empty
     /// (default) for the same. dwErrItemNotFound when there is no such style.
-    std::string NextStyle() const { return NameOf(nextStyle_); }
+    std::string NextStyle() const;
     void SetNextStyle(std::string_view name);
 
     /// What paragraphs of the style get: layout, look of the text, lines around, what stands behind.
-    std::shared_ptr<ParagraphFormat> Format() { return Share(format_); }
-    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
-    std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_); }
-    std::shared_ptr<draftwick::Background> Background() { return Share(background_); }
+    std::shared_ptr<ParagraphFormat> Format() { return Share(parts_.format); }
+    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(parts_.fontFormat); }
+    std::shared_ptr<ParagraphBorders> Borders() { return Share(parts_.borders); }
+    std::shared_ptr<draftwick::Background> Background() { return Share(parts_.background); }
     /// Copied to paragraphs with the style, but not written in the stylesheet.
-    std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_); }
+    std::shared_ptr<draftwick::TabStops> TabStops() { return Share(parts_.tabStops); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
-
-    std::int32_t BasedOnIndex() const noexcept { return basedOn_; }
-    std::int32_t NextStyleIndex() const noexcept { return nextStyle_; }
-    const ParagraphFormat& StoredFormat() const noexcept { return format_; }
-    const draftwick::FontFormat& StoredFontFormat() const noexcept { return fontFormat_; }
-    const ParagraphBorders& StoredBorders() const noexcept { return borders_; }
-    const draftwick::Background& StoredBackground() const noexcept { return background_; }
-    const draftwick::TabStops& StoredTabStops() const noexcept { return tabStops_; }
-
 private:
-    std::string NameOf(std::int32_t style) const;
+    friend struct Access;
 
-    std::int32_t basedOn_ = NoStyle;
-    std::int32_t nextStyle_ = NoStyle;
-    ParagraphFormat format_;
-    draftwick::FontFormat fontFormat_;
-    ParagraphBorders borders_;
-    draftwick::Background background_;
-    draftwick::TabStops tabStops_;
+    struct Values {
+        Ref<ParagraphStyles> basedOn;
+        Ref<ParagraphStyles> nextStyle;
+    };
+    struct Parts {
+        ParagraphFormat format;
+        draftwick::FontFormat fontFormat;
+        ParagraphBorders borders;
+        draftwick::Background background;
+        draftwick::TabStops tabStops;
+    };
+
+    Values values_;
+    Parts parts_;
 };
 
 /// A named look of runs of text (RTF \cs). Runs only name it, with Run::SetStyleName: the reader applies it.
@@ -90,25 +88,27 @@ public:
     void SetBasedOn(std::string_view name);
 
     /// What runs of the style look like: the text, the line around it, what stands behind.
-    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_); }
-    std::shared_ptr<TextBorder> Border() { return Share(border_); }
-    std::shared_ptr<draftwick::Background> Background() { return Share(background_); }
+    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(parts_.fontFormat); }
+    std::shared_ptr<TextBorder> Border() { return Share(parts_.border); }
+    std::shared_ptr<draftwick::Background> Background() { return Share(parts_.background); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
-
-    std::int32_t BasedOnIndex() const noexcept { return basedOn_; }
-    const draftwick::FontFormat& StoredFontFormat() const noexcept { return fontFormat_; }
-    const TextBorder& StoredBorder() const noexcept { return border_; }
-    const draftwick::Background& StoredBackground() const noexcept { return background_; }
-
 private:
-    std::int32_t basedOn_ = NoStyle;
-    draftwick::FontFormat fontFormat_;
-    TextBorder border_;
-    draftwick::Background background_;
+    friend struct Access;
+
+    struct Values {
+        Ref<TextStyles> basedOn;
+    };
+    struct Parts {
+        draftwick::FontFormat fontFormat;
+        TextBorder border;
+        draftwick::Background background;
+    };
+
+    Values values_;
+    Parts parts_;
 };
 
 /// The paragraph styles of a document.
@@ -141,12 +141,5 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 };
-
-/// The number of a text style in the file: text styles are numbered after the paragraph styles.
-std::int32_t TextStyleNumber(const WritingContext& context, std::int32_t index);
-
-/// "{\stylesheet{\s0\sbasedon222...Heading;}}"; nothing without styles.
-void EmitStylesheet(WritingContext& context, const ParagraphStyles& paragraphStyles,
-                    const TextStyles& textStyles);
 
 }  // namespace draftwick

@@ -1,5 +1,5 @@
 #include <draftwick/format/TabStops.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Access.h>
 
 namespace draftwick {
 
@@ -29,28 +29,12 @@ std::shared_ptr<TabStop> TabStops::Items(std::int32_t index) const {
 void TabStops::CopyFrom(const TabStops& other) {
     std::vector<std::shared_ptr<TabStop>> copies;
     copies.reserve(other.stops_.size());
-    for (const auto& stop : other.stops_) copies.push_back(MakeStop(stop->Stored()));
+    for (const auto& stop : other.stops_) copies.push_back(MakeStop(ValuesOf(*stop)));
     stops_ = std::move(copies);
 }
 
 std::shared_ptr<TabStop> TabStops::MakeStop(const TabStop::Values& values) {
     return std::make_shared<TabStop>(OriginOfChild(), values);
-}
-
-void EmitTabStops(WritingContext& context, const TabStops& tabStops) {
-    static constexpr std::string_view AlignWords[] = {"", "tqr", "tqc", "tqdec"};
-    static constexpr std::string_view LeaderWords[] = {"", "tldot", "tlhyph", "tlul"};
-    Output& output = context.output;
-    for (const auto& stop : tabStops) {
-        const TabStop::Values& values = stop->Stored();
-        if (values.align == dwTabBar) {
-            output.WriteControlWord("tb", values.position.Twips());
-        } else {
-            output.WriteWord(AlignWords, values.align);
-            output.WriteWord(LeaderWords, values.leader);
-            output.WriteControlWord("tx", values.position.Twips());
-        }
-    }
 }
 
 const Class& TabStop::Describe() {

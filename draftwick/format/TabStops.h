@@ -40,9 +40,9 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
 
@@ -71,21 +71,19 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
+private:
+    friend class CollectionIterator<const TabStops>;
+    friend class Paragraph;
+    friend class ParagraphStyle;
 
     std::shared_ptr<TabStop> ItemAt(std::int32_t index) const {
         return stops_[static_cast<std::size_t>(index - 1)];
     }
     /// Replaces all tab stops.
     void CopyFrom(const TabStops& other);
-
-private:
     std::shared_ptr<TabStop> MakeStop(const TabStop::Values& values);
 
     std::vector<std::shared_ptr<TabStop>> stops_;
 };
-
-/// \tqr\tldot\tx4320 for each tab stop.
-void EmitTabStops(WritingContext& context, const TabStops& tabStops);
 
 }  // namespace draftwick

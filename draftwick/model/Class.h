@@ -247,8 +247,8 @@ inline Rule RuleOfField(const Rounded& field) {
 inline Rule RuleOfField(const Length& field) {
     return {.kind = Kind::Length, .bits = 16, .initial = static_cast<double>(field.Twips())};
 }
-template <std::int32_t Factor, std::int32_t Divisor>
-Rule RuleOfField(const Real<Factor, Divisor>& field) {
+template <auto ToFile>
+Rule RuleOfField(const Real<ToFile>& field) {
     return {.kind = Kind::Real, .initial = static_cast<double>(field)};
 }
 inline Rule RuleOfField(const FixedPoint& field) {

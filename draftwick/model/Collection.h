@@ -90,8 +90,7 @@ protected:
         std::string spelling = ToValidUtf8(name);
         std::string key = FoldCase(spelling);
         if (positions_.contains(key)) RaiseRuntimeError(dwRunDuplicateKey, spelling);
-        auto item =
-            std::make_shared<Item>(Origin{SharedContext(), NoRef(Parent())}, std::move(spelling), Count());
+        auto item = std::make_shared<Item>(OriginOfSibling(), std::move(spelling), Count());
         items_.push_back(item);
         try {
             positions_.emplace(std::move(key), items_.size() - 1);

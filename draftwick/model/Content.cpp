@@ -1,8 +1,10 @@
 #include <draftwick/model/Class.h>
 #include <draftwick/model/Content.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 
 namespace draftwick {
+
+RtfWriter& Content::Writer() const { return Session().writer; }
 
 void Content::CheckNotEmitted() const {
     if (emitted_) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
@@ -33,12 +35,12 @@ void Content::CloseCurrentChild() {
 }
 
 void Content::PrepareAdd() {
-    WritingContext& context = Writing();
+    RtfWriter& writer = Writer();
     CheckNotFinished();
     if (depth_ == MaxDepth) RaiseRuntimeError(dwRunOutOfStackSpace, "the objects lie too deep in each other");
     Emit();
     CloseCurrentChild();
-    context.output.Checkpoint();
+    writer.output.Checkpoint();
 }
 
 }  // namespace draftwick

@@ -7,6 +7,8 @@
 
 namespace draftwick {
 
+class RtfWriter;
+
 /// The life of everything that is written where it was added: open, emitted, finished.
 ///
 /// Adding a child to a container first writes the container's own start, then finishes the child before, so the
@@ -25,10 +27,11 @@ public:
     /// Whether the object is closed. It takes no more children.
     bool Finished() const noexcept { return finished_; }
 
+protected:
     /// dwErrTargetEmitted with the class's name once the object is emitted.
     void CheckNotEmitted() const override;
-
-protected:
+    /// Where the object is written. Error 91 when the document is gone.
+    RtfWriter& Writer() const;
     /// Writes the object's own start. Judges everything that can fail before the first byte.
     virtual void WriteStart() = 0;
     /// Writes what ends the object, after its last child.
@@ -42,15 +45,9 @@ protected:
     /// dwErrTargetEmitted with the class's name once the object is finished.
     void CheckNotFinished() const;
 
-    /// What the object was added to. For an object that is not finished, in a document that is not gone: then the
-    /// slot of its kind keeps it, and all around it.
-    template <class Type>
-    Type& Holder() const noexcept {
-        return static_cast<Type&>(*holder_);
-    }
-
-    /// Every Add method: refuses once finished and beyond MaxDepth, writes the start, finishes the child before, creates the child and
-    /// keeps it in the slot of its kind. A failure of the file is reported here, before there is a new child.
+    /// Every Add method: refuses once finished and beyond MaxDepth, writes the start, finishes the child before, creates
+    /// the child and keeps it in the slot of its kind. A failure of the file is reported here, before there is a new
+    /// child.
     template <class Child, class... Arguments>
     std::shared_ptr<Child> Add(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
         PrepareAdd();
@@ -62,6 +59,9 @@ protected:
     }
 
 private:
+    template <class HolderType, class Base>
+    friend class HeldBy;
+
     void PrepareAdd();
 
     Content* holder_ = nullptr;
@@ -69,6 +69,18 @@ private:
     int depth_ = 0;
     bool emitted_ = false;
     bool finished_ = false;
+};
+
+/// Content that is only ever added to one kind of object.
+template <class HolderType, class Base = Content>
+class HeldBy : public Base {
+public:
+    using Base::Base;
+
+protected:
+    /// What the object was added to. For an object that is not finished, in a document that is not gone: then the
+    /// slot of its kind keeps it, and all around it.
+    HolderType& Holder() const noexcept { return static_cast<HolderType&>(*this->holder_); }
 };
 
 }  // namespace draftwick

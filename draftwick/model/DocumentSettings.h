@@ -1,10 +1,13 @@
 #pragma once
 
+#include <draftwick/model/Ref.h>
 #include <draftwick/model/Rules.h>
 
 #include <string>
 
 namespace draftwick {
+
+class Fonts;
 
 /// Which side of the paper is up.
 enum dwOrientation : std::int32_t { dwPortrait = 1, dwLandscape = 2 };
@@ -58,6 +61,7 @@ struct DocumentSettings {
     PageSetup page;
     Choice<"Document.Format.Orientation", dwPortrait, dwLandscape> orientation{dwPortrait};
     std::string caption;
+    Ref<Fonts> defaultFont;
     bool pageBorderAroundHeader = true;
     bool pageBorderAroundFooter = true;
     bool facingPage = false;

@@ -1,6 +1,6 @@
 #include <draftwick/model/Class.h>
 #include <draftwick/model/Object.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/model/Session.h>
 #include <draftwick/text/Utf8.h>
 
 namespace draftwick {
@@ -13,23 +13,23 @@ NoRef::NoRef(const Node& object)
     : object_(const_cast<Node&>(object).weak_from_this()), class_(&object.Description()) {}
 
 std::shared_ptr<Object> Object::DocumentObject() const {
-    return context_ == nullptr ? nullptr : context_->documentLink.lock();
+    return session_ == nullptr ? nullptr : session_->documentLink.lock();
 }
 
 std::shared_ptr<draftwick::Document> Object::Document() const {
     const std::shared_ptr<Object> link = DocumentObject();
-    return link == nullptr ? nullptr : std::shared_ptr<draftwick::Document>(link, context_->document);
+    return link == nullptr ? nullptr : std::shared_ptr<draftwick::Document>(link, session_->document);
 }
 
-WritingContext& Object::Writing() const {
-    if (context_ == nullptr || context_->document == nullptr) RaiseRuntimeError(dwRunObjectGone);
-    return *context_;
+draftwick::Session& Object::Session() const {
+    if (session_ == nullptr || session_->document == nullptr) RaiseRuntimeError(dwRunObjectGone);
+    return *session_;
 }
 
 dwScaleMode Object::OpenForChange() const {
-    const WritingContext& context = Writing();
+    const auto& session = Session();
     CheckNotEmitted();
-    return context.settings.scaleMode;
+    return session.settings.scaleMode;
 }
 
 void Object::Change(std::string& field, std::string_view value) {
@@ -37,12 +37,12 @@ void Object::Change(std::string& field, std::string_view value) {
     field = ToValidUtf8(value);
 }
 
-double Object::Read(Length length) const { return FromTwips(length.Twips(), Writing().settings.scaleMode); }
+double Object::Read(Length length) const { return FromTwips(length.Twips(), Session().settings.scaleMode); }
 
 std::shared_ptr<Object> Node::RequireParent() const {
     std::shared_ptr<Object> parent = Parent();
     if (parent == nullptr) {
-        Writing();
+        Session();
         RaiseError(dwErrTargetEmitted, {std::string{parent_.ClassOf()->name}});
     }
     return parent;
@@ -53,10 +53,10 @@ void Node::CheckNotEmitted() const { RequireParent()->CheckNotEmitted(); }
 /// Empty for an object that is not held by any shared pointer.
 std::shared_ptr<Object> Node::Self() const { return const_cast<Node*>(this)->weak_from_this().lock(); }
 
-std::shared_ptr<Object> Part::Self() const { return {parent_->Self(), const_cast<Part*>(this)}; }
+std::shared_ptr<Object> Part::Self() const { return {whole_->Self(), const_cast<Part*>(this)}; }
 
-const std::shared_ptr<WritingContext>& Part::SharedContext() const noexcept {
-    return parent_->SharedContext();
+const std::shared_ptr<draftwick::Session>& Part::SharedSession() const noexcept {
+    return whole_->SharedSession();
 }
 
 }  // namespace draftwick

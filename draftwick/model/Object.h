@@ -12,10 +12,11 @@
 
 namespace draftwick {
 
+struct Access;
 struct Class;
 class Document;
 class Node;
-class WritingContext;
+class Session;
 
 /// A link to an object that it does not own: it stores the identity and gives a new owning reference on request,
 /// or nothing once the object is gone.
@@ -35,15 +36,33 @@ private:
     const Class* class_ = nullptr;
 };
 
-/// What a new object is told at its creation. Only the library makes one, for the length of that call.
-struct Origin {
-    const std::shared_ptr<WritingContext>& context;
-    NoRef parent{};
+/// What a new object of its own is told at its creation. Only the library makes one, for the length of that call.
+class Origin {
+    friend class Document;
+    friend class Node;
+    friend class Part;
+
+    explicit Origin(const std::shared_ptr<Session>& session, NoRef parent = {})
+        : session_(session), parent_(std::move(parent)) {}
+
+    const std::shared_ptr<Session>& session_;
+    NoRef parent_;
+};
+
+/// What a new part of an object is told at its creation. Only an object makes one.
+class Owner {
+    friend class Object;
+    friend class Part;
+
+    explicit Owner(Object& object) noexcept : object_(object) {}
+
+    Object& object_;
 };
 
 /// Everything in the object model. A host holds objects by std::shared_ptr; nothing it holds dangles, and nothing
-/// it holds keeps the document alive. An object whose document is gone can still be read where no unit of length
-/// is involved; everything else is refused with error 91.
+/// it holds keeps the document alive. An object whose document is gone can still be read where neither a unit of
+/// length nor a name in the document's collections (of a font, style or list) is involved; everything else is refused
+/// with error 91.
 class DRAFTWICK_API Object {
 public:
     Object(const Object&) = delete;
@@ -57,25 +76,25 @@ public:
     /// The document as a generic object.
     std::shared_ptr<Object> DocumentObject() const;
 
+    /// An owning reference to this object.
+    virtual std::shared_ptr<Object> Self() const = 0;
+
     /// The class's run-time description: its members by name.
     virtual const Class& Description() const = 0;
 
-    // The rest is for the library.
+protected:
+    /// The session is null for an object that needs no document; a Node keeps it.
+    explicit Object(draftwick::Session* session) noexcept : session_(session) {}
 
     /// Raises dwErrTargetEmitted once the object is written and can no longer change.
     virtual void CheckNotEmitted() const = 0;
-    /// An owning reference to this object.
-    virtual std::shared_ptr<Object> Self() const = 0;
     /// What the objects of one document share. Error 91 when the document is gone.
-    WritingContext& Writing() const;
-
-protected:
-    /// The context is null for an object that needs no document; somebody else keeps it.
-    explicit Object(WritingContext* context) noexcept : context_(context) {}
-
-    virtual const std::shared_ptr<WritingContext>& SharedContext() const noexcept = 0;
+    draftwick::Session& Session() const;
+    virtual const std::shared_ptr<draftwick::Session>& SharedSession() const noexcept = 0;
     /// What a new object that belongs to this one is told.
     virtual Origin OriginOfChild() const = 0;
+    /// What a new part of this object is told.
+    Owner AsOwner() noexcept { return Owner(*this); }
 
     /// Every setter: refuses once written, checks the rule of the field, converts and stores.
     template <class Field, class Value>
@@ -104,51 +123,61 @@ protected:
     }
 
 private:
+    friend struct Access;
+    friend class Node;
     friend class Part;
 
-    WritingContext* context_;
+    draftwick::Session* session_;
 };
 
 /// An object of its own: it lives as long as somebody holds it.
 class DRAFTWICK_API Node : public Object, public std::enable_shared_from_this<Object> {
 public:
     explicit Node(const Origin& origin)
-        : Object(origin.context.get()), parent_(origin.parent), context_(origin.context) {}
+        : Object(origin.session_.get()), parent_(origin.parent_), keptSession_(origin.session_) {}
 
     std::shared_ptr<Object> Parent() const override { return parent_.Resolve(); }
-    /// Refused when the parent refuses, and when the parent is gone.
-    void CheckNotEmitted() const override;
     std::shared_ptr<Object> Self() const override;
 
 protected:
+    /// An object that needs no document.
+    Node() : Object(nullptr) {}
+
+    /// Refused when the parent refuses, and when the parent is gone.
+    void CheckNotEmitted() const override;
     /// The parent. When it is gone: error 91 if the document is gone too, else dwErrTargetEmitted with the name of
     /// the parent's class.
     std::shared_ptr<Object> RequireParent() const;
-    const std::shared_ptr<WritingContext>& SharedContext() const noexcept override { return context_; }
-    Origin OriginOfChild() const override { return {context_, NoRef(*this)}; }
+    const std::shared_ptr<draftwick::Session>& SharedSession() const noexcept override {
+        return keptSession_;
+    }
+    Origin OriginOfChild() const override { return Origin(keptSession_, NoRef(*this)); }
+    /// What an object is told that belongs to the same parent: a font belongs to the document.
+    Origin OriginOfSibling() const { return Origin(keptSession_, parent_); }
 
 private:
     NoRef parent_;
-    std::shared_ptr<WritingContext> context_;
+    std::shared_ptr<draftwick::Session> keptSession_;
 };
 
 /// A part of another object: whoever holds it keeps the whole alive. It refuses when the whole refuses.
 class DRAFTWICK_API Part : public Object {
 public:
-    explicit Part(Object& parent) : Object(parent.context_), parent_(&parent) {}
+    explicit Part(Owner owner) : Object(owner.object_.session_), whole_(&owner.object_) {}
 
-    std::shared_ptr<Object> Parent() const override { return parent_->Self(); }
-    void CheckNotEmitted() const override { parent_->CheckNotEmitted(); }
+    std::shared_ptr<Object> Parent() const override { return whole_->Self(); }
     std::shared_ptr<Object> Self() const override;
 
 protected:
-    const std::shared_ptr<WritingContext>& SharedContext() const noexcept override;
+    void CheckNotEmitted() const override { whole_->CheckNotEmitted(); }
+    const std::shared_ptr<draftwick::Session>& SharedSession() const noexcept override;
     /// An object in a collection belongs to the collection's owner.
-    Origin OriginOfChild() const override { return {SharedContext(), NoRef(Parent())}; }
-    Object& Whole() const noexcept { return *parent_; }
+    Origin OriginOfChild() const override { return Origin(SharedSession(), NoRef(Parent())); }
+    /// What the parts in a collection of parts are told: they belong to the collection's owner.
+    Owner WholeAsOwner() const noexcept { return Owner(*whole_); }
 
 private:
-    Object* parent_;
+    Object* whole_;
 };
 
 /// A part that is created when it is first read, in place. Whether it exists can matter: a writer uses an object's own

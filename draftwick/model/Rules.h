@@ -4,7 +4,6 @@
 #include <draftwick/base/Units.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -94,18 +93,20 @@ private:
     std::int16_t twips_;
 };
 
-/// A real number that is stored as given and written as a whole number, or in shape properties as text, after
-/// multiplication with Factor / Divisor. Error 6 when it is not finite or the product does not fit 32 bits, with
-/// either sign: some products are written negated.
-template <std::int32_t Factor, std::int32_t Divisor = 1>
+/// A real number that is stored as given and written in another unit, by the function that is the argument. That
+/// function refuses with error 6 what is not finite or does not fit 32 bits in the file, so nothing is written that was
+/// not judged.
+template <auto ToFile>
 class Real {
 public:
     constexpr Real(double value) noexcept : value_(value) {}
     constexpr operator double() const noexcept { return value_; }
     void Set(double value) {
-        RoundHalfEven(std::abs(value * Factor / Divisor));  // then rounding down fits, too
+        ToFile(value);
         value_ = value;
     }
+    /// The number that the file has.
+    auto Written() const { return ToFile(value_); }
 
 private:
     double value_;
@@ -122,7 +123,7 @@ private:
     std::int32_t parts_;
 };
 
-/// Points that are written in twips.
-using Points = Real<20>;
+/// Points that are written in twips, rounded down.
+using Points = Real<PointsToTwips>;
 
 }  // namespace draftwick

@@ -6,8 +6,6 @@
 
 namespace draftwick {
 
-class Output;
-
 /// The colours of a document: a colour's index is its place in the order of first use. There is no reserved first
 /// entry: index 0 is the first colour used. All 32 bits tell colours apart; red, green and blue, from the lowest
 /// byte up, are written.
@@ -16,8 +14,8 @@ public:
     /// The index of the colour, which is registered if it is new.
     std::int32_t GetColorIndex(std::int32_t color);
 
-    /// "{\colortbl\red0\green0\blue0;}"; nothing while no colour was used.
-    void EmitColorTable(Output& output) const;
+    /// All colours, each once, in the order of first use.
+    const std::vector<std::int32_t>& InOrder() const noexcept { return colors_; }
 
 private:
     std::vector<std::int32_t> colors_;

@@ -12,6 +12,7 @@ struct RowState {
 
 /// Where the writers of paragraphs, rows and shapes stand in the document.
 struct LayoutState {
+    bool FirstSection = true;                ///< no section is written yet
     bool SuppressNextParagraphMark = false;  ///< the next paragraph is not preceded by \par
     bool TableEndsSection = false;           ///< a row came last: the end of the section needs a \par
     RowState row;

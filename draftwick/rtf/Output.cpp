@@ -11,11 +11,6 @@ namespace draftwick {
 
 BlockWriter* Output::SetStream(BlockWriter* stream) noexcept { return std::exchange(stream_, stream); }
 
-void Output::WriteWord(const WordList& words, std::int32_t value) {
-    const std::string_view word = words[value];
-    if (!word.empty()) WriteControlWord(word);
-}
-
 void Output::WriteText(std::string_view text) {
     if (afterControlWord_) line_[length_++] = ' ';
     AppendEncoded(text);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <draftwick/rtf/BlockWriter.h>
-#include <draftwick/rtf/Words.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -31,10 +30,6 @@ public:
         BeginControlWord(word);
         AppendNumber(number);
     }
-    /// "\word" with 1 or 0.
-    void WriteFlag(std::string_view word, bool flag) { WriteControlWord(word, flag ? 1 : 0); }
-    /// The word of an enumeration value; nothing when it has none.
-    void WriteWord(const WordList& words, std::int32_t value);
     /// UTF-8 text that is already escaped, after one space if a control word comes before it.
     void WriteText(std::string_view text);
     void WriteGroupStart() { WriteBrace('{'); }

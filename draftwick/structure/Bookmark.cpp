@@ -1,21 +1,14 @@
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Bookmark.h>
+#include <draftwick/structure/Writers.h>
 #include <draftwick/text/Utf8.h>
 
 namespace draftwick {
 
 Bookmark::Bookmark(const Origin& origin, std::string_view name, bool isStart)
-    : Content(origin), values_{.name = ToValidUtf8(name), .isStart = isStart} {}
+    : HeldBy(origin), values_{.name = ToValidUtf8(name), .isStart = isStart} {}
 
-/// "{\*\bkmkstart Total}"
-void Bookmark::WriteStart() {
-    Output& output = Writing().output;
-    output.WriteDestinationStart();
-    output.WriteControlWord(values_.isStart ? "bkmkstart" : "bkmkend");
-    output.WriteText(values_.name);
-    output.WriteGroupEnd();
-}
+void Bookmark::WriteStart() { EmitBookmark(Writer(), values_); }
 
 const Class& Bookmark::Describe() {
     using B = Bookmark;

@@ -7,10 +7,12 @@
 
 namespace draftwick {
 
+class Paragraph;
+
 /// One end of a named part of the text (RTF \bkmkstart, \bkmkend). Two bookmarks of the same name, a start and an
 /// end, make one; nothing checks that they do. Refuses changes once it is written, which is when its paragraph gets
 /// its next child or is closed ("Bookmark").
-class DRAFTWICK_API Bookmark final : public Content {
+class DRAFTWICK_API Bookmark final : public HeldBy<Paragraph> {
 public:
     struct Values {
         std::string name;
@@ -34,6 +36,8 @@ protected:
     void WriteStart() override;
 
 private:
+    friend struct Access;
+
     Values values_;
 };
 

@@ -1,33 +1,15 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Table.h>
-#include <draftwick/structure/TableWriter.h>
+#include <draftwick/structure/Writers.h>
 
 namespace draftwick {
 
-void Cell::WriteStart() { EmitCellDefinition(Writing(), values_, background_.Find(), borders_.Find()); }
-
-void Cell::WriteEnd() {
-    Output& output = Writing().output;
-    if (CurrentParagraph() == nullptr) output.WriteControlWord("intbl");
-    output.WriteControlWord("cell");
-}
-
-/// \intbl before each paragraph, \par between two of them; \cell ends the last.
-void Cell::WriteParagraphMark() {
-    WritingContext& context = Writing();
-    context.output.WriteControlWord("intbl");
-    if (!context.layout.row.AtCellStart) context.output.WriteControlWord("par");
-    context.layout.row.AtCellStart = false;
-}
-
-/// \pard takes a paragraph out of its row. A row has no words for its frame: its paragraphs have them.
-void Cell::WriteParagraphPlace(const Frame*) {
-    Writing().output.WriteControlWord("intbl");
-    if (const Frame* frame = Holder<Table>().OwnFrame()) EmitFrame(Writing(), frame->Stored());
-}
+void Cell::WriteStart() { EmitCellDefinition(Writer(), values_, background_.Find(), borders_.Find()); }
+void Cell::WriteEnd() { EmitCellEnd(Writer(), CurrentParagraph() == nullptr); }
+void Cell::WriteParagraphMark() { EmitCellParagraphMark(Writer()); }
+void Cell::WriteParagraphPlace(const Frame*) { EmitCellParagraphPlace(Writer(), Holder().frame_.Find()); }
 
 const Class& Cell::Describe() {
     using C = Cell;

@@ -22,7 +22,7 @@ enum dwCellOrientation : std::int32_t { dwReadNormal = 1, dwReadRight = 2, dwRea
 
 /// A cell of a row (RTF \cellx). Its settings are written when its first paragraph is added; from then on setters
 /// refuse ("Cell"). A cell without a paragraph is an empty cell.
-class DRAFTWICK_API Cell final : public Container {
+class DRAFTWICK_API Cell final : public HeldBy<Table, Container> {
 public:
     struct Values {
         Choice<"Cell.Merge", dwMergeNone, dwMergeVertical> merge{dwMergeNone};
@@ -32,7 +32,7 @@ public:
         Length width{1440};
     };
 
-    using Container::Container;
+    using HeldBy::HeldBy;
 
     /// Default dwMergeNone.
     dwCellMerge Merge() const { return values_.merge; }
@@ -53,23 +53,22 @@ public:
     void SetWidth(double length) { Change(values_.width, length); }
 
     /// What stands behind the cell, and the lines around it. Each is there from its first use on.
-    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(*this)); }
-    std::shared_ptr<CellBorders> Borders() { return Share(borders_.Get(*this)); }
+    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(AsOwner())); }
+    std::shared_ptr<CellBorders> Borders() { return Share(borders_.Get(AsOwner())); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
-
+protected:
     void WriteParagraphMark() override;
     void WriteParagraphPlace(const Frame* frame) override;
     bool StandsInCell() const override { return true; }
-
-protected:
     void WriteStart() override;
     void WriteEnd() override;
 
 private:
+    friend struct Access;
+
     Values values_;
     Lazy<draftwick::Background> background_;
     Lazy<CellBorders> borders_;

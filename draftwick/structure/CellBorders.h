@@ -22,7 +22,7 @@ struct DRAFTWICK_API CellBorderValues {
 /// to even, unlike that of a row's border: 0.5 is 0 and 0.75 is 1. Refuses once the cell is written ("Cell").
 class DRAFTWICK_API CellBorder final : public Border<CellBorderValues> {
 public:
-    CellBorder(Object& cell, dwCellBorder) : Border(cell) {}
+    CellBorder(Owner owner, dwCellBorder) : Border(owner) {}
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

@@ -1,5 +1,4 @@
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Columns.h>
 
 #include <limits>
@@ -52,24 +51,6 @@ void Columns::SetSpacing(double length) {
         if (twips == length)
             RaiseRuntimeError(dwRunOutOfStackSpace, "Columns.Spacing is set by Columns.Auto");
         length = twips;
-    }
-}
-
-void EmitColumns(WritingContext& context, const Columns& columns) {
-    Output& output = context.output;
-    const std::int32_t count = columns.Count();
-    if (count < 1) return;
-    if (columns.Stored().lineBetween) output.WriteControlWord("linebetcol");
-    output.WriteControlWord("cols", count);
-    if (columns.Listed() == 0) {
-        output.WriteControlWord("colsx", columns.Stored().spacing.Twips());
-        return;
-    }
-    for (const auto& column : columns) {
-        const Column::Values& values = column->Stored();
-        output.WriteControlWord("colno", values.number);
-        output.WriteControlWord("colw", values.width.Twips());
-        if (values.number != count) output.WriteControlWord("colsr", values.spacing.Twips());
     }
 }
 

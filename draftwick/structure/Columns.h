@@ -27,9 +27,9 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
 
@@ -75,21 +75,18 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
+private:
+    friend struct Access;
+    friend class CollectionIterator<const Columns>;
 
-    const Values& Stored() const noexcept { return values_; }
     /// How many columns the list has.
     std::int32_t Listed() const noexcept { return static_cast<std::int32_t>(list_.size()); }
     std::shared_ptr<Column> ItemAt(std::int32_t index) const {
         return list_[static_cast<std::size_t>(index - 1)];
     }
 
-private:
     Values values_;
     std::vector<std::shared_ptr<Column>> list_;
 };
-
-/// \linebetcol\cols2\colsx720, or for a list \cols2\colno1\colw4320\colsr720\colno2\colw2880.
-void EmitColumns(WritingContext& context, const Columns& columns);
 
 }  // namespace draftwick

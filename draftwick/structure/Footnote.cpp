@@ -1,25 +1,13 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Footnote.h>
-#include <draftwick/structure/Table.h>
+#include <draftwick/structure/Writers.h>
 
 namespace draftwick {
 
-/// "{\footnote\ftnalt"
-void Footnote::WriteStart() {
-    Output& output = Writing().output;
-    output.WriteGroupStart();
-    output.WriteControlWord("footnote");
-    if (isEndnote_) output.WriteControlWord("ftnalt");
-}
-
-void Footnote::WriteEnd() { Writing().output.WriteGroupEnd(); }
-
-bool Footnote::StandsInCell() const {
-    const std::shared_ptr<Object> paragraph = Parent();
-    return paragraph != nullptr && static_cast<const Paragraph&>(*paragraph).StandsInCell();
-}
+void Footnote::WriteStart() { EmitFootnoteStart(Writer(), isEndnote_); }
+void Footnote::WriteEnd() { EmitFootnoteEnd(Writer()); }
+bool Footnote::StandsInCell() const { return Holder().StandsInCell(); }
 
 const Class& Footnote::Describe() {
     using F = Footnote;

@@ -10,9 +10,9 @@ namespace draftwick {
 /// The number of the note is the host's business: add Special::Footnote to the paragraph before the note and to the
 /// note's first paragraph. Nothing is written between the paragraphs of a note, so that they run together in a
 /// reader: one paragraph is what a note should have.
-class DRAFTWICK_API Footnote final : public RowContainer {
+class DRAFTWICK_API Footnote final : public HeldBy<Paragraph, RowContainer> {
 public:
-    Footnote(const Origin& origin, bool isEndnote) : RowContainer(origin), isEndnote_(isEndnote) {}
+    Footnote(const Origin& origin, bool isEndnote) : HeldBy(origin), isEndnote_(isEndnote) {}
 
     /// Whether it is an endnote: what AddFootnote was told.
     bool IsEndnote() const noexcept { return isEndnote_; }
@@ -20,13 +20,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    // The rest is for the library.
-
+protected:
     void WriteParagraphMark() override {}
     void WriteRowMark() override {}
     bool StandsInCell() const override;
-
-protected:
     void WriteStart() override;
     void WriteEnd() override;
 

@@ -1,28 +1,12 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Header.h>
-#include <draftwick/structure/Table.h>
+#include <draftwick/structure/Writers.h>
 
 namespace draftwick {
 
-/// "{\headerf", and no \par before what comes first
-void Header::WriteStart() {
-    static constexpr std::string_view KindWords[] = {"header",  "footer",  "headerl", "headerr",
-                                                     "footerl", "footerr", "headerf", "footerf"};
-    WritingContext& context = Writing();
-    context.output.WriteGroupStart();
-    context.output.WriteWord(KindWords, kind_);
-    context.layout.SuppressNextParagraphMark = true;
-}
-
-/// "\par}", also after a row: then the header ends with an empty paragraph
-void Header::WriteEnd() {
-    WritingContext& context = Writing();
-    context.output.WriteControlWord("par");
-    context.output.WriteGroupEnd();
-    context.layout.SuppressNextParagraphMark = true;
-}
+void Header::WriteStart() { EmitHeaderStart(Writer(), kind_); }
+void Header::WriteEnd() { EmitHeaderEnd(Writer()); }
 
 const Class& Header::Describe() {
     using H = Header;

@@ -3,7 +3,7 @@
 
 namespace draftwick {
 
-PageBorder::PageBorder(Object& parent, dwPageBorder side) : Border(parent) {
+PageBorder::PageBorder(Owner owner, dwPageBorder side) : Border(owner) {
     values_.spacing = side == dwPgBorderLeft || side == dwPgBorderRight ? 4 : 1;
 }
 

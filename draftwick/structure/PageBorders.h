@@ -4,8 +4,6 @@
 
 namespace draftwick {
 
-class WritingContext;
-
 /// Which side of the page a border stands on.
 enum dwPageBorder : std::int32_t {
     dwPgBorderTop = 1,
@@ -33,7 +31,7 @@ struct DRAFTWICK_API PageBorderValues {
 /// One side of the borders of a section's pages. Refuses when the section refuses.
 class DRAFTWICK_API PageBorder final : public Border<PageBorderValues> {
 public:
-    PageBorder(Object& parent, dwPageBorder side);
+    PageBorder(Owner owner, dwPageBorder side);
 
     /// From the border to what PageBorders.Offset says: points. Default 1; 4 on the left and on the right. Readers
     /// take up to 31.
@@ -81,13 +79,10 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
-    const Values& Stored() const noexcept { return values_; }
-
 private:
+    friend struct Access;
+
     Values values_;
 };
-
-/// \pgbrdropt32\pgbrdrsnap\pgbrdrt\brdrs\brsp20\brdrw20\brdrcf0: the page border words of a section.
-void EmitPageBorders(WritingContext& context, const PageBorders& borders);
 
 }  // namespace draftwick

@@ -1,6 +1,6 @@
-#include <draftwick/format/BorderWriter.h>
-#include <draftwick/model/WritingContext.h>
-#include <draftwick/structure/PageBorders.h>
+#include <draftwick/format/Writers.h>
+#include <draftwick/model/Access.h>
+#include <draftwick/structure/Writers.h>
 
 namespace draftwick {
 
@@ -9,36 +9,35 @@ namespace {
 bool IsDrawn(const PageBorder::Values& border) { return border.style != dwBSNone || border.art != 0; }
 
 /// The display, 8 for behind the text and 32 for a distance from the edge of the page, in one number.
-void WriteOptions(Output& output, const PageBorders::Values& borders) {
+void WriteOptions(RtfWriter& writer, const PageBorders::Values& borders) {
     const std::int32_t options =
         borders.display - 1 + (borders.inFront ? 0 : 8) + (borders.offset == dwPBOPage ? 32 : 0);
-    if (options != 0) output.WriteControlWord("pgbrdropt", options);
-    if (borders.snap) output.WriteControlWord("pgbrdrsnap");
+    if (options != 0) writer.Word("pgbrdropt", options);
+    if (borders.snap) writer.Word("pgbrdrsnap");
 }
 
-void EmitPageBorder(WritingContext& context, dwPageBorder side, const PageBorder::Values& border) {
+void WritePageBorder(RtfWriter& writer, dwPageBorder side, const PageBorder::Values& border) {
     static constexpr std::string_view SideWords[] = {"pgbrdrt", "pgbrdrl", "pgbrdrr", "pgbrdrb"};
-    Output& output = context.output;
-    output.WriteWord(SideWords, side);
+    writer.Word(SideWords, side);
     if (border.art != 0) {
-        output.WriteControlWord("brdrart", border.art);
+        writer.Word("brdrart", border.art);
     } else {
-        output.WriteControlWord(BorderStyleWord(border.style));
+        writer.Word(BorderStyleWord(border.style));
     }
-    output.WriteControlWord("brsp", RoundDown(border.spacing * 20));
-    output.WriteControlWord("brdrw", RoundDown(border.width * 20));
-    output.WriteControlWord("brdrcf", context.colors.GetColorIndex(border.color));
+    writer.Word("brsp", border.spacing.Written());
+    writer.Word("brdrw", border.width.Written());
+    writer.Color("brdrcf", border.color);
 }
 
 }  // namespace
 
-void EmitPageBorders(WritingContext& context, const PageBorders& borders) {
+void EmitPageBorders(RtfWriter& writer, const PageBorders& borders) {
     bool first = true;
     borders.ForEach([&](dwPageBorder side, const PageBorder& border) {
-        if (!IsDrawn(border.Stored())) return;
-        if (first) WriteOptions(context.output, borders.Stored());
+        if (!IsDrawn(ValuesOf(border))) return;
+        if (first) WriteOptions(writer, ValuesOf(borders));
         first = false;
-        EmitPageBorder(context, side, border.Stored());
+        WritePageBorder(writer, side, ValuesOf(border));
     });
 }
 

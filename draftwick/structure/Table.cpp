@@ -1,26 +1,20 @@
-#include <draftwick/content/Container.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/WritingContext.h>
 #include <draftwick/structure/Cell.h>
-#include <draftwick/structure/TableWriter.h>
-
-#include <utility>
+#include <draftwick/structure/Writers.h>
 
 namespace draftwick {
 
 std::shared_ptr<Cell> Table::AddCell() { return Add(currentCell_); }
 
 void Table::WriteStart() {
-    WritingContext& context = Writing();
-    Holder<RowContainer>().WriteRowMark();
-    outerRow_ = std::exchange(context.layout.row, {});
-    EmitTableRow(context, values_, borders_.Find());
+    Holder().WriteRowMark();
+    Writer().EnterRow();
+    EmitTableRow(Writer(), values_, borders_.Find());
 }
 
 void Table::WriteEnd() {
-    WritingContext& context = Writing();
-    EndTableRow(context);
-    context.layout.row = outerRow_;
+    EmitTableRowEnd(Writer());
+    Writer().LeaveRow();
 }
 
 const Class& Table::Describe() {

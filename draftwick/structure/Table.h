@@ -1,8 +1,7 @@
 #pragma once
 
+#include <draftwick/content/Container.h>
 #include <draftwick/format/Frame.h>
-#include <draftwick/model/Content.h>
-#include <draftwick/rtf/LayoutState.h>
 #include <draftwick/structure/TableBorders.h>
 
 namespace draftwick {
@@ -14,7 +13,7 @@ enum dwTableAlign : std::int32_t { dwTALeft = 1, dwTACenter = 2, dwTARight = 3 }
 
 /// One row of a table (RTF \trowd); rows that are added one after the other make one table. Its settings are
 /// written when its first cell is added; from then on setters refuse ("Table"). Lengths are 16 bits in twips.
-class DRAFTWICK_API Table final : public Content {
+class DRAFTWICK_API Table final : public HeldBy<RowContainer> {
 public:
     struct Values {
         Choice<"Table.Align", dwTALeft, dwTARight> align{dwTALeft};
@@ -27,7 +26,7 @@ public:
         bool keepTogether = false;
     };
 
-    using Content::Content;
+    using HeldBy::HeldBy;
 
     /// Adds a cell to the right of the others and closes the one before. Refuses once the row is finished ("Table").
     /// Error 6 when the cell before would end beyond 32767 twips: it can still be made narrower.
@@ -63,27 +62,25 @@ public:
     void SetKeepTogether(bool on) { Change(values_.keepTogether, on); }
 
     /// The lines around and in the row. Readers that draw only those of cells are common.
-    std::shared_ptr<TableBorders> Borders() { return Share(borders_.Get(*this)); }
+    std::shared_ptr<TableBorders> Borders() { return Share(borders_.Get(AsOwner())); }
     /// Where the row stands on the page; all rows of a table should say the same.
-    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(*this)); }
+    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(AsOwner())); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
-
-    // The rest is for the library.
-
-    const draftwick::Frame* OwnFrame() const noexcept { return frame_.Find(); }
 
 protected:
     void WriteStart() override;
     void WriteEnd() override;
 
 private:
+    friend struct Access;
+    friend class Cell;
+
     Values values_;
     Lazy<TableBorders> borders_;
     Lazy<draftwick::Frame> frame_;
     std::shared_ptr<Cell> currentCell_;
-    RowState outerRow_;  // where the writers stood in the row around this one, which has it in a cell's note
 };
 
 }  // namespace draftwick

@@ -23,7 +23,7 @@ struct DRAFTWICK_API TableBorderValues {
 /// One of the borders of a row (RTF \trbrdrt and its siblings). Refuses once the row is written ("Table").
 class DRAFTWICK_API TableBorder final : public Border<TableBorderValues> {
 public:
-    TableBorder(Object& table, dwTableBorder) : Border(table) {}
+    TableBorder(Owner owner, dwTableBorder) : Border(owner) {}
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

@@ -1,7 +1,6 @@
-#include <draftwick/format/BackgroundWriter.h>
-#include <draftwick/format/BorderWriter.h>
-#include <draftwick/model/WritingContext.h>
-#include <draftwick/structure/TableWriter.h>
+#include <draftwick/format/Writers.h>
+#include <draftwick/model/Access.h>
+#include <draftwick/structure/Writers.h>
 
 namespace draftwick {
 
@@ -17,54 +16,69 @@ constexpr std::string_view DirectionWords[] = {"", "cltxbtlr", "cltxbtrl"};
 
 /// \trbrdrt\brdrs\brdrw20\brdref0, for rows and cells alike. "brdref" is promised; readers expect brdrcf.
 template <class Borders>
-void EmitBorders(WritingContext& context, const Borders& borders, const WordList& sideWords) {
+void WriteBorders(RtfWriter& writer, const Borders& borders, const WordList& sideWords) {
     borders.ForEach([&](std::int32_t side, const auto& border) {
-        const auto& values = border.Stored();
+        const auto& values = ValuesOf(border);
         if (values.style == dwBSNone) return;
-        context.output.WriteWord(sideWords, side);
-        EmitBorderLine(context, values.style, values.width, "brdref", values.color);
+        writer.Word(sideWords, side);
+        EmitBorderLine(writer, values.style, PointsToTwips(values.width), "brdref", values.color);
     });
 }
 
-void EmitMerge(Output& output, dwCellMerge merge) {
-    if (merge == dwMergeFirstHorizontal || merge == dwMergeFirstBoth) output.WriteControlWord("clmgf");
-    if (merge == dwMergeFirstVertical || merge == dwMergeFirstBoth) output.WriteControlWord("clvmgf");
-    if (merge == dwMergeHorizontal) output.WriteControlWord("clmrg");
-    if (merge == dwMergeVertical) output.WriteControlWord("clvmrg");
+void WriteMerge(RtfWriter& writer, dwCellMerge merge) {
+    if (merge == dwMergeFirstHorizontal || merge == dwMergeFirstBoth) writer.Word("clmgf");
+    if (merge == dwMergeFirstVertical || merge == dwMergeFirstBoth) writer.Word("clvmgf");
+    if (merge == dwMergeHorizontal) writer.Word("clmrg");
+    if (merge == dwMergeVertical) writer.Word("clvmrg");
 }
 
 }  // namespace
 
-void EmitTableRow(WritingContext& context, const Table::Values& row, const TableBorders* borders) {
-    Output& output = context.output;
-    output.WriteControlWord("trowd");
-    output.WriteControlWord("trgaph", row.gap.Twips());
-    output.WriteWord(AlignWords, row.align);
-    output.WriteControlWord("trleft", row.left.Twips());
-    output.WriteControlWord("trrh", row.heightExactly ? -row.height.Twips() : row.height.Twips());
-    if (row.header) output.WriteControlWord("trhdr");
-    if (row.keepTogether) output.WriteControlWord("trkeep");
-    if (borders != nullptr) EmitBorders(context, *borders, RowSideWords);
+void EmitTableRow(RtfWriter& writer, const Table::Values& row, const TableBorders* borders) {
+    writer.Word("trowd");
+    writer.Word("trgaph", row.gap.Twips());
+    writer.Word(AlignWords, row.align);
+    writer.Word("trleft", row.left.Twips());
+    writer.Word("trrh", row.heightExactly ? -row.height.Twips() : row.height.Twips());
+    if (row.header) writer.Word("trhdr");
+    if (row.keepTogether) writer.Word("trkeep");
+    if (borders != nullptr) WriteBorders(writer, *borders, RowSideWords);
 }
 
-void EndTableRow(WritingContext& context) {
-    context.output.WriteControlWord("intbl");
-    context.output.WriteControlWord("row");
-    context.output.WriteControlWord("pard");
+void EmitTableRowEnd(RtfWriter& writer) {
+    writer.Word("intbl");
+    writer.Word("row");
+    writer.Word("pard");
 }
 
-void EmitCellDefinition(WritingContext& context, const Cell::Values& cell, const Background* background,
+void EmitCellDefinition(RtfWriter& writer, const Cell::Values& cell, const Background* background,
                         const CellBorders* borders) {
-    Output& output = context.output;
-    RowState& row = context.layout.row;
+    RowState& row = writer.layout.row;
     const std::int16_t rightEdge = ToShort(row.CellRightEdge + cell.width.Twips());
-    EmitMerge(output, cell.merge);
-    output.WriteWord(VerticalWords, cell.verticalAlign);
-    if (background != nullptr) EmitCellBackground(context, background->Stored());
-    if (borders != nullptr) EmitBorders(context, *borders, CellSideWords);
-    output.WriteControlWord("cellx", rightEdge);
-    output.WriteWord(DirectionWords, cell.orientation);  // where readers take it for the next cell: promised
+    WriteMerge(writer, cell.merge);
+    writer.Word(VerticalWords, cell.verticalAlign);
+    if (background != nullptr) EmitCellBackground(writer, ValuesOf(*background));
+    if (borders != nullptr) WriteBorders(writer, *borders, CellSideWords);
+    writer.Word("cellx", rightEdge);
+    writer.Word(DirectionWords, cell.orientation);  // where readers take it for the next cell: promised
     row = {.CellRightEdge = rightEdge, .AtCellStart = true};
+}
+
+void EmitCellParagraphMark(RtfWriter& writer) {
+    writer.Word("intbl");
+    if (!writer.layout.row.AtCellStart) writer.Word("par");
+    writer.layout.row.AtCellStart = false;
+}
+
+void EmitCellParagraphPlace(RtfWriter& writer, const Frame* rowFrame) {
+    writer.Word("pard");
+    writer.Word("intbl");
+    if (rowFrame != nullptr) EmitFrame(writer, ValuesOf(*rowFrame));
+}
+
+void EmitCellEnd(RtfWriter& writer, bool isEmpty) {
+    if (isEmpty) writer.Word("intbl");
+    writer.Word("cell");
 }
 
 }  // namespace draftwick

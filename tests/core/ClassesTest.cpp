@@ -1,4 +1,5 @@
 #include "tests/support/Documents.h"
+#include "tests/support/FakeDesktop.h"
 
 #include <cmath>
 #include <limits>
@@ -117,8 +118,13 @@ struct Subject {
         if (owner == nullptr) {
             // What needs no document, and what other programs give.
             if (name == "Special") object = std::make_shared<Special>();
-            if (name == "AutomationObject")
-                object = std::make_shared<AutomationObject>(Origin{nullptr, NoRef(object)}, nullptr);
+            if (name == "AutomationObject") {
+                const auto desktop = std::make_shared<FakeDesktop>();
+                desktop->runningVersion = "9.0";
+                document = Document::Create(MakeFakePlatform(std::make_shared<MemoryFiles>(), desktop));
+                document->Preview();
+                object = document->ViewerApp();
+            }
             return;
         }
         const auto follow = [this](const Step& step) {

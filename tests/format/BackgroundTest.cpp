@@ -1,21 +1,21 @@
 #include "tests/support/Documents.h"
 
-#include <draftwick/format/BackgroundWriter.h>
+#include <draftwick/format/Writers.h>
 
 namespace draftwick::test {
 namespace {
 
-using Writer = void (*)(WritingContext&, const Background::Values&);
+using Writer = void (*)(RtfWriter&, const Background::Values&);
 
 /// Colour 0 is that of the lines, colour 1 the one behind them.
-std::string Written(Writer writer, dwTexture texture, double shading = 0) {
-    return WordsOf([&](WritingContext& context) {
+std::string Written(Writer write, dwTexture texture, double shading = 0) {
+    return WordsOf([&](RtfWriter& writer) {
         Background::Values values;
         values.texture.Set(texture);
         values.shading.Set(shading);
-        context.colors.GetColorIndex(values.color);
-        context.colors.GetColorIndex(values.backColor);
-        writer(context, values);
+        writer.colors.GetColorIndex(values.color);
+        writer.colors.GetColorIndex(values.backColor);
+        write(writer, values);
     });
 }
 
@@ -65,8 +65,7 @@ TEST(Background, WritesShadingDifferentlyInParagraphsTextAndCells) {
 }
 
 TEST(ColorTable, HoldsEachColorOnceInTheOrderOfFirstUse) {
-    WritingContext context(MakeFakePlatform(std::make_shared<MemoryFiles>()));
-    ColorTable& colors = context.colors;
+    ColorTable colors;
     // Red, white, red again, red with something in the highest byte, white again, red once more.
     const std::int32_t used[] = {0x0000FF, 0xFFFFFF, 0x0000FF, -0xFFFF01, 0xFFFFFF, 0x0000FF};
     std::vector<std::int32_t> indices;

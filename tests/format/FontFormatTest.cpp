@@ -1,6 +1,6 @@
 #include "tests/support/Documents.h"
 
-#include <draftwick/format/FontFormatWriter.h>
+#include <draftwick/format/Writers.h>
 
 namespace draftwick::test {
 namespace {
@@ -8,13 +8,13 @@ namespace {
 using Values = FontFormat::Values;
 
 std::string Full(const Values& format, bool withPlain = false) {
-    return WordsOf([&](WritingContext& context) { EmitFontFormat(context, format, withPlain); });
+    return WordsOf([&](RtfWriter& writer) { EmitFontFormat(writer, format, withPlain); });
 }
 
 std::string Changes(const Values& format, const Values& reference) {
-    return WordsOf([&](WritingContext& context) {
-        context.colors.GetColorIndex(0);  // black, as after any paragraph
-        EmitFontFormatChanges(context, format, reference);
+    return WordsOf([&](RtfWriter& writer) {
+        writer.colors.GetColorIndex(0);  // black, as after any paragraph
+        EmitFontFormatChanges(writer, format, reference);
     });
 }
 
@@ -29,7 +29,6 @@ Values Everything() {
     v.underline.Set(dwUnderlineWave);
     v.animation.Set(dwTxAnimSparkle);
     v.color = 0x0000FF;
-    v.font = 7;
     return v;
 }
 
@@ -38,13 +37,12 @@ Values Everything() {
 TEST(FontFormat, WritesAllWordsInTheOrderOfEachWriter) {
     EXPECT_EQ(Full(Values{}), "\\fs24\\cf0");
     EXPECT_EQ(Full(Everything(), true),
-              "\\plain\\b\\caps\\sub\\dn4\\f7\\fs21\\i\\outl\\scaps\\shad\\strike\\ulwave\\super\\up8\\v\\cf0"
+              "\\plain\\b\\caps\\sub\\dn4\\fs21\\i\\outl\\scaps\\shad\\strike\\ulwave\\super\\up8\\v\\cf0"
               "\\animtext3\\embo\\impr\\striked1");
     EXPECT_EQ(Changes(Values{}, Values{}), "");
-    EXPECT_EQ(
-        Changes(Everything(), Values{}),
-        "\\b1\\caps1\\sub1\\dn4\\f7\\fs21\\i1\\outl1\\scaps1\\shad1\\strike1\\ulwave\\super1\\up8\\v1\\cf1"
-        "\\animtext3\\impr1\\embo1\\striked11");
+    EXPECT_EQ(Changes(Everything(), Values{}),
+              "\\b1\\caps1\\sub1\\dn4\\fs21\\i1\\outl1\\scaps1\\shad1\\strike1\\ulwave\\super1\\up8\\v1\\cf1"
+              "\\animtext3\\impr1\\embo1\\striked11");
     // Back to the default; there is no word for no font.
     EXPECT_EQ(Changes(Values{}, Everything()),
               "\\b0\\caps0\\sub0\\fs24\\i0\\outl0\\scaps0\\shad0\\strike0\\ulnone\\super0\\v0\\cf0"
@@ -83,22 +81,6 @@ TEST(FontFormat, HasAWordForEveryUnderlineAndAnimation) {
             EXPECT_EQ(Full(format), "\\fs24\\cf0" + (effect == 1 ? "" : word));
             return word;
         });
-}
-
-TEST(FontFormat, DiffersFromTheBlankReferenceInWhatHasAValue) {
-    const auto changes = [](std::int32_t font, const Values& format) {
-        return WordsOf([&](WritingContext& context) {
-            context.defaultFont = 1;
-            Values values = format;
-            values.font = font;
-            EmitFontFormatChanges(context, values, BlankReference(context));
-        });
-    };
-    EXPECT_EQ(changes(1, Values{}), "\\fs24\\ulnone\\animtext0");
-    EXPECT_EQ(changes(0, Values{}), "\\f0\\fs24\\ulnone\\animtext0");
-    EXPECT_EQ(changes(1, Everything()),
-              "\\b1\\caps1\\sub1\\dn4\\fs21\\i1\\outl1\\scaps1\\shad1\\strike1\\ulwave\\super1\\up8\\v1\\cf0"
-              "\\animtext3\\impr1\\embo1\\striked11");
 }
 
 TEST(FontFormat, LetsSomeSwitchesEndOthers) {

@@ -1,6 +1,6 @@
 #include "tests/support/Documents.h"
 
-#include <draftwick/format/BorderWriter.h>
+#include <draftwick/format/Writers.h>
 
 namespace draftwick::test {
 
@@ -93,7 +93,7 @@ TEST(TextBorder, IsWrittenUnlessItsStyleIsNone) {
     for (const auto& [style, width, words] : cases) {
         TextBorder::Values border{.style = static_cast<dwBorderStyle>(style)};
         border.width.Set(width);
-        EXPECT_EQ(WordsOf([&](WritingContext& context) { EmitTextBorder(context, border); }), words);
+        EXPECT_EQ(WordsOf([&](RtfWriter& writer) { EmitTextBorder(writer, border); }), words);
     }
 }
 

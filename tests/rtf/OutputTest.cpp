@@ -42,7 +42,6 @@ TEST(Output, DelimitsWordsFromText) {
          "\\b{\\* x"},
         {[](Output& o) { o.WriteText("a"), o.WriteDestinationStart(), o.WriteText("x"); }, "a{\\*x"},
         {[](Output& o) { o.WriteControlWord("b"), o.FlushLine(), o.WriteText("x"); }, "\\b\r\n x"},
-        {[](Output& o) { o.WriteFlag("b", true), o.WriteFlag("i", false); }, "\\b1\\i0"},
         {[](Output& o) { o.FlushLine(), o.WriteText("x"), o.FlushLine(), o.FlushLine(); }, "x"},
         {[](Output& o) { o.WriteControlWord("n", -2147483648); }, "\\n-2147483648"},
     };

@@ -5,7 +5,7 @@
 #include "tests/support/Rtf.h"
 
 #include <draftwick/draftwick.h>
-#include <draftwick/model/WritingContext.h>
+#include <draftwick/rtf/RtfWriter.h>
 
 #include <gtest/gtest.h>
 
@@ -123,14 +123,14 @@ inline std::string BodyOf(const std::function<void(Section&)>& build) {
 }
 
 /// The words that one writer writes, without a document.
-inline std::string WordsOf(const std::function<void(WritingContext&)>& write) {
+inline std::string WordsOf(const std::function<void(RtfWriter&)>& write) {
     const auto files = std::make_shared<MemoryFiles>();
-    WritingContext context(MakeFakePlatform(files));
+    RtfWriter writer;
     std::error_code error;
     BlockWriter stream(files->Create("words", platform::Creation::Overwrite, error), "words");
-    context.output.SetStream(&stream);
-    write(context);
-    context.output.FlushLine();
+    writer.output.SetStream(&stream);
+    write(writer);
+    writer.output.FlushLine();
     stream.Close();
     return Words(files->Bytes("words"));
 }

@@ -10,8 +10,6 @@
 
 namespace draftwick {
 
-class WritingContext;
-
 /// What a file holds according to the end of its name, in small letters; nothing when no picture has such a name.
 std::optional<platform::PictureKind> PictureTypeFromName(std::string_view fileName);
 
@@ -31,10 +29,11 @@ public:
     /// itself has no size, error 6 when the percentage does not fit 32 bits.
     std::optional<Scale> ScaleTo(std::int32_t width, std::int32_t height) const;
 
-private:
-    friend void EmitPicture(WritingContext& context, const OpenPicture& picture,
-                            const std::optional<Scale>& scale);
+    platform::PictureKind Kind() const noexcept { return kind_; }
+    /// The bytes of the picture's file, or of what it was converted to.
+    const std::vector<unsigned char>& Bytes() const noexcept { return bytes_; }
 
+private:
     void Convert(const platform::Platform& platform, const platform::Picture& picture);
     void Read(platform::FileSystem& files, const std::string& name);
 
@@ -43,9 +42,5 @@ private:
     std::int32_t height_ = 0;
     std::vector<unsigned char> bytes_;
 };
-
-/// \emfblip\picscalex100\picscaley50 0100...: what stands in a \pict group. Never fails.
-void EmitPicture(WritingContext& context, const OpenPicture& picture,
-                 const std::optional<OpenPicture::Scale>& scale = {});
 
 }  // namespace draftwick

@@ -1,0 +1,9 @@
+#include <draftwick/structure/Writers.h>
+
+namespace draftwick {
+
+void EmitBookmark(RtfWriter& writer, const Bookmark::Values& bookmark) {
+    writer.Destination(bookmark.isStart ? "bkmkstart" : "bkmkend", [&] { writer.Raw(bookmark.name); });
+}
+
+}  // namespace draftwick
