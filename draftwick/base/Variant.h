@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <variant>
 
 namespace draftwick {
@@ -29,5 +30,11 @@ struct Date {
 /// number, a UTF-8 text, a date or an object.
 using Variant =
     std::variant<std::monostate, bool, std::int32_t, double, std::string, Date, std::shared_ptr<Object>>;
+
+/// A value of an enumeration. In a Variant it is its number.
+struct EnumerationValue {
+    std::string_view name;   ///< as in "dwInches"
+    std::int32_t value = 0;  ///< its number
+};
 
 }  // namespace draftwick

@@ -20,7 +20,7 @@ void Paragraph::SetStyleName(std::string_view name) {
     Ref<ParagraphStyles> named;
     named.Set(styles, name);
     if (named) {
-        const auto& style = PartsOf(named.In(styles));
+        const auto& style = StoredParts(named.In(styles));
         tabStops_.Get(AsOwner()).CopyFrom(style.tabStops);
         borders_.Get(AsOwner()).CopyFrom(style.borders);
         CopyValues(fontFormat_.Get(AsOwner()), style.fontFormat);
@@ -54,7 +54,7 @@ std::shared_ptr<Shape> Paragraph::AddShape(dwShapeKind kind) {
 }
 
 void Paragraph::WriteStart() {
-    NoteLists(Writer().lists, ValuesOf(format_));
+    NoteLists(Writer().lists, Stored(format_));
     Holder().WriteParagraphMark();
     Holder().WriteParagraphPlace(frame_.Find());
     EmitParagraph(Writer(),
@@ -62,7 +62,7 @@ void Paragraph::WriteStart() {
                    .borders = borders_.Find(),
                    .background = background_.Find(),
                    .fontFormat = fontFormat_.Find(),
-                   .format = ValuesOf(format_),
+                   .format = Stored(format_),
                    .tabStops = tabStops_.Find()},
                   Session().settings);
 }

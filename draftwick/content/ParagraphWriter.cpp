@@ -17,15 +17,15 @@ void EmitRowMark(RtfWriter& writer) {
 
 void EmitParagraphPlace(RtfWriter& writer, const Frame* frame) {
     writer.Word("pard");
-    if (frame != nullptr) EmitFrame(writer, ValuesOf(*frame));
+    if (frame != nullptr) EmitFrame(writer, Stored(*frame));
 }
 
 void EmitParagraph(RtfWriter& writer, const ParagraphSettings& paragraph, const DocumentSettings& document) {
     if (paragraph.style) writer.Word("s", paragraph.style.Position());
     if (paragraph.borders != nullptr) EmitParagraphBorders(writer, *paragraph.borders);
-    if (paragraph.background != nullptr) EmitBackground(writer, ValuesOf(*paragraph.background));
+    if (paragraph.background != nullptr) EmitBackground(writer, Stored(*paragraph.background));
     EmitFontFormat(writer,
-                   paragraph.fontFormat != nullptr ? ValuesOf(*paragraph.fontFormat)
+                   paragraph.fontFormat != nullptr ? Stored(*paragraph.fontFormat)
                                                    : DefaultFontFormat(document),
                    true);
     EmitParagraphFormat(writer, paragraph.format, document);

@@ -11,7 +11,7 @@ std::shared_ptr<draftwick::FontFormat> Run::FontFormat() {
         const std::shared_ptr<Object> parent = Parent();
         const auto* paragraph = static_cast<const Paragraph*>(parent.get());
         const draftwick::FontFormat* format = paragraph == nullptr ? nullptr : paragraph->fontFormat_.Find();
-        if (format != nullptr) return Share(fontFormat_.Get(AsOwner(), ValuesOf(*format)));
+        if (format != nullptr) return Share(fontFormat_.Get(AsOwner(), Stored(*format)));
     }
     return Share(fontFormat_.Get(AsOwner()));
 }

@@ -9,8 +9,8 @@ namespace {
 /// if it has one, else its paragraph's format, else the default. A run without a look of its own takes the
 /// reference's: nothing differs.
 FontFormat::Values ReferenceOf(const RunSettings& run, const DocumentSettings& document) {
-    if (run.style != nullptr) return ValuesOf(PartsOf(*run.style).fontFormat);
-    return run.paragraphFontFormat != nullptr ? ValuesOf(*run.paragraphFontFormat)
+    if (run.style != nullptr) return Stored(StoredParts(*run.style).fontFormat);
+    return run.paragraphFontFormat != nullptr ? Stored(*run.paragraphFontFormat)
                                               : DefaultFontFormat(document);
 }
 
@@ -19,9 +19,9 @@ FontFormat::Values ReferenceOf(const RunSettings& run, const DocumentSettings& d
 void EmitRunFormat(RtfWriter& writer, const RunSettings& run, const DocumentSettings& document) {
     if (run.style != nullptr) writer.Word("cs", TextStyleNumber(writer, run.style->StyleIndex()));
     if (run.fontFormat != nullptr)
-        EmitFontFormatChanges(writer, ValuesOf(*run.fontFormat), ReferenceOf(run, document));
-    if (run.background != nullptr) EmitCharacterBackground(writer, ValuesOf(*run.background));
-    if (run.border != nullptr) EmitTextBorder(writer, ValuesOf(*run.border));
+        EmitFontFormatChanges(writer, Stored(*run.fontFormat), ReferenceOf(run, document));
+    if (run.background != nullptr) EmitCharacterBackground(writer, Stored(*run.background));
+    if (run.border != nullptr) EmitTextBorder(writer, Stored(*run.border));
 }
 
 void EmitTextItem(RtfWriter& writer, const RunSettings& run, std::string_view text,

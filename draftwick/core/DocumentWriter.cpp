@@ -90,7 +90,7 @@ void WriteDocumentFormatting(RtfWriter& writer, const DocumentSettings& settings
 
 void RegisterHeaderColors(RtfWriter& writer, const DocumentSettings& settings) {
     for (const auto& style : *writer.names->paragraphStyles)
-        NoteLists(writer.lists, ValuesOf(PartsOf(*style).format));
+        NoteLists(writer.lists, Stored(StoredParts(*style).format));
     EmitStylesheet(writer, *writer.names->paragraphStyles, *writer.names->textStyles, settings);
     EmitListTable(writer, *writer.names->lists);
     writer.output.FlushLine();

@@ -1,3 +1,4 @@
+#include <draftwick/base/Enumeration.h>
 #include <draftwick/core/Properties.h>
 
 #include <cmath>
@@ -7,11 +8,6 @@
 namespace draftwick {
 
 namespace {
-
-constexpr std::string_view BuiltInNames[] = {
-    "Title",      "Subject", "Author",         "Manager",       "Company",      "Operator",     "Category",
-    "Keywords",   "Comment", "DocComment",     "HyperlinkBase", "CreationTime", "RevisionTime", "PrintTime",
-    "BackupTime", "Version", "EditingMinutes", "Pages",         "Words",        "Characters"};
 
 dwPropertyType TypeOfBuiltIn(std::int32_t position) {
     if (position <= dwBIPHyperlinkBase) return dwPTText;
@@ -75,7 +71,10 @@ void Property::SetLinkTo(std::string_view bookmark) {
 }
 
 Properties::Properties(const Origin& origin) : NamedCollection(origin) {
-    for (const std::string_view name : BuiltInNames) AddItem(name, "Properties");
+    constexpr std::string_view Prefix = "dwBIP";
+    for (const EnumerationValue& builtIn : ValuesOf<dwBuiltInProperty>::All) {
+        AddItem(builtIn.name.substr(Prefix.size()), "Properties");
+    }
 }
 
 std::shared_ptr<Property> Properties::Add(std::string_view name, const Variant& value,

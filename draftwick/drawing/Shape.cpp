@@ -13,7 +13,7 @@ namespace {
 template <class Part>
 const typename Part::Values& OwnOrDefault(const Lazy<Part>& part) {
     static const typename Part::Values defaults{};
-    return part.Find() != nullptr ? ValuesOf(*part.Find()) : defaults;
+    return part.Find() != nullptr ? Stored(*part.Find()) : defaults;
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ void EmitTextBorder(RtfWriter& writer, const TextBorder::Values& border) {
 
 void EmitParagraphBorders(RtfWriter& writer, const ParagraphBorders& borders) {
     borders.ForEach([&](dwParagraphBorder side, const ParagraphBorder& border) {
-        const ParagraphBorder::Values& values = ValuesOf(border);
+        const ParagraphBorder::Values& values = Stored(border);
         if (values.style == dwBSNone) return;
         writer.Word(SideWords, side);
         writer.Word(StyleWords, values.style);

@@ -42,7 +42,7 @@ LevelText ReadLevelFormat(std::string_view format) {
 }
 
 void EmitListLevel(RtfWriter& writer, const ListLevel& level) {
-    const ListLevel::Values& values = ValuesOf(level);
+    const ListLevel::Values& values = Stored(level);
     const LevelText text = ReadLevelFormat(values.format);
     writer.output.FlushLine();
     writer.Group("listlevel", [&] {
@@ -58,7 +58,7 @@ void EmitListLevel(RtfWriter& writer, const ListLevel& level) {
         writer.Group("levelnumbers", [&] { writer.Raw(text.positions + ";"); });
         writer.Word("jclisttab");
         writer.Word("tx", values.tabPosition.Twips());
-        EmitFontFormat(writer, ValuesOf(PartsOf(level).fontFormat), false);
+        EmitFontFormat(writer, Stored(StoredParts(level).fontFormat), false);
     });
 }
 
@@ -69,10 +69,10 @@ void EmitList(RtfWriter& writer, const List& list, std::int32_t position, std::i
         writer.Group("listname", [&] { writer.Raw(list.Name() + ";"); });
         writer.Word("listid", identifier);
         if (writer.lists.UsesLevels(position)) {
-            for (const ListLevel& level : PartsOf(list).levels) EmitListLevel(writer, level);
+            for (const ListLevel& level : StoredParts(list).levels) EmitListLevel(writer, level);
         } else {
             writer.Word("listsimple");
-            EmitListLevel(writer, PartsOf(list).levels.front());
+            EmitListLevel(writer, StoredParts(list).levels.front());
         }
     });
 }
@@ -83,7 +83,7 @@ void EmitPairing(RtfWriter& writer, std::int32_t position, const List& look, std
         writer.Word("listid", position + 1);
         writer.Word("listoverridecount", 9);
         writer.Word("ls", overrideNumber);
-        for (const ListLevel& level : PartsOf(look).levels) {
+        for (const ListLevel& level : StoredParts(look).levels) {
             writer.Group("lfolevel", [&] {
                 writer.Word("listoverrideformat");
                 EmitListLevel(writer, level);

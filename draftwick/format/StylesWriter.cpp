@@ -10,27 +10,27 @@ namespace {
 constexpr std::int32_t NoBase = 222;
 
 void EmitParagraphStyle(RtfWriter& writer, const ParagraphStyle& style, const DocumentSettings& settings) {
-    const auto& values = ValuesOf(style);
+    const auto& values = Stored(style);
     writer.Group([&] {
         writer.Word("s", style.StyleIndex());
         writer.Word("sbasedon", values.basedOn ? values.basedOn.Position() : NoBase);
         if (values.nextStyle) writer.Word("snext", values.nextStyle.Position());
-        EmitParagraphBorders(writer, PartsOf(style).borders);
-        EmitBackground(writer, ValuesOf(PartsOf(style).background));
-        EmitParagraphFormat(writer, ValuesOf(PartsOf(style).format), settings);
-        EmitFontFormat(writer, ValuesOf(PartsOf(style).fontFormat), false);
+        EmitParagraphBorders(writer, StoredParts(style).borders);
+        EmitBackground(writer, Stored(StoredParts(style).background));
+        EmitParagraphFormat(writer, Stored(StoredParts(style).format), settings);
+        EmitFontFormat(writer, Stored(StoredParts(style).fontFormat), false);
         writer.Raw(style.Name() + ";");
     });
 }
 
 void EmitTextStyle(RtfWriter& writer, const TextStyle& style) {
-    const auto& values = ValuesOf(style);
+    const auto& values = Stored(style);
     writer.Destination([&] {
         writer.Word("cs", TextStyleNumber(writer, style.StyleIndex()));
         writer.Word("sbasedon", values.basedOn ? TextStyleNumber(writer, values.basedOn.Position()) : NoBase);
-        EmitTextBorder(writer, ValuesOf(PartsOf(style).border));
-        EmitFontFormat(writer, ValuesOf(PartsOf(style).fontFormat), false);
-        EmitCharacterBackground(writer, ValuesOf(PartsOf(style).background));
+        EmitTextBorder(writer, Stored(StoredParts(style).border));
+        EmitFontFormat(writer, Stored(StoredParts(style).fontFormat), false);
+        EmitCharacterBackground(writer, Stored(StoredParts(style).background));
         writer.Raw(style.Name() + ";");
     });
 }

@@ -29,7 +29,7 @@ std::shared_ptr<TabStop> TabStops::Items(std::int32_t index) const {
 void TabStops::CopyFrom(const TabStops& other) {
     std::vector<std::shared_ptr<TabStop>> copies;
     copies.reserve(other.stops_.size());
-    for (const auto& stop : other.stops_) copies.push_back(MakeStop(ValuesOf(*stop)));
+    for (const auto& stop : other.stops_) copies.push_back(MakeStop(Stored(*stop)));
     stops_ = std::move(copies);
 }
 

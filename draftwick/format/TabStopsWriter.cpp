@@ -7,7 +7,7 @@ void EmitTabStops(RtfWriter& writer, const TabStops& tabStops) {
     static constexpr std::string_view AlignWords[] = {"", "tqr", "tqc", "tqdec"};
     static constexpr std::string_view LeaderWords[] = {"", "tldot", "tlhyph", "tlul"};
     for (const auto& stop : tabStops) {
-        const TabStop::Values& values = ValuesOf(*stop);
+        const TabStop::Values& values = Stored(*stop);
         if (values.align == dwTabBar) {
             writer.Word("tb", values.position.Twips());
         } else {

@@ -16,12 +16,12 @@ struct Access {
 
 /// The settings of an object, as they are stored.
 template <class Type>
-const auto& ValuesOf(const Type& object) {
+const auto& Stored(const Type& object) {
     return Access::Values(object);
 }
 /// The parts of an object that are there from the beginning.
 template <class Type>
-const auto& PartsOf(const Type& object) {
+const auto& StoredParts(const Type& object) {
     return Access::Parts(object);
 }
 /// Takes over the settings of another object of the class, also of one that can no longer change.

@@ -9,11 +9,11 @@ void EmitColumns(RtfWriter& writer, const Columns& columns) {
     if (columns.LineBetween()) writer.Word("linebetcol");
     writer.Word("cols", count);
     if (columns.begin() == columns.end()) {
-        writer.Word("colsx", ValuesOf(columns).spacing.Twips());
+        writer.Word("colsx", Stored(columns).spacing.Twips());
         return;
     }
     for (const auto& column : columns) {
-        const Column::Values& values = ValuesOf(*column);
+        const Column::Values& values = Stored(*column);
         writer.Word("colno", values.number);
         writer.Word("colw", values.width.Twips());
         if (values.number != count) writer.Word("colsr", values.spacing.Twips());

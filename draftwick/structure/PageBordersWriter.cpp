@@ -34,10 +34,10 @@ void WritePageBorder(RtfWriter& writer, dwPageBorder side, const PageBorder::Val
 void EmitPageBorders(RtfWriter& writer, const PageBorders& borders) {
     bool first = true;
     borders.ForEach([&](dwPageBorder side, const PageBorder& border) {
-        if (!IsDrawn(ValuesOf(border))) return;
-        if (first) WriteOptions(writer, ValuesOf(borders));
+        if (!IsDrawn(Stored(border))) return;
+        if (first) WriteOptions(writer, Stored(borders));
         first = false;
-        WritePageBorder(writer, side, ValuesOf(border));
+        WritePageBorder(writer, side, Stored(border));
     });
 }
 

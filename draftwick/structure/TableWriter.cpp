@@ -18,7 +18,7 @@ constexpr std::string_view DirectionWords[] = {"", "cltxbtlr", "cltxbtrl"};
 template <class Borders>
 void WriteBorders(RtfWriter& writer, const Borders& borders, const WordList& sideWords) {
     borders.ForEach([&](std::int32_t side, const auto& border) {
-        const auto& values = ValuesOf(border);
+        const auto& values = Stored(border);
         if (values.style == dwBSNone) return;
         writer.Word(sideWords, side);
         EmitBorderLine(writer, values.style, PointsToTwips(values.width), "brdref", values.color);
@@ -57,7 +57,7 @@ void EmitCellDefinition(RtfWriter& writer, const Cell::Values& cell, const Backg
     const std::int16_t rightEdge = ToShort(row.CellRightEdge + cell.width.Twips());
     WriteMerge(writer, cell.merge);
     writer.Word(VerticalWords, cell.verticalAlign);
-    if (background != nullptr) EmitCellBackground(writer, ValuesOf(*background));
+    if (background != nullptr) EmitCellBackground(writer, Stored(*background));
     if (borders != nullptr) WriteBorders(writer, *borders, CellSideWords);
     writer.Word("cellx", rightEdge);
     writer.Word(DirectionWords, cell.orientation);  // where readers take it for the next cell: promised
@@ -73,7 +73,7 @@ void EmitCellParagraphMark(RtfWriter& writer) {
 void EmitCellParagraphPlace(RtfWriter& writer, const Frame* rowFrame) {
     writer.Word("pard");
     writer.Word("intbl");
-    if (rowFrame != nullptr) EmitFrame(writer, ValuesOf(*rowFrame));
+    if (rowFrame != nullptr) EmitFrame(writer, Stored(*rowFrame));
 }
 
 void EmitCellEnd(RtfWriter& writer, bool isEmpty) {
