@@ -1,6 +1,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/TempFolder.h"
 
 #include <draftwick/draftwick.h>
 
@@ -176,6 +177,27 @@ TEST_F(Viewers, AreFoundWhereTheyLeaveATrace) {
                      "/mnt/");
     document->Preview(dwViewerWordView97);
     EXPECT_EQ(desktop->TakeLog(), R"(start /mnt/ "%1" of /docs/a.rtf)");
+}
+
+// It stays the same file when the current folder changes afterwards, and the temporary one is found while it is written.
+TEST_F(Viewers, GetTheFileThatWasFinished) {
+    const TempFolder there, elsewhere;
+    InstallViewer();
+    platform::Platform services = MakeFakePlatform(files, desktop);
+    services.files = platform::SystemPlatform().files;
+    document = Document::Create(services);
+    document->SetFilename("c.rtf");
+    document->SetTempPath(".");
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(elsewhere.Path());
+    document->AddSection();
+    std::filesystem::current_path(there.Path());
+    document->Finish();
+    std::filesystem::current_path(elsewhere.Path());
+    document->Preview(dwViewerWordView97);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(desktop->TakeLog(), "start " + viewer + " of " + there / "c.rtf");
+    EXPECT_EQ(ReadFile(there / "c.rtf").substr(0, 6), "{\\rtf1");
 }
 
 TEST_F(Viewers, PrintInTheirOwnWayWhereTheyTakeNoKeystrokes) {
