@@ -82,8 +82,7 @@ dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true);
 dwViewer Document::RunViewer(dwViewer program, bool printIt) {
     Finish();
     // Other programs have a current folder of their own.
-    const std::string file = Session().platform.files->FullName(ActualFileName());
-    return viewer_->RunViewer(OriginOfChild(), file, program, printIt);
+    return viewer_->RunViewer(OriginOfChild(), files_->FullFileName(), program, printIt);
 }
 
 std::shared_ptr<AutomationObject> Document::ViewerApp() const { return viewer_->App(); }

@@ -5,6 +5,7 @@
 #include <draftwick/rtf/UniqueFile.h>
 
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace draftwick {
@@ -40,6 +41,16 @@ std::string FolderOf(platform::FileSystem& files, const std::string& name) {
     const std::string full = files.FullName(name);
     const std::size_t end = full.rfind(files.Separator());
     return end == full.npos ? "." : full.substr(0, end);
+}
+
+/// The file that is going to be `name`, under a temporary name in its folder. The host knows no other name than its own.
+UniqueFile CreateTemporary(platform::FileSystem& files, const std::string& folder, const std::string& name) {
+    try {
+        return CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);
+    } catch (const std::system_error& failure) {
+        if (name.empty()) throw;
+        RaiseFileError(failure.code(), "create", name);
+    }
 }
 
 /// Gives the file the name, in place of an old file. If that cannot be replaced, it is in use: then a number goes
@@ -85,13 +96,21 @@ private:
 
 }  // namespace
 
+OutputFiles::~OutputFiles() {
+    try {
+        if (body_ != nullptr) body_->Close();
+    } catch (...) {  // nobody is left to hear of it
+    }
+}
+
 void OutputFiles::OpenBody(Session& session) {
     const std::string& chosen = session.settings.tempPath;
     UniqueFile body = CreateUniqueFile(*session.platform.files,
                                        chosen.empty() ? session.platform.environment->TempFolder() : chosen,
                                        "~dw", ".tmp", platform::Creation::ExclusivePrivate);
-    body_ = std::make_unique<BlockWriter>(std::move(body.file), body.name);
-    bodyFileName_ = std::move(body.name);
+    std::string fullName = session.platform.files->FullName(body.name);
+    body_ = std::make_unique<BlockWriter>(std::move(body.file), std::move(body.name));
+    bodyFileName_ = std::move(fullName);
     session.writer.output.SetStream(body_.get());
 }
 
@@ -104,7 +123,11 @@ void OutputFiles::AssembleOutputFile(Session& session) {
     }
     body_->Close();
     session.writer.output.SetStream(nullptr);
-    if (actualFileName_.empty()) actualFileName_ = CreateOutputFile(session);
+    if (actualFileName_.empty()) {
+        std::string name = CreateOutputFile(session);
+        fullFileName_ = session.platform.files->FullName(name);
+        actualFileName_ = std::move(name);
+    }
     Delete(session, bodyFileName_);
 }
 
@@ -125,9 +148,10 @@ std::string OutputFiles::CreateOutputFile(Session& session) {
     // The folder of a file that has no name yet is the environment's, not TempPath.
     const std::string folder =
         name.empty() ? session.platform.environment->TempFolder() : FolderOf(files, name);
-    UniqueFile file = CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);
+    UniqueFile file = CreateTemporary(files, folder, name);
     try {
-        WriteOutput(session, *body, {std::move(file.file), file.name});
+        // The host knows the file by the name that it gave.
+        WriteOutput(session, *body, {std::move(file.file), name.empty() ? file.name : name});
         return name.empty() ? GiveNewName(files, file.name, folder)
                             : GiveName(files, file.name, name, extension);
     } catch (...) {

@@ -13,6 +13,12 @@ class Session;
 /// that Finish makes of it.
 class OutputFiles {
 public:
+    OutputFiles() = default;
+    /// Closes the body file of a document that was let go, with the lines that were written so far. Nothing fails.
+    ~OutputFiles();
+    OutputFiles(const OutputFiles&) = delete;
+    OutputFiles& operator=(const OutputFiles&) = delete;
+
     /// Creates the body file and lets the output go there. Changes nothing when it fails.
     void OpenBody(Session& session);
 
@@ -23,6 +29,8 @@ public:
     /// Whether the brace that closes the document is written.
     bool Ended() const noexcept { return ended_; }
     const std::string& ActualFileName() const noexcept { return actualFileName_; }
+    /// The same file by the name that finds it whatever the current folder is by now.
+    const std::string& FullFileName() const noexcept { return fullFileName_; }
 
 private:
     std::string CreateOutputFile(Session& session);
@@ -31,6 +39,7 @@ private:
     std::unique_ptr<BlockWriter> body_;
     std::string bodyFileName_;
     std::string actualFileName_;
+    std::string fullFileName_;
     bool ended_ = false;
 };
 

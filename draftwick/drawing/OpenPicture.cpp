@@ -57,7 +57,7 @@ void OpenPicture::Convert(const platform::Platform& platform, const platform::Pi
                                  .name;
     std::error_code ignored;
     try {
-        const int twipsPerPixel = platform.pictures->TwipsPerPixel();
+        const double twipsPerPixel = platform.pictures->TwipsPerPixel();
         std::error_code error;
         platform.pictures->Record(picture, HimetricToPixels(width_, twipsPerPixel),
                                   HimetricToPixels(height_, twipsPerPixel), files, name, error);

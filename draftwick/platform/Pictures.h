@@ -89,13 +89,14 @@ public:
     virtual void Record(const Picture& picture, std::int32_t width, std::int32_t height, FileSystem& files,
                         const std::string& name, std::error_code& error) = 0;
 
-    /// How many twips (1/1440 inch) a pixel of the screen is wide; the same figure serves for its height.
-    virtual int TwipsPerPixel() const = 0;
+    /// How many twips (1/1440 inch) a pixel of the screen is wide, not always a whole number of them; the same figure
+    /// serves for its height.
+    virtual double TwipsPerPixel() const = 0;
 };
 
 /// The system's own pictures service. Where no screen can be asked, a pixel is `twipsPerPixel` wide: 15 means
 /// 96 pixels per inch. 1 to 1440; std::invalid_argument otherwise.
-DRAFTWICK_API std::shared_ptr<Pictures> SystemPictures(int twipsPerPixel = 15);
+DRAFTWICK_API std::shared_ptr<Pictures> SystemPictures(double twipsPerPixel = 15);
 
 }  // namespace draftwick::platform
 

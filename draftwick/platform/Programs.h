@@ -32,9 +32,9 @@ public:
     /// Sends keystrokes to the window in front, without waiting: "^p" is Ctrl+P, "~" is Enter.
     virtual void SendKeys(const std::string& keys) = 0;
 
-    /// The name, without its folder, of the first file that matches a pattern ("folder\*.exe"); empty when none
-    /// does.
-    virtual std::string FirstMatch(const std::string& pattern) = 0;
+    /// The program of a command line for Start: `start`, a folder with its separator, and behind it the name of the first
+    /// file that `start` and "*.exe" match. Without such a file it is `start` alone, which cannot be started.
+    virtual std::string FirstProgram(const std::string& start) = 0;
 };
 
 }  // namespace draftwick::platform

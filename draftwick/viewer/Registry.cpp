@@ -76,8 +76,9 @@ Registry::Value Registry::QueryValue(std::string_view section, std::string_view 
     std::string bytes;
     if (open == nullptr || open->QueryValue(std::string{key}, type, bytes)) return {};
     if (type == RegistryType::Text) {
-        // The last character is taken to be the terminating zero, whatever it is; what stands behind an earlier
-        // zero is no text.
+        // The last character is taken to be the terminating zero, whatever it is, and all its bytes; what stands behind
+        // an earlier zero is no text.
+        while (!bytes.empty() && (static_cast<unsigned char>(bytes.back()) & 0xC0) == 0x80) bytes.pop_back();
         if (!bytes.empty()) bytes.pop_back();
         return bytes.substr(0, bytes.find('\0'));
     }
@@ -157,7 +158,7 @@ std::vector<std::string> Registry::ReadAllValueNames(std::string_view section) c
 }
 
 void Registry::DeleteSection(std::string_view section) const {
-    if (KeyPath(section).empty()) return;  // that would be all there is
+    if (KeyPath(section).find_first_not_of('\\') == std::string::npos) return;  // that would be all there is
     const auto open = CreateKey({});
     if (open == nullptr) return;
     // A key that has subkeys cannot be deleted: the deepest go first.

@@ -18,9 +18,11 @@ class Registry {
 public:
     explicit Registry(platform::RegistryStore& store) : store_(store) {}
 
-    /// Default RegistryRoot::CurrentUser.
+    /// Default RegistryRoot::CurrentUser, which 0 means, too.
     platform::RegistryRoot Root() const noexcept { return root_; }
-    void SetRoot(platform::RegistryRoot root) noexcept { root_ = root; }
+    void SetRoot(platform::RegistryRoot root) noexcept {
+        root_ = root == platform::RegistryRoot{} ? platform::RegistryRoot::CurrentUser : root;
+    }
     /// The path of the key below the root. Default empty.
     const std::string& Path() const noexcept { return path_; }
     void SetPath(std::string_view path) { path_ = path; }

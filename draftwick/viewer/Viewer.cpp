@@ -135,8 +135,8 @@ std::string Viewer::FindViewerCommand() const {
     registry.SetRoot(platform::RegistryRoot::CurrentUser);
     registry.SetPath("Software\\Microsoft\\Word Viewer\\8.0");
     if (std::string folder = registry.ReadString("Options", "PROGRAMDIR", ""); !folder.empty()) {
-        if (!folder.ends_with('\\')) folder += '\\';
-        return ProgramIn(folder);
+        if (folder.ends_with('/') || folder.ends_with('\\')) folder.pop_back();
+        return ProgramIn(folder + platform_.files->Separator());
     }
 
     registry.SetRoot(platform::RegistryRoot::LocalMachine);
@@ -158,7 +158,7 @@ std::string Viewer::FindViewerCommand() const {
 
 /// The command line for the first program in a folder; without a program it cannot be started, and that says so.
 std::string Viewer::ProgramIn(const std::string& folder) const {
-    return folder + platform_.programs->FirstMatch(folder + "*.exe") + " \"%1\"";
+    return platform_.programs->FirstProgram(folder) + " \"%1\"";
 }
 
 }  // namespace draftwick

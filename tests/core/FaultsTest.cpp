@@ -66,9 +66,32 @@ TEST(Faults, OfEveryFileOperationAreReportedOnceAndMended) {
                 ASSERT_EQ(built.reports.size(), renamed || left ? 0U : 1U);
                 if (built.reports.empty()) continue;
                 EXPECT_NE(built.reports[0].find('\''), std::string::npos) << built.reports[0];
+                // A file that the host named is reported by that name.
+                EXPECT_TRUE(*name == '\0' || built.reports[0].find("~dwout") == std::string::npos)
+                    << built.reports[0];
                 EXPECT_NE(built.reports[0].find(std::make_error_code(failure).message()), std::string::npos);
             }
         }
+    }
+}
+
+// The lines so far are there, all but what a failing file does not take.
+TEST(Faults, OfADocumentThatIsLetGoAreIgnored) {
+    const std::string text(300, 'a'), line = text + "\r\n";
+    for (const bool fails : {false, true}) {
+        const auto files = std::make_shared<MemoryFiles>();
+        auto document = Document::Create(MakeFakePlatform(files));
+        const auto section = document->AddSection();
+        for (int paragraphs = 0; paragraphs < 20; ++paragraphs) AddText(*section, text);
+        if (fails) files->FailAt(files->Operations() + 1, std::errc::no_space_on_device, 1000);
+        document.reset();
+        const std::string body = files->Bytes("/temp/~dw1.tmp");
+        int lines = 0;
+        for (std::size_t at = body.find(line); at != body.npos; at = body.find(line, at + 1)) ++lines;
+        // The last text waits for what comes after it.
+        EXPECT_TRUE(fails ? body.size() == 1000 : lines == 19 && body.ends_with(line)) << body;
+        EXPECT_EQ(files->Names(), std::vector<std::string>{"/temp/~dw1.tmp"});
+        EXPECT_EQ(files->OpenFiles(), 0);
     }
 }
 

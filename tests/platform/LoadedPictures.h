@@ -14,7 +14,7 @@ namespace draftwick::test {
 
 inline std::unique_ptr<const platform::Picture> LoadBytes(const std::string& bytes,
                                                           platform::PictureKind kind, std::error_code& error,
-                                                          int twipsPerPixel = 15) {
+                                                          double twipsPerPixel = 15) {
     const auto files = std::make_shared<MemoryFiles>();
     files->Put("picture", bytes);
     auto picture = platform::SystemPictures(twipsPerPixel)->Load(*files, "picture", kind, error);

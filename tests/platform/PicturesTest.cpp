@@ -1,5 +1,6 @@
 #include <draftwick/platform/Pictures.h>
 #include <draftwick/platform/Platform.h>
+#include <draftwick/platform/pictures/Parts.h>
 
 #include "tests/platform/LoadedPictures.h"
 
@@ -141,18 +142,14 @@ TEST(Pictures, SizeInHimetric) {
 }
 
 TEST(Pictures, HimetricSizesGiveTheirPixelsBack) {
-    for (const int twips : {15, 12, 20, 10, 1, 7}) {
+    for (const double twips : {15.0, 12.0, 20.0, 1.0, 7.5, 1440.0 / 168}) {
         for (int pixels = 1; pixels <= 1500; ++pixels) {
-            const auto width = static_cast<std::size_t>(pixels);
-            const std::string bytes = MakeBmp({pixels, 1, std::vector<std::uint8_t>(width)}, {.bits = 1});
-            std::error_code error;
-            const auto picture = LoadBytes(bytes, PictureKind::Bmp, error, twips);
-            ASSERT_TRUE(picture);
-            // Where there is a screen, it decides.
-            const int actual = SystemPictures(twips)->TwipsPerPixel();
-            ASSERT_EQ(std::floor(picture->Width() / 2540.0 * 1440 / actual), pixels) << twips;
+            const int himetric = pictures::HimetricFromPixels(pixels, twips);
+            ASSERT_EQ(std::floor(himetric / 2540.0 * 1440 / twips), pixels) << twips;
+            ASSERT_LT(std::floor((himetric - 1) / 2540.0 * 1440 / twips), pixels) << twips;
         }
     }
+    EXPECT_EQ(pictures::HimetricFromPixels(192, 7.5), 2540);  // an inch at 192 pixels per inch
 }
 
 /// A sound file of every kind, in the order of PictureKind.

@@ -35,7 +35,7 @@ public:
     std::string installedVersion;  ///< of the word processor that can be started; empty: there is none
     int failingOpens = 0;          ///< so many documents cannot be opened
 
-    std::map<std::string, std::string> matches;  ///< the first file of a pattern
+    std::map<std::string, std::string> programs;  ///< the first one of a folder
     std::string printCommand;
     bool startFails = false;
     std::int32_t lastTask = 100;  // counted up before use
@@ -53,7 +53,7 @@ public:
     void ProcessEvents() override { log.emplace_back("events"); }
     void Activate(std::int32_t task) override { log.push_back("activate " + std::to_string(task)); }
     void SendKeys(const std::string& keys) override { log.push_back("keys " + keys); }
-    std::string FirstMatch(const std::string& pattern) override { return matches[pattern]; }
+    std::string FirstProgram(const std::string& start) override { return start + programs[start]; }
 
 private:
     class Word;

@@ -50,6 +50,9 @@ using Names = std::vector<std::string>;
 
 TEST_F(Settings, AreTheUsersUnlessSaidOtherwise) {
     EXPECT_EQ(static_cast<std::uint32_t>(Registry{*store}.Root()), 0x80000001U);
+    registry.SetRoot(RegistryRoot::LocalMachine);
+    registry.SetRoot(RegistryRoot{});
+    EXPECT_EQ(registry.Root(), RegistryRoot::CurrentUser);
 }
 
 TEST_F(Settings, ReadTextsAsEveryKind) {
@@ -108,6 +111,9 @@ TEST_F(Settings, GiveTheDefaultForWhatIsNotThereOrOfAnotherType) {
     EXPECT_FALSE(Key()->SetValue("Binary", static_cast<RegistryType>(3), "12\0", 3));
     EXPECT_EQ(registry.ReadString("", "Binary", "other"), "other");
     EXPECT_EQ(registry.ReadLong("", "Binary", 7), 7);
+    // Without its terminating zero a text loses its last character, and that is a whole one.
+    EXPECT_FALSE(Key()->SetValue("Cut", RegistryType::Text, "caf\xC3\xA9.", 5));
+    EXPECT_EQ(registry.ReadString("", "Cut", "other"), "caf");
     EXPECT_FALSE(Key()->SetValue("Empty", RegistryType::Text, "x", 0));
     EXPECT_EQ(registry.ReadString("", "Empty", "other"), "");
     EXPECT_EQ(registry.ReadDouble("", "Empty", 7), 7);
@@ -144,6 +150,14 @@ TEST_F(Settings, ListAndDeleteWhatTheyHold) {
     EXPECT_EQ(registry.ReadAllValueNames("Section\\a"), (Names{"Second", "Third \xE2\x82\xAC"}));
     // A key with subkeys does not go by itself.
     EXPECT_EQ(Key()->DeleteKey("Section"), std::errc::permission_denied);
+
+    // A root does not go, whatever it is called.
+    Registry root(*store);
+    root.DeleteSection("");
+    root.DeleteSection("\\");
+    root.SetPath("\\");
+    root.DeleteSection("\\\\");
+    EXPECT_EQ(registry.ReadAllSubKeys(""), (Names{"Section", "Sections"}));
 
     registry.DeleteSection("Section");
     EXPECT_EQ(registry.ReadAllSubKeys(""), Names{"Sections"});

@@ -1,6 +1,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/TempFolder.h"
 
 #include <draftwick/draftwick.h>
 
@@ -157,13 +158,13 @@ TEST_F(Viewers, AreFoundWhereTheyLeaveATrace) {
          "UninstallString", R"(C:\setup\setup.exeV\setup\setup.exeSetup\Setup.exe)",
          R"(C:\V\Setup\Setup.exethree.exe "%1")"},
         {RegistryRoot::CurrentUser, R"(Software\Microsoft\Word Viewer\8.0\Options)", "PROGRAMDIR",
-         R"(C:\Program Files\Viewer)", R"(C:\Program Files\Viewer\two.exe "%1")"},
+         "/opt/The viewer", R"(/opt/The viewer/two.exe "%1")"},
         {RegistryRoot::LocalMachine, R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)", "",
          R"(one "%1" and %1)", R"(one "%1" and %1)"},
     };
-    desktop->matches = {{R"(C:\Acme\*.exe)", "four.exe"},
-                        {R"(C:\V\Setup\Setup.exe*.exe)", "three.exe"},
-                        {R"(C:\Program Files\Viewer\*.exe)", "two.exe"}};
+    desktop->programs = {{R"(C:\Acme\)", "four.exe"},
+                         {R"(C:\V\Setup\Setup.exe)", "three.exe"},
+                         {"/opt/The viewer/", "two.exe"}};
     for (const auto& source : sources) {
         desktop->SetText(source.root, source.path, source.name, source.text);
         EXPECT_EQ(document->Preview(dwViewerWordView97), dwViewerWordView97);
@@ -173,9 +174,30 @@ TEST_F(Viewers, AreFoundWhereTheyLeaveATrace) {
     desktop->SetText(RegistryRoot::LocalMachine, R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)",
                      "", "");
     desktop->SetText(RegistryRoot::CurrentUser, R"(Software\Microsoft\Word Viewer\8.0\Options)", "PROGRAMDIR",
-                     R"(D:\)");
+                     "/mnt/");
     document->Preview(dwViewerWordView97);
-    EXPECT_EQ(desktop->TakeLog(), R"(start D:\ "%1" of /docs/a.rtf)");
+    EXPECT_EQ(desktop->TakeLog(), R"(start /mnt/ "%1" of /docs/a.rtf)");
+}
+
+// It stays the same file when the current folder changes afterwards, and the temporary one is found while it is written.
+TEST_F(Viewers, GetTheFileThatWasFinished) {
+    const TempFolder there, elsewhere;
+    InstallViewer();
+    platform::Platform services = MakeFakePlatform(files, desktop);
+    services.files = platform::SystemPlatform().files;
+    document = Document::Create(services);
+    document->SetFilename("c.rtf");
+    document->SetTempPath(".");
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(elsewhere.Path());
+    document->AddSection();
+    std::filesystem::current_path(there.Path());
+    document->Finish();
+    std::filesystem::current_path(elsewhere.Path());
+    document->Preview(dwViewerWordView97);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(desktop->TakeLog(), "start " + viewer + " of " + there / "c.rtf");
+    EXPECT_EQ(ReadFile(there / "c.rtf").substr(0, 6), "{\\rtf1");
 }
 
 TEST_F(Viewers, PrintInTheirOwnWayWhereTheyTakeNoKeystrokes) {

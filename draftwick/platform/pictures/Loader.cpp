@@ -59,8 +59,8 @@ std::error_code make_error_code(PictureError error) noexcept {
     return {static_cast<int>(error), category};
 }
 
-std::shared_ptr<Pictures> SystemPictures(int twipsPerPixel) {
-    if (twipsPerPixel < 1 || twipsPerPixel > 1440)
+std::shared_ptr<Pictures> SystemPictures(double twipsPerPixel) {
+    if (!(twipsPerPixel >= 1 && twipsPerPixel <= 1440))
         throw std::invalid_argument("A pixel is 1 to 1440 twips wide");
     return pictures::MakePictures(twipsPerPixel);
 }

@@ -13,11 +13,11 @@ namespace draftwick::platform::pictures {
 /// the readers that need its libraries, what it keeps of a bitmap, and the recorder.
 class Loader : public Pictures {
 public:
-    explicit Loader(int twipsPerPixel) : twipsPerPixel_(twipsPerPixel) {}
+    explicit Loader(double twipsPerPixel) : twipsPerPixel_(twipsPerPixel) {}
 
     std::unique_ptr<const Picture> Load(FileSystem& files, const std::string& name, PictureKind kind,
                                         std::error_code& error) override;
-    int TwipsPerPixel() const override { return twipsPerPixel_; }
+    double TwipsPerPixel() const override { return twipsPerPixel_; }
 
 protected:
     using Loaded = std::unique_ptr<const Picture>;
@@ -35,10 +35,10 @@ protected:
 private:
     Loaded Read(PictureSource& source, PictureKind kind) const;
 
-    int twipsPerPixel_;
+    double twipsPerPixel_;
 };
 
 /// The system's loader.
-std::shared_ptr<Pictures> MakePictures(int twipsPerPixel);
+std::shared_ptr<Pictures> MakePictures(double twipsPerPixel);
 
 }  // namespace draftwick::platform::pictures

@@ -5,12 +5,11 @@
 
 namespace draftwick::platform::pictures {
 
-std::int32_t HimetricFromPixels(std::int32_t pixels, int twipsPerPixel) {
-    // pixels * twips * 2540 / 1440, rounded up.
-    auto himetric = (std::int64_t{pixels} * twipsPerPixel * 127 + 71) / 72;
+std::int32_t HimetricFromPixels(std::int32_t pixels, double twipsPerPixel) {
+    auto himetric = static_cast<std::int32_t>(pixels * twipsPerPixel * 2540 / 1440);
     // Whoever converts back does so in floating point, where a whole number can come out a hair too small.
-    if (std::floor(static_cast<double>(himetric) / 2540 * 1440 / twipsPerPixel) < pixels) ++himetric;
-    return static_cast<std::int32_t>(himetric);
+    while (std::floor(himetric / 2540.0 * 1440 / twipsPerPixel) < pixels) ++himetric;
+    return himetric;
 }
 
 std::optional<Bitmap> MakeBitmap(std::int64_t width, std::int64_t height) {

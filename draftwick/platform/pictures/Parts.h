@@ -16,8 +16,8 @@ struct Size {
     std::int32_t height = 0;
 };
 
-/// The HIMETRIC length of so many screen pixels, rounded up.
-std::int32_t HimetricFromPixels(std::int32_t pixels, int twipsPerPixel);
+/// The least HIMETRIC length that gives so many screen pixels back, as Pictures.h says.
+std::int32_t HimetricFromPixels(std::int32_t pixels, double twipsPerPixel);
 
 /// A decoded picture: rows from top to bottom without padding, three bytes (blue, green, red) per pixel.
 struct Bitmap {

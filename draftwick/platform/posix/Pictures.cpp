@@ -55,7 +55,7 @@ private:
 
 }  // namespace posix
 
-std::shared_ptr<Pictures> pictures::MakePictures(int twipsPerPixel) {
+std::shared_ptr<Pictures> pictures::MakePictures(double twipsPerPixel) {
     return std::make_shared<posix::PosixPictures>(twipsPerPixel);
 }
 

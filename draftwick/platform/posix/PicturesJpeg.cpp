@@ -77,7 +77,7 @@ std::int32_t Himetric(JDIMENSION pixels, double perInch) {
 
 }  // namespace
 
-std::optional<Size> ReadJpegSize(PictureSource& source, int twipsPerPixel) {
+std::optional<Size> ReadJpegSize(PictureSource& source, double twipsPerPixel) {
     ErrorManager errors;
     jpeg_std_error(&errors.base);
     errors.base.error_exit = Escape;

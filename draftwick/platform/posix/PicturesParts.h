@@ -16,10 +16,10 @@ using pictures::Size;
 
 // The readers. Each starts at the beginning of the file and returns nothing when it is unreadable.
 std::optional<Bitmap> ReadGif(PictureSource& source);
-std::optional<Size> ReadJpegSize(PictureSource& source, int twipsPerPixel);
+std::optional<Size> ReadJpegSize(PictureSource& source, double twipsPerPixel);
 
 /// Writes the top left part of a bitmap as an enhanced metafile; `frame` is that part's size.
 void WriteMetafile(const Bitmap& bitmap, std::int32_t width, std::int32_t height, Size frame,
-                   int twipsPerPixel, File& file, std::error_code& error);
+                   double twipsPerPixel, File& file, std::error_code& error);
 
 }  // namespace draftwick::platform::posix

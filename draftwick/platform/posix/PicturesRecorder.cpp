@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
+#include <cmath>
 
 // An enhanced metafile of three records: header, the bitmap, end. [MS-EMF] 2.3.4.2, 2.3.1.7 and 2.3.4.1 give
 // their fields.
@@ -126,15 +126,15 @@ void PackRow(const std::uint8_t* pixels, std::int32_t width, const Colours& colo
 }  // namespace
 
 void WriteMetafile(const Bitmap& bitmap, std::int32_t width, std::int32_t height, Size frame,
-                   int twipsPerPixel, File& file, std::error_code& error) {
+                   double twipsPerPixel, File& file, std::error_code& error) {
     const Colours colours(bitmap, width, height);
     const std::uint32_t rowSize = (static_cast<std::uint32_t>(width) * colours.Bits() + 31) / 32 * 4;
     const std::uint32_t pixelsSize = rowSize * static_cast<std::uint32_t>(height);
     const std::uint32_t infoSize = BitmapHeaderSize + colours.TableSize() * 4;
     const std::uint32_t bitmapSize = BitmapFieldsSize + infoSize + pixelsSize;
     // The reference device: a screen of 20 by 15 inches, 508 by 381 mm.
-    const std::int32_t deviceWidth = 20 * 1440 / twipsPerPixel;
-    const std::int32_t deviceHeight = 15 * 1440 / twipsPerPixel;
+    const auto deviceWidth = static_cast<std::int32_t>(std::lround(20 * 1440 / twipsPerPixel));
+    const auto deviceHeight = static_cast<std::int32_t>(std::lround(15 * 1440 / twipsPerPixel));
 
     Output out(file, error);
     out.PutAll(1, HeaderSize);                         // EMR_HEADER

@@ -4,9 +4,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <dirent.h>
 #include <fcntl.h>
-#include <fnmatch.h>
+#include <filesystem>
 #include <spawn.h>
 #include <stdexcept>
 #include <string_view>
@@ -146,23 +145,25 @@ public:
     void Activate(std::int32_t) override { Fail(ENOTSUP, "cannot activate a window"); }
     void SendKeys(const std::string&) override { Fail(ENOTSUP, "cannot send keystrokes"); }
 
-    std::string FirstMatch(const std::string& pattern) override {
-        const std::size_t end = pattern.find_last_of("/\\");
-        const std::string folder = end == std::string::npos ? "./" : pattern.substr(0, end) + '/';
-        const std::string names = pattern.substr(end + 1);
+    /// In quotes, whatever it holds.
+    std::string FirstProgram(const std::string& start) override {
+        const std::filesystem::path path(start);
         std::string first;
-        DIR* const list = ::opendir(folder.c_str());
-        if (list == nullptr) return first;
-        while (const dirent* entry = ::readdir(list)) {  // NOLINT(concurrency-mt-unsafe)
-            const std::string name = entry->d_name;
-            struct stat status {};
-            if (::fnmatch(names.c_str(), name.c_str(), FNM_NOESCAPE) != 0
-                || ::stat((folder + name).c_str(), &status) != 0 || !S_ISREG(status.st_mode))
-                continue;
-            if (first.empty() || name < first) first = name;
+        std::error_code error;
+        for (std::filesystem::directory_iterator entry(path.parent_path(), error), end;
+             !error && entry != end; entry.increment(error)) {
+            const std::string name = entry->path().filename().string();
+            std::error_code unknown;
+            if (name.starts_with(path.filename().string()) && name.ends_with(".exe")
+                && (first.empty() || name < first) && entry->is_regular_file(unknown))
+                first = name;
         }
-        ::closedir(list);
-        return first;
+        std::string quoted = "\"";
+        for (const char c : start + first) {
+            if (c == '"') quoted += '\\';
+            quoted += c;
+        }
+        return quoted + '"';
     }
 };
 

@@ -198,20 +198,20 @@ private:
 };
 
 /// What the screen says; 0 when there is none.
-int ScreenTwipsPerPixel() {
+double ScreenTwipsPerPixel() {
     const HDC screen = ::GetDC(nullptr);
     if (screen == nullptr) return 0;
     const int perInch = ::GetDeviceCaps(screen, LOGPIXELSX);
     ::ReleaseDC(nullptr, screen);
-    return perInch > 0 ? 1440 / perInch : 0;
+    return perInch > 0 ? 1440.0 / perInch : 0;
 }
 
 }  // namespace
 
 }  // namespace windows
 
-std::shared_ptr<Pictures> pictures::MakePictures(int twipsPerPixel) {
-    const int screen = windows::ScreenTwipsPerPixel();
+std::shared_ptr<Pictures> pictures::MakePictures(double twipsPerPixel) {
+    const double screen = windows::ScreenTwipsPerPixel();
     return std::make_shared<windows::WindowsPictures>(screen > 0 ? screen : twipsPerPixel);
 }
 

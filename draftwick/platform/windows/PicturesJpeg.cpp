@@ -29,7 +29,7 @@ std::int32_t Himetric(int pixels, double perInch) {
 }  // namespace
 
 // ITU-T T.81 B.1 has the markers and B.2.2 the frame header; the JFIF header is the first marker of its file.
-std::optional<Size> ReadJpegSize(PictureSource& source, int twipsPerPixel) {
+std::optional<Size> ReadJpegSize(PictureSource& source, double twipsPerPixel) {
     std::array<std::uint8_t, 14> head{};
     if (!source.ReadAll(head.data(), 2) || BigU16(&head[0]) != 0xFFD8) return {};
     int unit = 0;

@@ -128,16 +128,17 @@ public:
             Fail(LastError(), "cannot send keystrokes");
     }
 
-    std::string FirstMatch(const std::string& pattern) override {
+    /// Without quotes: the system itself tries where the name of the program ends.
+    std::string FirstProgram(const std::string& start) override {
         WIN32_FIND_DATAW found{};
-        const HANDLE search = ::FindFirstFileW(ToWide(pattern).c_str(), &found);
-        if (search == INVALID_HANDLE_VALUE) return {};
+        const HANDLE search = ::FindFirstFileW(ToWide(start + "*.exe").c_str(), &found);
+        if (search == INVALID_HANDLE_VALUE) return start;
         std::string name;
         do {
             if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) name = FromWide(found.cFileName);
         } while (name.empty() && ::FindNextFileW(search, &found));
         ::FindClose(search);
-        return name;
+        return start + name;
     }
 };
 

@@ -1,8 +1,11 @@
+#include "tests/support/Errors.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
 
 #include <draftwick/draftwick.h>
 #include <draftwick/platform/Platform.h>
+#include <draftwick/viewer/Registry.h>
 
 #include <gtest/gtest.h>
 
@@ -30,7 +33,7 @@ protected:
     Recorder() {
         std::filesystem::create_directory(records);
         WriteFile(program, "#!/bin/sh\n{ for word; do printf '%s\\0' \"$word\"; done; } >\"" + records
-                               + "/$$.new\"\nmv \"" + records + "/$$.new\" \"" + records + "/$$\"\n");
+                               + "/$$.new\"\n/bin/mv \"" + records + "/$$.new\" \"" + records + "/$$\"\n");
         std::filesystem::permissions(program, std::filesystem::perms::owner_all);
     }
 
@@ -148,14 +151,22 @@ TEST_F(Recorder, GetsTheFinishedDocument) {
     EXPECT_FALSE(std::filesystem::exists(folder / "oops"));
 }
 
-TEST(Programs, FirstMatch) {
-    const TempFolder folder;
-    const auto programs = platform::SystemPlatform().programs;
-    EXPECT_EQ(programs->FirstMatch(folder / "*.exe"), "");
-    for (const auto* name : {"b.exe", "a.exe", "a.txt", "c.exe.bak"}) WriteFile(folder / name, "");
-    std::filesystem::create_directory(folder / "0.exe");
-    EXPECT_EQ(programs->FirstMatch(folder / "*.exe"), "a.exe");
-    EXPECT_EQ(programs->FirstMatch(folder / "none/*.exe"), "");
+// With the user's real settings and nothing else on the desktop: a folder with a viewer, whatever its name.
+TEST_F(Recorder, IsTheViewerInTheFolderThatTheSettingsName) {
+    const EnvironmentValue configuration{"XDG_CONFIG_HOME", folder.Path()};
+    const EnvironmentValue path{"PATH", folder.Path()};
+    const std::string home = folder / "The \\ \"viewer\"";
+    Registry registry(*platform::SystemPlatform().registry);
+    registry.SetPath("Software\\Microsoft\\Word Viewer\\8.0");
+    registry.WriteString("Options", "PROGRAMDIR", home);
+    auto document = Document::Create();
+    document->SetFilename(folder / "a.rtf");
+    EXPECT_EQ(RefusalNumber([&] { document->Preview(); }), dwErrNoViewer);
+    std::filesystem::create_directories(home + "/0.exe");
+    for (const auto* name : {"/c.exe", "/b.exe.bak", "/a.txt"}) WriteFile(home + name, "");
+    std::filesystem::rename(program, home + "/b.exe");
+    EXPECT_EQ(document->Preview(), dwViewerWordView97);
+    EXPECT_EQ(Recorded(document->ViewerTaskID()), Words{folder / "a.rtf"});
 }
 
 }  // namespace draftwick::test

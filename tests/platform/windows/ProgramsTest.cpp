@@ -75,11 +75,11 @@ TEST_F(Recorder, MustBeThere) {
 }
 
 TEST_F(Recorder, IsTheFirstProgramOfItsFolder) {
-    EXPECT_EQ(programs->FirstMatch(folder / "*.exe"), "");
+    EXPECT_EQ(programs->FirstProgram(folder / ""), folder / "");
     WriteFile(folder / "a.txt", "");
     std::filesystem::create_directory(folder / "folder.exe");
     WriteFile(folder / "b.exe", "");
-    EXPECT_EQ(programs->FirstMatch(folder / "*.exe"), "b.exe");
+    EXPECT_EQ(programs->FirstProgram(folder / ""), folder / "b.exe");
 }
 
 // From Preview to the program, with the real registry.
