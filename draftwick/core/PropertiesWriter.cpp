@@ -41,7 +41,9 @@ void EmitBuiltIn(Output& output, std::int32_t position, const Variant& value) {
     } else if (const auto* date = std::get_if<Date>(&value)) {
         WriteDateGroup(output, word, *date);
     } else {
+        output.WriteGroupStart();
         output.WriteControlWord(word, std::get<std::int32_t>(value));
+        output.WriteGroupEnd();
     }
 }
 

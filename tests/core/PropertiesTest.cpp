@@ -23,7 +23,7 @@ TEST(Properties, AreWrittenWhenTheyHaveAValue) {
     EXPECT_EQ(PropertyWords([](Properties& all) {
                   all.Items(dwBIPCharacters)->SetValue(-5), all.Items(dwBIPTitle)->SetValue("");
               }),
-              R"({\info{\title}\nofchars-5})");
+              R"({\info{\title}{\nofchars-5}})");
 }
 
 TEST(Properties, HaveTheirWordsInOrder) {
@@ -42,7 +42,7 @@ TEST(Properties, HaveTheirWordsInOrder) {
                      R"({\hlinkbase 11\{}{\creatim\yr2012)"
                          + time + R"({\revtim\yr2013)" + time + R"({\printim\yr2014)" + time
                          + R"({\buptim\yr2015)" + time
-                         + R"(\version16\edmins17\nofpages18\nofwords19\nofchars20})");
+                         + R"({\version16}{\edmins17}{\nofpages18}{\nofwords19}{\nofchars20}})");
 }
 
 TEST(Properties, OfTheHostHaveTypesAndLinks) {

@@ -77,4 +77,17 @@ std::string Words(std::string_view rtf) {
     return words;
 }
 
+std::string FirstDifference(std::string_view expected, std::string_view actual) {
+    constexpr std::size_t Around = 100;
+    const std::size_t same = static_cast<std::size_t>(
+        std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end()).first
+        - expected.begin());
+    const std::size_t word = expected.substr(0, same + 1).find_last_of("\\{}\n");
+    const std::size_t start = word == expected.npos ? 0 : word;
+    const std::size_t before = start < Around ? 0 : start - Around;
+    return "alike: " + std::string{expected.substr(before, start - before)}
+           + "\nexpected: " + std::string{expected.substr(start, Around)}
+           + "\nactual:   " + std::string{actual.substr(std::min(start, actual.size()), Around)};
+}
+
 }  // namespace draftwick::test
