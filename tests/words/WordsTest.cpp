@@ -41,33 +41,35 @@ std::string Encode(const std::string& text) {
     return bytes;
 }
 
+/// The lines that mean something, with their numbers and with those that go on with them.
+std::vector<std::pair<int, std::string>> LinesOf(const std::string& file) {
+    std::vector<std::pair<int, std::string>> lines;
+    std::istringstream text(ReadFile(file));
+    int number = 0;
+    for (std::string line; std::getline(text, line);) {
+        ++number;
+        if (line.starts_with(' ')) {
+            line = Trim(line);
+            lines.back().second += (line.find_first_of("\\{}<") == 0 ? "" : " ") + line;
+        } else if (!line.empty() && line[0] != '#') {
+            lines.emplace_back(number, line);
+        }
+    }
+    return lines;
+}
+
 /// One file of rows.
 class Rows {
 public:
     explicit Rows(std::string file) : file_(std::move(file)) {}
 
     void Replay() {
-        std::istringstream lines(ReadFile(file_));
-        std::string whole;
-        int number = 0, start = 0;
-        for (std::string line; std::getline(lines, line);) {
-            ++number;
-            if (line.starts_with(' ')) {
-                line = Trim(line);
-                whole += line.find_first_of("\\{}<") == 0 ? line : " " + line;
-                continue;
-            }
-            Take(whole, start);
-            whole = line.starts_with('#') ? "" : line;
-            start = number;
-        }
-        Take(whole, start);
+        for (const auto& [number, line] : LinesOf(file_)) Take(line, number);
         EXPECT_GT(rows_, 0) << file_;
     }
 
 private:
     void Take(const std::string& line, int number) {
-        if (line.empty()) return;
         const auto parts = Split(line, "=>");
         const Spellings words = SpellingsOf(parts);
         if (line[0] == '[') {
@@ -140,21 +142,40 @@ private:
     int rows_ = 0;
 };
 
-std::vector<std::string> Files() {
+std::vector<std::string> TextsIn(const char* folder) {
     std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::directory_iterator(DRAFTWICK_WORDS_FOLDER)) {
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         if (entry.path().extension() == ".txt") files.push_back(entry.path().stem().string());
     }
     return files;
 }
 
 class WordsFile : public testing::TestWithParam<std::string> {};
+class Golden : public testing::TestWithParam<std::string> {};
 
 }  // namespace
 
 TEST_P(WordsFile, IsWritten) { Rows(DRAFTWICK_WORDS_FOLDER "/" + GetParam() + ".txt").Replay(); }
 
-INSTANTIATE_TEST_SUITE_P(Of, WordsFile, testing::ValuesIn(Files()),
+// The steps in NAME.txt give NAME.rtf, byte for byte; if they do not, what they give is left in the build's folder
+// golden-actual.
+TEST_P(Golden, IsWrittenToTheByte) {
+    const TestDocument built;
+    Script script(built.document);
+    for (const auto& line : LinesOf(DRAFTWICK_GOLDEN_FOLDER "/" + GetParam() + ".txt")) script.Run(line.second);
+    const std::string actual = built.Finish(LineBreaks::Any);
+    const std::string expected = ReadFile(DRAFTWICK_GOLDEN_FOLDER "/" + GetParam() + ".rtf");
+    const std::filesystem::path left = DRAFTWICK_GOLDEN_ACTUAL_FOLDER "/" + GetParam() + ".rtf";
+    std::filesystem::remove(left);
+    if (actual == expected) return;
+    std::filesystem::create_directories(left.parent_path());
+    WriteFile(left.string(), actual);
+    ADD_FAILURE() << left.string() << '\n' << FirstDifference(expected, actual);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, WordsFile, testing::ValuesIn(TextsIn(DRAFTWICK_WORDS_FOLDER)),
+                         [](const auto& info) { return info.param; });
+INSTANTIATE_TEST_SUITE_P(Of, Golden, testing::ValuesIn(TextsIn(DRAFTWICK_GOLDEN_FOLDER)),
                          [](const auto& info) { return info.param; });
 
 }  // namespace draftwick::test
