@@ -86,7 +86,8 @@ std::string FirstDifference(std::string_view expected, std::string_view actual) 
     while (at > 0 && (at == length || std::string_view{"\\{}"}.find(expected[at]) == expected.npos)) --at;
     const auto part = [](std::string_view text, std::size_t from, std::size_t size) {
         std::string shown{text.substr(from, size)};
-        for (std::size_t end = 0; (end = shown.find("\r\n", end)) != shown.npos;) shown.replace(end, 2, "<CRLF>");
+        for (std::size_t end = 0; (end = shown.find("\r\n", end)) != shown.npos;)
+            shown.replace(end, 2, "<CRLF>");
         return shown;
     };
     const std::size_t before = at - std::min(at, Around);

@@ -85,9 +85,8 @@ bool IsSetting(std::string_view word) {
 
 }  // namespace
 
-Script::Script(std::shared_ptr<Document> document)
-    : objects_{{"document", document}, {"special", std::make_shared<Special>()}}, last_(std::move(document)) {
-}
+Script::Script(const std::shared_ptr<Document>& document, ObjectPointer object)
+    : objects_{{"document", document}, {"special", std::make_shared<Special>()}}, last_(std::move(object)) {}
 
 Variant Script::ValueOf(std::string_view word) const {
     if (word.starts_with('\'')) return TextOf(word);
@@ -153,6 +152,10 @@ void Script::Run(std::string_view step) {
     }
     while (word != words.end()) Set(*word++);
     if (!name.empty()) objects_.insert_or_assign(std::string{name}, last_);
+}
+
+void Apply(std::string_view settings, Object& object) {
+    Script(object.Document(), object.Self()).Run(settings);
 }
 
 }  // namespace draftwick::test

@@ -14,7 +14,9 @@ namespace draftwick::test {
 class Script {
 public:
     /// The steps know the document as "document", and the codes of special characters as "special".
-    explicit Script(std::shared_ptr<Document> document);
+    explicit Script(const std::shared_ptr<Document>& document) : Script(document, document) {}
+    /// The first step may speak of this object without a path.
+    Script(const std::shared_ptr<Document>& document, std::shared_ptr<Object> object);
 
     /// One step: [NAME:] [PATH] [ARGUMENT]... [PROPERTY=VALUE]... std::invalid_argument for what is none; what an
     /// object refuses is its own error.
@@ -38,6 +40,9 @@ private:
     std::map<std::string, std::shared_ptr<Object>, std::less<>> objects_;
     std::shared_ptr<Object> last_;
 };
+
+/// Sets properties of an object: "Wrap=dwSWNone LockAnchor=true Left=-10.0".
+void Apply(std::string_view settings, Object& object);
 
 /// The value of an enumeration's constant: 3 for "dwAlignCenter". std::invalid_argument when there is none.
 std::int32_t ConstantNamed(std::string_view name);

@@ -162,7 +162,8 @@ TEST_P(WordsFile, IsWritten) { Rows(DRAFTWICK_WORDS_FOLDER "/" + GetParam() + ".
 TEST_P(Golden, IsWrittenToTheByte) {
     const TestDocument built;
     Script script(built.document);
-    for (const auto& line : LinesOf(DRAFTWICK_GOLDEN_FOLDER "/" + GetParam() + ".txt")) script.Run(line.second);
+    for (const auto& line : LinesOf(DRAFTWICK_GOLDEN_FOLDER "/" + GetParam() + ".txt"))
+        script.Run(line.second);
     const std::string actual = built.Finish(LineBreaks::Any);
     const std::string expected = ReadFile(DRAFTWICK_GOLDEN_FOLDER "/" + GetParam() + ".rtf");
     const std::filesystem::path left = DRAFTWICK_GOLDEN_ACTUAL_FOLDER "/" + GetParam() + ".rtf";
