@@ -1,6 +1,9 @@
 #include <draftwick/format/TabStops.h>
 #include <draftwick/model/Access.h>
 
+#include <cmath>
+#include <limits>
+
 namespace draftwick {
 
 std::shared_ptr<TabStop> TabStops::Add(double position, dwTabAlign align, dwTabLeader leader) {
@@ -8,9 +11,9 @@ std::shared_ptr<TabStop> TabStops::Add(double position, dwTabAlign align, dwTabL
     CheckRange(align, dwTabLeft, dwTabBar, "TabStops.Add.Align");
     CheckRange(leader, dwTabLeaderNone, dwTabLeaderUnderline, "TabStops.Add.Leader");
     TabStop::Values values{.align = align, .leader = leader};
-    // Through a double that is a float: converting one that is too large to float has no defined value.
-    values.position.Set(position, scale);
-    values.position.Set(static_cast<float>(position), scale);
+    // What is too large for single precision has no defined value there; it fits no length either.
+    const bool fits = std::abs(position) <= std::numeric_limits<float>::max();
+    values.position.Set(fits ? static_cast<float>(position) : position, scale);
     stops_.push_back(MakeStop(values));
     return stops_.back();
 }

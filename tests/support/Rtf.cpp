@@ -77,4 +77,22 @@ std::string Words(std::string_view rtf) {
     return words;
 }
 
+std::string FirstDifference(std::string_view expected, std::string_view actual) {
+    constexpr std::size_t Around = 100;
+    const std::size_t length = std::min(expected.size(), actual.size());
+    std::size_t at = 0;
+    while (at < length && expected[at] == actual[at]) ++at;
+    // Back to where the word begins.
+    while (at > 0 && (at == length || std::string_view{"\\{}"}.find(expected[at]) == expected.npos)) --at;
+    const auto part = [](std::string_view text, std::size_t from, std::size_t size) {
+        std::string shown{text.substr(from, size)};
+        for (std::size_t end = 0; (end = shown.find("\r\n", end)) != shown.npos;)
+            shown.replace(end, 2, "<CRLF>");
+        return shown;
+    };
+    const std::size_t before = at - std::min(at, Around);
+    return "alike:    " + part(expected, before, at - before) + "\nexpected: " + part(expected, at, Around)
+           + "\nactual:   " + part(actual, at, Around);
+}
+
 }  // namespace draftwick::test

@@ -16,4 +16,7 @@ std::string CheckFile(std::string_view bytes, LineBreaks lineBreaks = LineBreaks
 /// word and the text that follows it, but nowhere else. "\b\r\nx" and "\b x" give "\b x"; "\b \i" gives "\b\i".
 std::string Words(std::string_view rtf);
 
+/// Two files, or words, from the first word in which they differ, and what stands in front of it in both.
+std::string FirstDifference(std::string_view expected, std::string_view actual);
+
 }  // namespace draftwick::test
