@@ -5,7 +5,7 @@
 namespace draftwick {
 
 /// The codes of RTF's special characters, for TextItem::AddSpecial. Needs no document.
-class DRAFTWICK_API Special final : public Node {
+class DRAFTWICK_API Special final : public detail::Node {
 public:
     Special() = default;
 

@@ -35,7 +35,7 @@ struct ParagraphSettings {
 void EmitParagraph(RtfWriter& writer, const ParagraphSettings& paragraph, const DocumentSettings& document);
 
 /// A run as it is about to be written; null for what it does not have.
-struct RunSettings {
+struct detail::RunSettings {
     const TextStyle* style;
     const FontFormat* fontFormat;
     const FontFormat* paragraphFontFormat;

@@ -20,7 +20,7 @@ namespace draftwick {
 std::shared_ptr<Document> Document::Create() { return Create(platform::SystemPlatform()); }
 
 std::shared_ptr<Document> Document::Create(platform::Platform services) {
-    const auto session = std::make_shared<draftwick::Session>(std::move(services));
+    const auto session = std::make_shared<detail::Session>(std::move(services));
     auto document = std::make_shared<Document>(Origin(session), session->settings);
     document->Open();
     return document;
@@ -38,7 +38,7 @@ void Document::Open() {
     collections_->paragraphStyles = std::make_shared<draftwick::ParagraphStyles>(origin);
     collections_->textStyles = std::make_shared<draftwick::TextStyles>(origin);
     collections_->properties = std::make_shared<draftwick::Properties>(origin);
-    draftwick::Session& session = *SharedSession();
+    detail::Session& session = *SharedSession();
     session.document = this;
     session.documentLink = weak_from_this();
     session.collections = collections_.get();
@@ -46,7 +46,7 @@ void Document::Open() {
 }
 
 Document::~Document() {
-    draftwick::Session& session = *SharedSession();
+    detail::Session& session = *SharedSession();
     session.writer.output.SetStream(nullptr);
     session.writer.names = nullptr;
     session.document = nullptr;

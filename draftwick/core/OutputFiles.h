@@ -1,11 +1,12 @@
 #pragma once
 
+#include <draftwick/base/internal/Names.h>
 #include <draftwick/rtf/BlockWriter.h>
 
 #include <memory>
 #include <string>
 
-namespace draftwick {
+namespace draftwick::detail {
 
 class Session;
 
@@ -43,4 +44,4 @@ private:
     bool ended_ = false;
 };
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

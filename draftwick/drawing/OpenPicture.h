@@ -1,5 +1,6 @@
 #pragma once
 
+#include <draftwick/base/internal/Names.h>
 #include <draftwick/platform/Platform.h>
 
 #include <cstdint>
@@ -8,10 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace draftwick {
-
-/// What a file holds according to the end of its name, in small letters; nothing when no picture has such a name.
-std::optional<platform::PictureKind> PictureTypeFromName(std::string_view fileName);
+namespace draftwick::detail {
 
 /// A picture that was found, understood, converted if it must be, and read: everything that can fail before a byte of
 /// it is written.
@@ -43,4 +41,4 @@ private:
     std::vector<unsigned char> bytes_;
 };
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <draftwick/base/internal/Names.h>
 #include <string_view>
 #include <vector>
 

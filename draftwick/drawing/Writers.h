@@ -33,7 +33,7 @@ void EmitPicture(RtfWriter& writer, const OpenPicture& picture,
                  const std::optional<OpenPicture::Scale>& scale = {});
 
 /// A shape as it is about to be written.
-struct ShapeSettings {
+struct detail::ShapeSettings {
     std::int32_t index;
     const Shape::Values& shape;
     const ShapeFill::Values& fill;

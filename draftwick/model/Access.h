@@ -1,6 +1,7 @@
 #pragma once
 
-namespace draftwick {
+#include <draftwick/base/internal/Names.h>
+namespace draftwick::detail {
 
 /// The library's own way to what an object keeps: its classes let this one in, and hosts do not have its header.
 struct Access {
@@ -30,4 +31,4 @@ void CopyValues(Type& to, const Type& from) {
     Access::Values(to) = Access::Values(from);
 }
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

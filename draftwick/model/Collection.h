@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-namespace draftwick {
+namespace draftwick::detail {
 
 /// Walks a collection by position, from 1 to Count.
 template <class Collection>
@@ -128,4 +128,4 @@ ClassMethod ItemsMethod() {
     return MethodOf<&Collection::ItemOf>("Items", {{"Index"}});
 }
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

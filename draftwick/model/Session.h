@@ -1,5 +1,6 @@
 #pragma once
 
+#include <draftwick/base/internal/Names.h>
 #include <draftwick/model/DocumentSettings.h>
 #include <draftwick/platform/Platform.h>
 #include <draftwick/rtf/RtfWriter.h>
@@ -16,6 +17,8 @@ class Object;
 class ParagraphStyles;
 class Properties;
 class TextStyles;
+
+namespace detail {
 
 /// What a document owns beside its content: its parts refer to it by name, and the header of the file lists it.
 struct Collections {
@@ -42,5 +45,7 @@ public:
     draftwick::Collections* collections = nullptr;
     std::weak_ptr<Object> documentLink;
 };
+
+}  // namespace detail
 
 }  // namespace draftwick

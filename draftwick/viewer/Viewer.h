@@ -1,5 +1,6 @@
 #pragma once
 
+#include <draftwick/base/internal/Names.h>
 #include <draftwick/model/Object.h>
 #include <draftwick/platform/Platform.h>
 #include <draftwick/viewer/AutomationObject.h>
@@ -9,7 +10,7 @@
 #include <memory>
 #include <string>
 
-namespace draftwick {
+namespace draftwick::detail {
 
 /// Hands a finished document to a program that shows or prints it, and keeps which one it was. Never closes it.
 class Viewer {
@@ -48,4 +49,4 @@ private:
     bool wordStartedHere_ = false;  // the word processor in use was started on explicit request
 };
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

@@ -187,7 +187,8 @@ Variant Read(const Subject& subject, const ClassProperty& property) {
 TEST_P(EveryWay, LeadsToAnObjectInItsPlaceWithItsDefaults) {
     const Subject subject(GetParam());
     const std::string member{GetParam().empty() ? "" : GetParam().back()};
-    const ObjectPointer object = subject.Object(), from = subject.way[subject.way.size() - !member.empty() - 1];
+    const ObjectPointer object = subject.Object(),
+                        from = subject.way[subject.way.size() - !member.empty() - 1];
     std::set<std::string_view> given{"ScaleMode"};  // which subjects set
     if (const ClassMethod* method = from->Description().FindMethod(member)) {
         for (const Argument& argument : method->arguments) given.insert(argument.name);
@@ -336,7 +337,8 @@ TEST_P(EveryWay, LeadsToSettingsThatChangeTheFile) {
         const auto written = [&](const Variant* value) {
             const Subject subject(GetParam());
             for (const auto& of : {owner, name}) {
-                if (Switches.contains(of)) Script(subject.document.document, subject.Object()).Run(Switches.at(of));
+                if (Switches.contains(of))
+                    Script(subject.document.document, subject.Object()).Run(Switches.at(of));
             }
             if (value != nullptr) Set(*subject.Object(), property.name, *value);
             return subject.Finish();
