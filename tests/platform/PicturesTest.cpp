@@ -123,6 +123,8 @@ TEST(Pictures, SizeInHimetric) {
         {MakeJpeg(96, 48, 1, 0, 300), PictureKind::Jpeg, 2540, 1270},
         {MakeJpeg(96, 48, -1, 300, 300), PictureKind::Jpeg, 2540, 1270},
         {MakeJpeg(1, 1, 1, 65535, 65535), PictureKind::Jpeg, 1, 1},
+        // What should not be between two segments is passed over.
+        {MakeJpeg(96, 48, -1, 0, 0).insert(2, "junk\xFF\xFF"), PictureKind::Jpeg, 2540, 1270},
         {MakeEmf(-100, 20, 2440, 1290), PictureKind::Emf, 2540, 1270},
         {MakeEmf(0, 0, -1, -1), PictureKind::Emf, 0, 0},
         {MakeWmf(-10, 0, 1430, 720, 1440), PictureKind::Wmf, 2540, 1270},

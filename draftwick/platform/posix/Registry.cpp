@@ -1,4 +1,4 @@
-#include <draftwick/platform/posix/Posix.h>
+#include <draftwick/platform/System.h>
 #include <draftwick/text/CaseFolding.h>
 
 #include <cerrno>
@@ -16,7 +16,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace draftwick::platform::posix {
+namespace draftwick::platform {
 
 namespace {
 
@@ -150,6 +150,22 @@ std::string SettingsFolder() {
     return std::string{home} + "/.config/draftwick/";
 }
 
+/// Whether a program of that name can be started.
+bool IsProgram(const std::string& name) {
+    const char* value = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
+    std::string_view folders = value != nullptr ? value : "";
+    while (!folders.empty()) {
+        const std::string_view folder = folders.substr(0, folders.find(':'));
+        folders.remove_prefix(std::min(folder.size() + 1, folders.size()));
+        const std::string file = std::string{folder} + '/' + name;
+        struct stat status {};
+        if (!folder.empty() && ::access(file.c_str(), X_OK) == 0 && ::stat(file.c_str(), &status) == 0
+            && S_ISREG(status.st_mode))
+            return true;
+    }
+    return false;
+}
+
 /// What a desktop has in place of a machine's registry: the program that shows documents.
 Tree MachineTree() {
     Tree tree;
@@ -267,4 +283,4 @@ private:
 
 std::shared_ptr<RegistryStore> MakeRegistryStore() { return std::make_shared<Store>(); }
 
-}  // namespace draftwick::platform::posix
+}  // namespace draftwick::platform

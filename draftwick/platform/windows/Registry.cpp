@@ -3,9 +3,11 @@
 #include <cstring>
 #include <utility>
 
-namespace draftwick::platform::windows {
+namespace draftwick::platform {
 
 namespace {
+
+using namespace windows;
 
 std::error_code Outcome(LSTATUS status) {
     return status == ERROR_SUCCESS ? std::error_code{} : SystemError(static_cast<unsigned long>(status));
@@ -114,4 +116,4 @@ private:
 
 std::shared_ptr<RegistryStore> MakeRegistryStore() { return std::make_shared<Store>(); }
 
-}  // namespace draftwick::platform::windows
+}  // namespace draftwick::platform
