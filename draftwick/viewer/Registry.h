@@ -3,7 +3,6 @@
 #include <draftwick/platform/RegistryStore.h>
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -11,8 +10,8 @@
 
 namespace draftwick {
 
-/// Reads and writes the values under one key of the system's settings, or in a section (a subkey) of it. Every
-/// operation opens the key that it needs and closes it again. Nothing here fails: what cannot be read is the
+/// Reads and writes the values under one key of the system's settings, or in a section (a subkey) of it. No key stays
+/// open between two operations. Nothing here fails: what cannot be read is the
 /// caller's default, what cannot be written is not written.
 class Registry {
 public:
@@ -60,8 +59,6 @@ private:
     using Value = std::variant<std::monostate, std::string, std::int32_t>;
 
     std::string KeyPath(std::string_view section) const;
-    std::unique_ptr<platform::RegistryKey> OpenKey(std::string_view section) const;
-    std::unique_ptr<platform::RegistryKey> CreateKey(std::string_view section) const;
     Value QueryValue(std::string_view section, std::string_view key) const;
     void SetValue(std::string_view section, std::string_view key, platform::RegistryType type,
                   const char* data, std::size_t size) const;

@@ -26,7 +26,7 @@ const std::string Jpeg = [] {
     bytes.resize(100);
     return bytes;
 }();
-const Indices Checks{3, 2, {0, 1, 2, 3, 4, 7}};
+const std::string Bmp = PictureFile("sample/4.bmp"), Gif = PictureFile("sample/a.gif");
 
 /// A document whose first paragraph has one shape.
 struct WithShape : TestDocument {
@@ -153,7 +153,7 @@ TEST(InlinePicture, CanHoldTextBeforeItsData) {
 
 // As every record, this one starts with its kind, 1, and after the rectangles of its header comes " EMF".
 TEST(Picture, OfPixelsBecomesAMetafile) {
-    const std::string files[2][2]{{"a.bmp", MakeBmp(Checks, {.bits = 4})}, {"a.gif", MakeGif(Checks, {})}};
+    const std::string files[2][2]{{"a.bmp", Bmp}, {"a.gif", Gif}};
     for (const bool inLine : {false, true}) {
         for (const auto& [name, content] : files) {
             WithShape built;
@@ -165,7 +165,7 @@ TEST(Picture, OfPixelsBecomesAMetafile) {
             const std::string words = built.Body();
             const std::string data = Between(words.substr(words.find(expected)) + "}", " ", "}");
             EXPECT_EQ(data.substr(0, 8), "01000000") << name;
-            EXPECT_EQ(data.substr(32, 16), "0200000001000000") << name;  // the last pixel of 3 by 2
+            EXPECT_EQ(data.substr(32, 16), "0400000002000000") << name;  // the last pixel of 5 by 3
             EXPECT_EQ(data.substr(80, 8), "20454D46") << name;
             EXPECT_EQ(Hex(Le32(static_cast<std::uint32_t>(data.size() / 2))), data.substr(96, 8)) << name;
             EXPECT_EQ(built.Temporary(), std::vector<std::string>{"/temp/~DWGC1.tmp"});
@@ -189,10 +189,10 @@ TEST(Picture, IsJudgedBeforeItsShape) {
         {"a.jpg.", Jpeg, "X105 Unsupported File Type: a.jpg."},
         {"b.jpg", Emf, "481"},
         {"b.emf", Jpeg, "481"},
-        {"b.gif", MakeBmp(Checks, {}), "481"},
-        {"b.bmp", MakeGif(Checks, {}), "481"},
-        {"c.bmp", MakeBmp(Checks, {}).substr(0, 60), "481"},
-        {"c.gif", MakeGif(Checks, {}).substr(0, 20), "481"},
+        {"b.gif", Bmp, "481"},
+        {"b.bmp", Gif, "481"},
+        {"c.bmp", Bmp.substr(0, 60), "481"},
+        {"c.gif", Gif.substr(0, 20), "481"},
         {"flat.emf", MakeEmf(0, 0, 0, 0), "11"},
         {"flat.wmf", std::string(40, '\1'), "11"},
     };
@@ -216,7 +216,7 @@ TEST(Picture, IsJudgedBeforeItsShape) {
 
 TEST(Picture, WithTheLineRefusedLeavesNoFileOfTheFill) {
     WithShape built(dwSKRectangle);
-    built.files->Put("a.bmp", MakeBmp(Checks, {}));
+    built.files->Put("a.bmp", Bmp);
     Apply({{"Style", dwSFSPicTile}, {"Picture", "a.bmp"}}, *built.shape->Fill());
     Apply({{"Texture", dwSLTPicture}, {"Picture", "none.gif"}}, *built.shape->Line());
     EXPECT_EQ(RefusalNumber([&] { built.shape->AddParagraph(); }), dwErrPictureFileNotFound);
@@ -239,7 +239,7 @@ TEST(Picture, ReportsWhatTheFileSystemSays) {
     std::filesystem::create_directory(folder / "folder.jpg");
     shape->Fill()->SetPicture(folder / "folder.jpg");
     EXPECT_EQ(RefusalNumber([&] { document->Finish(); }), dwErrPictureFileNotFound);
-    WriteFile(folder / "a.bmp", MakeBmp(Checks, {}));
+    WriteFile(folder / "a.bmp", Bmp);
     shape->Fill()->SetPicture(folder / "a.bmp");
     EXPECT_THROW(document->Finish(), std::system_error);
     environment->tempFolder = folder.Path();

@@ -33,10 +33,7 @@ protected:
         made->SetFilename("/docs/a.rtf");
         return made;
     }
-    void InstallViewer() const {
-        desktop->SetText(RegistryRoot::LocalMachine,
-                         R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)", "", viewer);
-    }
+    void InstallViewer() const { desktop->settings[FakeDesktop::viewerCommand] = viewer; }
     std::string RefusalOf(dwViewer program) const {
         return Refusal([&] { document->Preview(program); });
     }
@@ -144,37 +141,35 @@ TEST_F(Viewers, HaveANumberFromOneToFour) {
 
 // The first of four places that says something about the viewer decides.
 TEST_F(Viewers, AreFoundWhereTheyLeaveATrace) {
+    const FakeDesktop::Setting options{RegistryRoot::CurrentUser,
+                                       R"(Software\Microsoft\Word Viewer\8.0\Options)", "PROGRAMDIR"};
     const struct {
-        RegistryRoot root;
-        std::string path;
-        std::string name;
+        FakeDesktop::Setting setting;
         std::string text;
         std::string command;
     } sources[] = {
-        {RegistryRoot::LocalMachine, R"(SOFTWARE\Microsoft\MS Setup (ACME)\Table Files)",
-         "Microsoft Word Viewer 97@v96.11.18.01 (1033)", R"(C:\Acme\setup\setup.stf)",
+        {{RegistryRoot::LocalMachine, R"(SOFTWARE\Microsoft\MS Setup (ACME)\Table Files)",
+          "Microsoft Word Viewer 97@v96.11.18.01 (1033)"},
+         R"(C:\Acme\setup\setup.stf)",
          R"(C:\Acme\four.exe "%1")"},
-        {RegistryRoot::LocalMachine, R"(SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\Viewer97)",
-         "UninstallString", R"(C:\setup\setup.exeV\setup\setup.exeSetup\Setup.exe)",
+        {{RegistryRoot::LocalMachine, R"(SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\Viewer97)",
+          "UninstallString"},
+         R"(C:\setup\setup.exeV\setup\setup.exeSetup\Setup.exe)",
          R"(C:\V\Setup\Setup.exethree.exe "%1")"},
-        {RegistryRoot::CurrentUser, R"(Software\Microsoft\Word Viewer\8.0\Options)", "PROGRAMDIR",
-         "/opt/The viewer", R"(/opt/The viewer/two.exe "%1")"},
-        {RegistryRoot::LocalMachine, R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)", "",
-         R"(one "%1" and %1)", R"(one "%1" and %1)"},
+        {options, "/opt/The viewer", R"(/opt/The viewer/two.exe "%1")"},
+        {FakeDesktop::viewerCommand, R"(one "%1" and %1)", R"(one "%1" and %1)"},
     };
     desktop->programs = {{R"(C:\Acme\)", "four.exe"},
                          {R"(C:\V\Setup\Setup.exe)", "three.exe"},
                          {"/opt/The viewer/", "two.exe"}};
     for (const auto& source : sources) {
-        desktop->SetText(source.root, source.path, source.name, source.text);
+        desktop->settings[source.setting] = source.text;
         EXPECT_EQ(document->Preview(dwViewerWordView97), dwViewerWordView97);
         EXPECT_EQ(desktop->TakeLog(), "start " + source.command + " of /docs/a.rtf");
     }
     // An empty text says nothing, a folder without a program is taken at its word.
-    desktop->SetText(RegistryRoot::LocalMachine, R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)",
-                     "", "");
-    desktop->SetText(RegistryRoot::CurrentUser, R"(Software\Microsoft\Word Viewer\8.0\Options)", "PROGRAMDIR",
-                     "/mnt/");
+    desktop->settings[FakeDesktop::viewerCommand] = "";
+    desktop->settings[options] = "/mnt/";
     document->Preview(dwViewerWordView97);
     EXPECT_EQ(desktop->TakeLog(), R"(start /mnt/ "%1" of /docs/a.rtf)");
 }

@@ -130,9 +130,7 @@ TEST_F(Recorder, IsFoundByItsPathOrNotAtAll) {
 // From Preview to the program, through files of the real file system.
 TEST_F(Recorder, GetsTheFinishedDocument) {
     const auto desktop = std::make_shared<FakeDesktop>();
-    desktop->SetText(platform::RegistryRoot::LocalMachine,
-                     "SOFTWARE\\Classes\\Word.Document.8\\shell\\wordview\\command", "",
-                     "\"" + program + "\" \"%1\"");
+    desktop->settings[FakeDesktop::viewerCommand] = "\"" + program + "\" \"%1\"";
     platform::Platform services = platform::SystemPlatform();
     services.registry = desktop;
     const auto before = std::filesystem::current_path();

@@ -1,14 +1,10 @@
-#include <draftwick/platform/windows/PicturesParts.h>
+#include <draftwick/platform/pictures/Parts.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 
-namespace draftwick::platform::windows {
-
-using pictures::HimetricFromPixels;
-using pictures::PictureSource;
-using pictures::Size;
+namespace draftwick::platform::pictures {
 
 namespace {
 
@@ -36,11 +32,11 @@ std::optional<Size> ReadJpegSize(PictureSource& source, double twipsPerPixel) {
     int densityX = 0;
     int densityY = 0;
     while (source.Position() < MaxJpegHeader) {
-        if (source.Get() != 0xFF) return {};
-        int marker = 0xFF;
+        int marker = source.Get();
+        while (marker >= 0 && marker != 0xFF) marker = source.Get();  // what should not be there
         while (marker == 0xFF) marker = source.Get();
-        if (marker <= 0 || marker == 0xD9 || marker == 0xDA) return {};  // the picture, and still no size
-        if (marker == 0x01 || (marker >= 0xD0 && marker <= 0xD7)) continue;
+        if (marker < 0 || marker == 0xD9 || marker == 0xDA) return {};  // the picture, and still no size
+        if (marker <= 0x01 || (marker >= 0xD0 && marker <= 0xD7)) continue;
         if (!source.ReadAll(head.data(), 2)) return {};
         const auto size = static_cast<std::size_t>(BigU16(&head[0]));
         if (size < 2) return {};
@@ -68,4 +64,4 @@ std::optional<Size> ReadJpegSize(PictureSource& source, double twipsPerPixel) {
     return {};
 }
 
-}  // namespace draftwick::platform::windows
+}  // namespace draftwick::platform::pictures
