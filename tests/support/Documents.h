@@ -5,18 +5,13 @@
 #include "tests/support/Rtf.h"
 
 #include <draftwick/draftwick.h>
-#include <draftwick/model/WritingContext.h>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace draftwick::test {
 
@@ -38,9 +33,6 @@ inline std::string Between(const std::string& text, std::string_view after, std:
     const std::size_t end = text.find(before, from);
     return end == text.npos ? "no " + std::string{before} : text.substr(from, end - from);
 }
-
-/// The words of the layout of a paragraph in which nothing is set.
-inline const std::string Spacing = "\\sb0\\sa0\\sl240\\slmult1";
 
 /// A document whose file stays in memory.
 struct TestDocument {
@@ -69,7 +61,7 @@ struct TestDocument {
         std::string words = Words(Finish());
         words = words.substr(words.find("\\endnhere") + 9);
         words.pop_back();
-        ReplaceAll(words, "\\plain\\fs24\\cf0" + Spacing, "~");
+        ReplaceAll(words, R"(\plain\fs24\cf0\sb0\sa0\sl240\slmult1)", "~");
         for (std::size_t at = 0; (at = words.find("\\sectd", at)) != words.npos; ++at) {
             words.replace(at + 6, words.find("\\endnhere", at) + 3 - at, "#");
         }
