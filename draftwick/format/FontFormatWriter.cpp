@@ -84,15 +84,4 @@ FontFormat::Values DefaultFontFormat(const WritingContext& context) {
     return values;
 }
 
-FontFormat::Values BlankReference(const WritingContext& context) {
-    FontFormat::Values blank;
-    blank.subscriptPosition = 0;
-    blank.superscriptPosition = 0;
-    blank.size = 0;
-    blank.underline = static_cast<dwUnderlineStyle>(0);
-    blank.animation = static_cast<dwTextAnimation>(0);
-    blank.font = context.defaultFont;
-    return blank;
-}
-
 }  // namespace draftwick

@@ -14,7 +14,4 @@ void EmitFontFormatChanges(WritingContext& context, const FontFormat::Values& fo
 /// What holds where no format was ever asked for: the defaults and the document's default font.
 FontFormat::Values DefaultFontFormat(const WritingContext& context);
 
-/// A format in which nothing is set, not even what has a default: everything that is set differs from it.
-FontFormat::Values BlankReference(const WritingContext& context);
-
 }  // namespace draftwick

@@ -120,7 +120,7 @@ std::string NameOf(const Way& way) {
 
 /// What cannot be refused: lists never are, neither is the unit.
 bool IsRefused(const Way& way, std::string_view property) {
-    return !(way.size() > 0 && way[0] == "Lists") && property != "ScaleMode";
+    return (way.empty() || way[0] != "Lists") && property != "ScaleMode";
 }
 
 /// Values that a property takes and gives back, and values that it refuses, with the refusal.
