@@ -77,6 +77,8 @@ TEST(Properties, AreFoundAndRemovedByNameAndPosition) {
     EXPECT_EQ(Refusal([&] { all->Remove("A"); }), "X112 Item not found 'A'.");
     EXPECT_EQ(Refusal([&] { all->Remove(23); }), "X112 Item not found '23'.");
     EXPECT_EQ(Refusal([&] { all->Remove("title"); }), "X103 You cannot remove built-in property Title.");
+    document->AddSection();
+    EXPECT_EQ(Refusal([&] { all->Remove("missing"); }), Emitted("Document"));
 }
 
 }  // namespace draftwick::test

@@ -30,6 +30,9 @@ TEST(Columns, AreGivenOutByPosition) {
     auto section = document->AddSection();
     auto columns = section->Columns();
     columns->Auto(2, 1);
+    columns->Clear();
+    EXPECT_EQ(columns->Spacing(), 0.25);
+    columns->Auto(2, 1);
     EXPECT_EQ(columns->Items(1), nullptr);
     auto first = columns->Add(1, 0.5);
     EXPECT_EQ(columns->Items(1), first);
