@@ -1,6 +1,6 @@
 #include <draftwick/base/Error.h>
-#include <draftwick/base/MessageTable.h>
 #include <draftwick/base/Version.h>
+#include <draftwick/base/internal/MessageTable.h>
 #include <draftwick/platform/Platform.h>
 
 #include <atomic>

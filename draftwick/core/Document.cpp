@@ -1,17 +1,17 @@
 #include <draftwick/base/Version.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/core/Document.h>
-#include <draftwick/core/OutputFiles.h>
 #include <draftwick/core/Properties.h>
-#include <draftwick/core/Writers.h>
+#include <draftwick/core/internal/OutputFiles.h>
+#include <draftwick/core/internal/Writers.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/text/Escape.h>
 #include <draftwick/viewer/AutomationObject.h>
-#include <draftwick/viewer/Viewer.h>
+#include <draftwick/viewer/internal/Viewer.h>
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include <draftwick/base/Enumeration.h>
+#include <draftwick/base/internal/Enumeration.h>
 #include <draftwick/core/Properties.h>
 
 #include <cmath>

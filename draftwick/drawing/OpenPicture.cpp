@@ -1,6 +1,6 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
-#include <draftwick/drawing/OpenPicture.h>
+#include <draftwick/drawing/internal/OpenPicture.h>
 #include <draftwick/rtf/BlockWriter.h>
 #include <draftwick/rtf/UniqueFile.h>
 

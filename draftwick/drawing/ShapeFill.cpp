@@ -1,5 +1,5 @@
-#include <draftwick/drawing/ShadeArray.h>
 #include <draftwick/drawing/ShapeFill.h>
+#include <draftwick/drawing/internal/ShadeArray.h>
 #include <draftwick/model/Class.h>
 
 namespace draftwick {

@@ -1,7 +1,7 @@
 #include <draftwick/format/FontFormat.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

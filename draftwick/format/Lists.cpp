@@ -1,5 +1,5 @@
 #include <draftwick/format/Lists.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

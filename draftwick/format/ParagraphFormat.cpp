@@ -1,7 +1,7 @@
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/ParagraphFormat.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

@@ -1,5 +1,5 @@
 #include <draftwick/format/TabStops.h>
-#include <draftwick/model/Access.h>
+#include <draftwick/model/internal/Access.h>
 
 #include <cmath>
 #include <limits>

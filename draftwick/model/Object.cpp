@@ -1,6 +1,6 @@
 #include <draftwick/model/Class.h>
 #include <draftwick/model/Object.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/text/Utf8.h>
 
 namespace draftwick {

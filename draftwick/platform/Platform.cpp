@@ -1,5 +1,5 @@
 #include <draftwick/platform/Platform.h>
-#include <draftwick/platform/System.h>
+#include <draftwick/platform/internal/System.h>
 
 #include <atomic>
 

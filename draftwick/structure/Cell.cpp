@@ -2,7 +2,7 @@
 #include <draftwick/model/Class.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Table.h>
-#include <draftwick/structure/Writers.h>
+#include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 

@@ -1,7 +1,7 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/model/Class.h>
 #include <draftwick/structure/Header.h>
-#include <draftwick/structure/Writers.h>
+#include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 

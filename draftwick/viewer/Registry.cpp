@@ -1,6 +1,6 @@
 #include <draftwick/base/Units.h>
 #include <draftwick/text/CaseFolding.h>
-#include <draftwick/viewer/Registry.h>
+#include <draftwick/viewer/internal/Registry.h>
 
 #include <algorithm>
 #include <array>

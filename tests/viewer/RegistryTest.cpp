@@ -2,7 +2,7 @@
 #include "tests/support/TempFolder.h"
 
 #include <draftwick/platform/Platform.h>
-#include <draftwick/viewer/Registry.h>
+#include <draftwick/viewer/internal/Registry.h>
 
 #include <gtest/gtest.h>
 

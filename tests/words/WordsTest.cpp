@@ -2,7 +2,7 @@
 #include "tests/support/Script.h"
 #include "tests/support/TempFolder.h"
 
-#include <draftwick/platform/CodePage.h>
+#include <draftwick/platform/internal/CodePage.h>
 #include <draftwick/text/Utf8.h>
 
 #include <array>

@@ -1,4 +1,4 @@
-#include <draftwick/platform/System.h>
+#include <draftwick/platform/internal/System.h>
 
 #include <cerrno>
 #include <fcntl.h>

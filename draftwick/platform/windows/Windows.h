@@ -2,7 +2,7 @@
 
 // What the parts for Windows share. Names and texts are UTF-8 outside and UTF-16 inside.
 
-#include <draftwick/platform/System.h>
+#include <draftwick/platform/internal/System.h>
 
 #include <memory>
 #include <string>

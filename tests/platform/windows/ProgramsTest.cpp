@@ -3,7 +3,7 @@
 
 #include <draftwick/draftwick.h>
 #include <draftwick/platform/Platform.h>
-#include <draftwick/viewer/Registry.h>
+#include <draftwick/viewer/internal/Registry.h>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/drawing/Writers.h>
+#include <draftwick/drawing/internal/Writers.h>
 
 namespace draftwick {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <draftwick/drawing/OpenPicture.h>
 #include <draftwick/drawing/Shape.h>
+#include <draftwick/drawing/internal/OpenPicture.h>
 #include <draftwick/rtf/RtfWriter.h>
 
 #include <memory>

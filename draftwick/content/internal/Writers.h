@@ -2,7 +2,7 @@
 
 #include <draftwick/content/Field.h>
 #include <draftwick/content/Section.h>
-#include <draftwick/format/Writers.h>
+#include <draftwick/format/internal/Writers.h>
 #include <draftwick/structure/Columns.h>
 #include <draftwick/structure/PageBorders.h>
 
