@@ -1,6 +1,8 @@
 #include "tests/support/Script.h"
 #include "tests/support/TempFolder.h"
 
+#include <algorithm>
+#include <cctype>
 #include <map>
 #include <stdexcept>
 
@@ -15,8 +17,9 @@ std::map<std::string, std::int32_t, std::less<>> ReadConstants() {
         if (entry.path().extension() != ".h") continue;
         const std::string header = ReadFile(entry.path().string());
         for (std::size_t at = 0; (at = header.find(" dw", at)) != header.npos; ++at) {
-            const std::size_t end = header.find(' ', at + 1);
-            if (header.compare(end, 3, " = ") == 0 && std::isdigit(header[end + 3]) != 0) {
+            const std::size_t end = std::min(header.find(' ', at + 1), header.size());
+            if (header.compare(end, 3, " = ") == 0
+                && std::isdigit(static_cast<unsigned char>(header[end + 3])) != 0) {
                 constants.emplace(header.substr(at + 1, end - at - 1), std::stoi(header.substr(end + 3, 9)));
             }
         }
