@@ -8,6 +8,7 @@
 #include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace draftwick::test {
 
@@ -40,13 +41,7 @@ TEST(Pictures, AreWhiteWhereTheyPaintNothing) {
 }
 
 TEST(Pictures, SizeInHimetric) {
-    struct Case {
-        std::string bytes;
-        PictureKind kind;
-        int width;
-        int height;
-    };
-    const Case cases[] = {
+    const std::tuple<std::string, PictureKind, int, int> cases[] = {
         {PictureFile("sample/24.bmp"), PictureKind::Bmp, 133, 80},  // 132.29 and 79.375
         {PictureFile("wide.gif"), PictureKind::Gif, 635, 27},       // a quarter inch
         {MakeJpeg(300, 150, 1, 300, 75), PictureKind::Jpeg, 2540, 5080},
@@ -66,12 +61,11 @@ TEST(Pictures, SizeInHimetric) {
         {MakeWmf(0, 0, 100, 100, 1000).substr(22), PictureKind::Wmf, 0, 0},
         {"", PictureKind::Wmf, 0, 0},
     };
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
+    for (const auto& [bytes, kind, width, height] : cases) {
         std::error_code error;
-        const auto picture = LoadBytes(cases[i].bytes, cases[i].kind, error);
-        ASSERT_TRUE(picture) << "case " << i;
-        EXPECT_EQ(picture->Width(), cases[i].width) << "case " << i;
-        EXPECT_EQ(picture->Height(), cases[i].height) << "case " << i;
+        const auto picture = LoadBytes(bytes, kind, error);
+        ASSERT_TRUE(picture) << width << " by " << height;
+        EXPECT_EQ(std::pair(picture->Width(), picture->Height()), std::pair(width, height));
     }
 }
 
@@ -104,14 +98,11 @@ TEST(Pictures, UnreadableOnes) {
             const bool loads = LoadBytes(oneOfEach[other], KindAt(kind), error) != nullptr;
             EXPECT_TRUE(loads ? kind == other : error == PictureError::Unreadable) << kind << " is " << other;
         }
+        EXPECT_EQ(LoadBytes("", KindAt(kind), error) != nullptr, KindAt(kind) == PictureKind::Wmf);
     }
     const auto& [jpeg, emf, wmf, gif, bmp] = oneOfEach;
     const std::string runs = PictureFile("sample/rle8.bmp"), fields = PictureFile("sample/16-565.bmp");
     const std::pair<PictureKind, std::string> cases[] = {
-        {PictureKind::Bmp, ""},
-        {PictureKind::Gif, ""},
-        {PictureKind::Jpeg, ""},
-        {PictureKind::Emf, ""},
         {PictureKind::Emf, emf.substr(0, 87)},
         {PictureKind::Emf, MakeEmf(INT32_MIN, 0, INT32_MAX, 9)},
         {PictureKind::Emf, MakeEmf(9, 0, 0, 9)},
@@ -141,12 +132,8 @@ TEST(Pictures, UnreadableOnes) {
 }
 
 TEST(Pictures, CutShortAnywhere) {
-    struct Case {
-        PictureKind kind;
-        std::string bytes;
-        std::size_t spare;  // bytes at the end that can be missing
-    };
-    const Case cases[] = {
+    const std::tuple<PictureKind, std::string, std::size_t> cases[] = {
+        // bytes at the end that can be missing
         {PictureKind::Bmp, PictureFile("sample/4.bmp"), 0},
         {PictureKind::Bmp, PictureFile("sample/16-565.bmp"), 0},
         {PictureKind::Bmp, PictureFile("sample/rle8.bmp"), 2},
@@ -172,23 +159,18 @@ TEST(Pictures, FileErrorsAreNotPictureErrors) {
     EXPECT_FALSE(SystemPictures()->Load(*files, testing::TempDir(), PictureKind::Bmp, error));
     EXPECT_EQ(error, std::errc::is_a_directory);
 
-    const auto failing = [](int operation) {
-        auto files = std::make_shared<MemoryFiles>();
-        files->FailAt(operation, std::errc::io_error);
-        return files;
-    };
-    for (int operation = 1; operation <= 3; ++operation) {  // length, open, read
+    const auto picture = LoadBytes(oneOfEach[4], PictureKind::Bmp, error);
+    for (int operation = 1; operation <= 3; ++operation) {
+        const auto broken = std::make_shared<MemoryFiles>();
+        broken->FailAt(operation, std::errc::io_error);  // create, write, close
+        SystemPictures()->Record(*picture, 5, 3, *broken, "recorded", error);
+        EXPECT_EQ(error, std::errc::io_error);
         for (std::size_t kind = 0; kind < 5; ++kind) {
-            const auto broken = failing(operation);
             broken->Put("picture", oneOfEach[kind]);
+            broken->FailAt(broken->Operations() + operation, std::errc::io_error);  // length, open, read
             EXPECT_FALSE(SystemPictures()->Load(*broken, "picture", KindAt(kind), error)) << kind;
             EXPECT_EQ(error, std::errc::io_error) << kind;
         }
-    }
-    const auto picture = LoadBytes(oneOfEach[4], PictureKind::Bmp, error);
-    for (int operation = 1; operation <= 3; ++operation) {  // create, write, close
-        SystemPictures()->Record(*picture, 5, 3, *failing(operation), "recorded", error);
-        EXPECT_EQ(error, std::errc::io_error);
     }
 }
 

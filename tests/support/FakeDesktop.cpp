@@ -61,18 +61,10 @@ std::error_code FakeDesktop::QueryValue(platform::RegistryRoot root, const std::
     return {};
 }
 
-std::shared_ptr<platform::AutomationObject> FakeDesktop::Attach(const std::string& className) {
-    log.emplace_back("attach");
-    return Offer(className, runningVersion);
-}
-
-std::shared_ptr<platform::AutomationObject> FakeDesktop::Create(const std::string& className) {
-    log.emplace_back("create");
-    return Offer(className, installedVersion);
-}
-
-std::shared_ptr<platform::AutomationObject> FakeDesktop::Offer(const std::string& className,
+std::shared_ptr<platform::AutomationObject> FakeDesktop::Offer(const std::string& how,
+                                                               const std::string& className,
                                                                const std::string& version) {
+    log.push_back(how);
     if (className != "Word.Application" || version.empty()) Fail(std::errc::not_supported, className);
     return std::make_shared<Word>(shared_from_this(), version);
 }

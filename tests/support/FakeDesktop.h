@@ -52,8 +52,12 @@ public:
     std::error_code CreateKey(platform::RegistryRoot, const std::string&) override { return {}; }
     std::error_code DeleteKey(platform::RegistryRoot, const std::string&) override { return {}; }
 
-    std::shared_ptr<platform::AutomationObject> Attach(const std::string& className) override;
-    std::shared_ptr<platform::AutomationObject> Create(const std::string& className) override;
+    std::shared_ptr<platform::AutomationObject> Attach(const std::string& className) override {
+        return Offer("attach", className, runningVersion);
+    }
+    std::shared_ptr<platform::AutomationObject> Create(const std::string& className) override {
+        return Offer("create", className, installedVersion);
+    }
 
     std::int32_t Start(const std::string& commandLine, const std::string& file) override;
     std::string PrintCommand() override { return printCommand; }
@@ -64,7 +68,7 @@ public:
 
 private:
     class Word;
-    std::shared_ptr<platform::AutomationObject> Offer(const std::string& className,
+    std::shared_ptr<platform::AutomationObject> Offer(const std::string& how, const std::string& className,
                                                       const std::string& version);
 };
 

@@ -79,11 +79,8 @@ TEST_F(Settings, ReadTextsAsEveryKind) {
         EXPECT_EQ(registry.ReadString("\xC3\x84 SECTION", "name", "other"), text);
         EXPECT_EQ(registry.ReadLong("\xC3\xA4 section", "Name", -99), number) << text;
         EXPECT_EQ(registry.ReadDouble("\xC3\xA4 section", "Name", -99), real) << text;
-        for (const bool fallback : {false, true}) {
-            EXPECT_EQ(registry.ReadBoolean("\xC3\xA4 section", "Name", fallback),
-                      truth < 0 ? fallback : truth == 1)
-                << text;
-        }
+        EXPECT_EQ(registry.ReadBoolean("\xC3\xA4 section", "Name", false), truth == 1) << text;
+        EXPECT_EQ(registry.ReadBoolean("\xC3\xA4 section", "Name", true), truth != 0) << text;
     }
 }
 
@@ -95,10 +92,10 @@ TEST_F(Settings, ReadNumbersAsEveryKind) {
         EXPECT_EQ(registry.ReadDouble("", "", 0.5), number);
         EXPECT_EQ(registry.ReadBoolean("", "", number == 0), number != 0);
     }
-    registry.WriteBoolean("", "Flag", true);
-    EXPECT_EQ(registry.ReadLong("", "Flag", 7), -1);
-    registry.WriteBoolean("", "Flag", false);
-    EXPECT_EQ(registry.ReadLong("", "Flag", 7), 0);
+    for (const bool flag : {true, false}) {
+        registry.WriteBoolean("", "Flag", flag);
+        EXPECT_EQ(registry.ReadLong("", "Flag", 7), flag ? -1 : 0);
+    }
 }
 
 TEST_F(Settings, GiveTheDefaultForWhatIsNotThereOrOfAnotherType) {
@@ -113,7 +110,6 @@ TEST_F(Settings, GiveTheDefaultForWhatIsNotThereOrOfAnotherType) {
     EXPECT_EQ(registry.ReadString("", "Cut", "other"), "caf");
     Store("Empty", RegistryType::Text, "");
     EXPECT_EQ(registry.ReadString("", "Empty", "other"), "");
-    EXPECT_EQ(registry.ReadDouble("", "Empty", 7), 7);
 }
 
 TEST_F(Settings, StoreRealNumbersInEightCharacters) {
@@ -147,14 +143,6 @@ TEST_F(Settings, ListAndDeleteWhatTheyHold) {
     EXPECT_EQ(registry.ReadAllValueNames("Section\\a"), (Names{"Second", "Third \xE2\x82\xAC"}));
     // A key with subkeys does not go by itself.
     EXPECT_EQ(store->DeleteKey(registry.Root(), registry.Path() + "\\Section"), std::errc::permission_denied);
-
-    // A root does not go, whatever it is called.
-    Registry root(*store);
-    root.DeleteSection("");
-    root.DeleteSection("\\");
-    root.SetPath("\\");
-    root.DeleteSection("\\\\");
-    EXPECT_EQ(registry.ReadAllSubKeys(""), (Names{"Section", "Sections"}));
 
     registry.DeleteSection("Section");
     EXPECT_EQ(registry.ReadAllSubKeys(""), Names{"Sections"});

@@ -11,6 +11,7 @@ namespace draftwick::test {
 namespace {
 
 using platform::RegistryRoot;
+using namespace std::string_literals;
 
 class Store : public testing::Test {
 protected:
@@ -45,15 +46,20 @@ TEST_F(Store, IsATextThatItsUserCanRead) {
     registry.WriteString("\t~", "", "");
     EXPECT_EQ(ReadFile(file), text);
     EXPECT_EQ(registry.ReadString("viewer", "CAF\xC3\x89\t", ""), "two\r\nlines");
+    // The root stays, whatever it is called.
+    for (const char* root : {"", "\\"}) {
+        registry.SetPath(root);
+        registry.DeleteSection("");
+        registry.DeleteSection("\\");
+    }
+    EXPECT_EQ(ReadFile(file), text);
 }
 
 TEST_F(Store, LeavesADamagedFileAlone) {
     std::filesystem::create_directory(folder / "draftwick");
     std::string deep = "a";
     for (int i = 0; i < 100000; ++i) deep += "\\a";
-    for (const std::string& damage :
-         {std::string{"%4"}, std::string{"%zz"}, std::string{"\ta"}, std::string{"\ta\t"},
-          std::string{"\ta\tx\ty"}, std::string{"\ta\t1\t%"}, deep}) {
+    for (const std::string& damage : {"%4"s, "%zz"s, "\ta"s, "\ta\t"s, "\ta\tx\ty"s, "\ta\t1\t%"s, deep}) {
         const std::string text = damage + "\nb\n\tc\t1\td%00\n";
         WriteFile(file, text);
         registry.SetPath("b");
