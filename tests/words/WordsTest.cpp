@@ -5,8 +5,13 @@
 #include <draftwick/platform/internal/CodePage.h>
 #include <draftwick/text/Utf8.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+#include <vector>
 
 /// Replays the rows of tests/words, which its README.md tells how to read.
 namespace draftwick::test {
