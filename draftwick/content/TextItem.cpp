@@ -1,6 +1,6 @@
 #include <draftwick/content/TextItem.h>
 #include <draftwick/content/internal/Writers.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Session.h>
 #include <draftwick/text/Escape.h>
 #include <draftwick/text/Utf8.h>

@@ -1,6 +1,6 @@
 #include <draftwick/drawing/ShapeWordArt.h>
 #include <draftwick/format/Fonts.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
