@@ -4,8 +4,8 @@
 #include <draftwick/content/internal/Writers.h>
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Styles.h>
-#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Footnote.h>

@@ -1,8 +1,8 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/drawing/internal/Writers.h>
-#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Table.h>
 

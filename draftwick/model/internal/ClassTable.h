@@ -1,7 +1,7 @@
 #pragma once
 
-#include <draftwick/base/internal/Names.h>
 #include <draftwick/base/internal/Enumeration.h>
+#include <draftwick/base/internal/Names.h>
 #include <draftwick/model/Class.h>
 #include <draftwick/model/Rules.h>
 
