@@ -127,13 +127,18 @@ std::string MemberOf(const std::string& line) {
     return line.substr(start, bracket - start);
 }
 
-/// "RowContainer" of "class Section final : public RowContainer {", without template arguments.
+/// "RowContainer" of "class Section final : public RowContainer {": the last class that is named, whichever template
+/// it goes through.
 std::string BaseOf(const std::string& line) {
-    constexpr std::string_view Public = ": public ";
-    const auto at = line.find(Public);
+    const auto at = line.find(": public ");
     if (at == std::string::npos) return "";
-    const auto start = at + Public.size();
-    return line.substr(start, line.find_first_of("< ,{", start) - start);
+    std::string bases = line.substr(at + 9, line.find('{') - at - 9);
+    if (bases.find("HeldBy<") != std::string::npos) {
+        const auto comma = bases.find(", ");
+        return comma == std::string::npos ? "Content" : bases.substr(comma + 2, bases.rfind('>') - comma - 2);
+    }
+    if (const auto scope = bases.find("::"); scope != std::string::npos) bases.erase(0, scope + 2);
+    return bases.substr(0, bases.find_first_of("< ,"));
 }
 
 /// Reads the classes of a header. A comment holds for what is declared below it, up to the next comment or empty line.
@@ -142,7 +147,11 @@ void ReadDeclarations(const std::string& source, const std::string& header, Decl
     Declaration* current = nullptr;
     std::string comment;
     bool inComment = false;
-    for (std::string line; std::getline(lines, line);) {
+    for (std::string line, more; std::getline(lines, line);) {
+        // The head of a class can go on in the next line.
+        if (line.starts_with("class ") && !line.ends_with('{') && !line.ends_with(';')
+            && std::getline(lines, more))
+            line += " " + Trimmed(more);
         if (line.starts_with("enum dw")) {
             declarations[line.substr(5, line.find(' ', 5) - 5)].comment = comment;
         } else if (line.starts_with("class ") && line.ends_with('{')) {
