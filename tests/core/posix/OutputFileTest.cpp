@@ -3,6 +3,7 @@
 
 #include <set>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -21,6 +22,12 @@ void Write(const TempFolder& folder, const std::string& name, const std::string&
     document->SetFilename(name);
     AddText(*document->AddSection(), text);
     document->Finish();
+}
+
+/// A device that is full. Whoever may make devices gets one of their own, so that a fault cannot replace the system's.
+std::string FullDevice(const TempFolder& folder) {
+    const std::string name = folder / "full";
+    return ::mknod(name.c_str(), S_IFCHR | 0600, ::makedev(1, 7)) == 0 ? name : "/dev/full";
 }
 
 }  // namespace
@@ -45,10 +52,11 @@ TEST(OutputFile, ReplacesFilesAndLinksAndWritesToEverythingElse) {
     reader.join();
     EXPECT_EQ(CheckFile(received), "");
     EXPECT_TRUE(std::filesystem::is_fifo(pipe));
-    EXPECT_THROW(Write(folder, "/dev/full", "d"), std::system_error);
+    const std::string full = FullDevice(folder);
+    EXPECT_THROW(Write(folder, full, "d"), std::system_error);
     EXPECT_THROW(Write(folder, folder.Path(), "d"), std::system_error);
     EXPECT_THROW(Write(folder, old + std::string(1, '\0') + ".rtf", "d"), std::system_error);
-    EXPECT_TRUE(std::filesystem::exists("/dev/full"));
+    EXPECT_TRUE(std::filesystem::is_character_file(full));
     EXPECT_EQ(CheckFile(ReadFile(old)), "");
 }
 
