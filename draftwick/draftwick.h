@@ -1,6 +1,7 @@
 #pragma once
 
 /// All of Draftwick: what a host includes.
+#include <draftwick/base/Color.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Version.h>
 #include <draftwick/content/Field.h>

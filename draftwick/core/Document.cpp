@@ -13,6 +13,8 @@
 #include <draftwick/viewer/AutomationObject.h>
 #include <draftwick/viewer/internal/Viewer.h>
 
+#include <limits>
+#include <ostream>
 #include <utility>
 
 namespace draftwick {
@@ -47,6 +49,7 @@ void Document::Open() {
 
 Document::~Document() {
     detail::Session& session = *SharedSession();
+    if (settings_.discardOnRelease && !Finished()) files_->Discard();
     session.writer.output.SetStream(nullptr);
     session.writer.names = nullptr;
     session.document = nullptr;
@@ -67,20 +70,90 @@ std::shared_ptr<Section> Document::AddSection() {
     return Add(currentSection_);
 }
 
-void Document::Finish() { Close(); }
+void Document::Finish() {
+    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    Close();
+}
+
+void Document::FinishTo(std::ostream& stream) {
+    const auto check = [&] {
+        if (!stream)
+            throw FileError(std::make_error_code(std::errc::io_error), "cannot write the stream", {});
+    };
+    FinishInto({.write =
+                    [&](std::string_view bytes) {
+                        stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+                        check();
+                    },
+                .end =
+                    [&] {
+                        stream.flush();
+                        check();
+                    }});
+}
+
+void Document::FinishTo(const Sink& sink) {
+    if (!sink)
+        RaiseRuntimeError(dwRunInvalidCall, "there is no function", "Document.FinishTo: give a function");
+    FinishInto({.write = sink, .end = {}});
+}
+
+void Document::FinishInto(const detail::Sink& sink) {
+    Session();
+    CheckNotFinished();
+    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    const auto self = Self();  // the sink may let the document go
+    struct Scope {
+        const detail::Sink*& sink;
+        ~Scope() { sink = nullptr; }
+    } const scope{sink_ = &sink};
+    Close();
+}
+
+void Document::Discard() {
+    detail::Session& session = *SharedSession();
+    if (Finished() || session.discarded) return;
+    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    session.discarded = true;
+    session.writer.output.SetStream(nullptr);
+    const std::error_code error = files_->Discard();
+    if (error) RaiseFileError(error, "delete", files_->BodyFileName());
+}
+
+void Document::SetDiscardOnRelease(bool on) {
+    Session();
+    CheckNotFinished();
+    settings_.discardOnRelease = on;
+}
+
+std::int32_t Document::LostCharacters() const {
+    const std::uint64_t lost = SharedSession()->writer.output.Lost() + files_->LostInHeader();
+    constexpr std::int32_t Most = std::numeric_limits<std::int32_t>::max();
+    return lost < Most ? static_cast<std::int32_t>(lost) : Most;
+}
 
 void Document::WriteStart() {
     files_->OpenBody(Session());
     WriteDocumentFormatting(Writer(), settings_);
 }
 
-void Document::WriteEnd() { files_->AssembleOutputFile(Session()); }
+void Document::WriteEnd() {
+    if (sink_ != nullptr) {
+        files_->AssembleInto(Session(), *sink_);
+    } else {
+        files_->AssembleOutputFile(Session());
+    }
+}
 
 dwViewer Document::Preview(dwViewer program) { return RunViewer(program, false); }
 dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true); }
 
 dwViewer Document::RunViewer(dwViewer program, bool printIt) {
     Finish();
+    if (files_->FullFileName().empty()) {
+        RaiseRuntimeError(dwRunInvalidCall, "the document was finished into a stream",
+                          "Document.Preview: there is no file to show; call Finish in place of FinishTo");
+    }
     // Other programs have a current folder of their own.
     return viewer_->RunViewer(OriginOfChild(), files_->FullFileName(), program, printIt);
 }
@@ -94,6 +167,11 @@ std::string Document::DefaultFontName() const { return settings_.defaultFont.Nam
 void Document::SetDefaultFontName(std::string_view name) {
     OpenForChange();
     settings_.defaultFont.Set(*collections_->fonts, name);
+}
+
+void Document::SetPaperSize(dwPaperSize paper) {
+    OpenForChange();
+    settings_.page.SetPaper(paper, settings_.orientation, "Document.PaperSize");
 }
 
 void Document::SetOrientation(dwOrientation orientation) {
@@ -124,6 +202,7 @@ const Class& Document::Describe() {
         "{BD7B1DD0-EAFD-4C2D-BD88-CD1EC9EA7B64}",
         {
             PropertyOf<&D::ActualFileName>("ActualFileName").As(Kind::Path),
+            PropertyOf<&D::LostCharacters>("LostCharacters"),
             PropertyOf<&D::ViewerApp>("ViewerApp").OrNothing(),
             PropertyOf<&D::ViewerTaskID>("ViewerTaskID"),
             PropertyOf<&D::VerMajor>("VerMajor"),
@@ -139,6 +218,9 @@ const Class& Document::Describe() {
             PropertyOf<&D::TextStyles>("TextStyles"),
             PropertyOf<&D::Filename, &D::SetFilename, &V::filename>("Filename").As(Kind::Path),
             PropertyOf<&D::TempPath, &D::SetTempPath, &V::tempPath>("TempPath").As(Kind::Path),
+            PropertyOf<&D::BodyInMemory, &D::SetBodyInMemory, &V::bodyInMemory>("BodyInMemory"),
+            PropertyOf<&D::DiscardOnRelease, &D::SetDiscardOnRelease, &V::discardOnRelease>(
+                "DiscardOnRelease"),
             PropertyOf<&D::ScaleMode, &D::SetScaleMode, &V::scaleMode>("ScaleMode"),
             PropertyOf<&D::MarginTop, &D::SetMarginTop, &P::marginTop>("MarginTop"),
             PropertyOf<&D::MarginLeft, &D::SetMarginLeft, &P::marginLeft>("MarginLeft"),
@@ -175,11 +257,13 @@ const Class& Document::Describe() {
             PropertyOf<&D::EndnoteRestart, &D::SetEndnoteRestart, &V::endnoteRestart>("EndnoteRestart"),
             PropertyOf<&D::FootnoteStartAt, &D::SetFootnoteStartAt, &V::footnoteStartAt>("FootnoteStartAt"),
             PropertyOf<&D::EndnoteStartAt, &D::SetEndnoteStartAt, &V::endnoteStartAt>("EndnoteStartAt"),
+            PropertyOf<&D::PaperSize, &D::SetPaperSize>("PaperSize"),
             PropertyOf<&D::Orientation, &D::SetOrientation, &V::orientation>("Orientation"),
             PropertyOf<&D::DefaultFontName, &D::SetDefaultFontName>("DefaultFontName"),
         },
         {
             MethodOf<&D::AddSection>("AddSection"),
+            MethodOf<&D::Discard>("Discard"),
             MethodOf<&D::Finish>("Finish"),
             MethodOf<&D::Preview>("Preview", {{"Program", dwViewerAuto}}),
             MethodOf<&D::PrintOut>("PrintOut", {{"Program", dwViewerAuto}}),

@@ -1,4 +1,5 @@
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/content/internal/Members.h>
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/drawing/internal/Writers.h>
 #include <draftwick/model/internal/Access.h>
@@ -35,6 +36,23 @@ void Shape::SetAdjustValues(std::int32_t index, std::int32_t value) {
     values_.adjustValues[static_cast<std::size_t>(index - 1)] = value;
 }
 
+void Shape::Remove() {
+    Session();
+    Withdraw();
+    const auto self = Self();
+    Holder().currentShape_.reset();
+}
+
+void Shape::ShowInLine(std::shared_ptr<const OpenPicture> picture, std::string_view file, Length width,
+                       Length height) {
+    ShapeFill& fill = fill_.Get(AsOwner());
+    fill.values_.picture = file;
+    fill.values_.pictureData = std::move(picture);
+    values_.inLine = true;
+    values_.width = width;
+    values_.height = height;
+}
+
 ShapeSettings Shape::Settings() const {
     return {.index = index_,
             .shape = values_,
@@ -60,7 +78,7 @@ void Shape::WriteRowMark() {
 
 void Shape::WriteStart() {
     const ShapeSettings settings = Settings();
-    ShapePictures pictures = OpenPictures(Session().platform, settings);
+    ShapePictures pictures = OpenPictures(Session().platform, settings, Session().settings.bodyInMemory);
     Writer().EnterShape();
     EmitShapeStart(Writer(), settings, pictures);
     if (settings.IsInlinePicture()) inlinePicture_ = std::move(pictures.fill);
@@ -121,8 +139,9 @@ const Class& Shape::Describe() {
             PropertyOf<&S::WordArt>("WordArt"),
         },
         {
-            MethodOf<&S::AddParagraph>("AddParagraph"),
+            AddParagraphOf<S>(),
             MethodOf<&S::AddTable>("AddTable"),
+            MethodOf<&S::Remove>("Remove"),
         }};
     return description;
 }

@@ -53,7 +53,9 @@ void Output::AppendEncoded(std::string_view text) {
         at += ascii;
         if (ascii == 8 || at == text.size()) continue;
         if (Room - length_ < 8) MakeRoom();
-        length_ += platform::EncodeAnsi(DecodeUtf8(text, at), line_ + length_);
+        const std::size_t size = platform::EncodeAnsi(DecodeUtf8(text, at), line_ + length_);
+        if (size == 1 && line_[length_] == '?' && stream_ != nullptr) ++lost_;
+        length_ += size;
     }
 }
 

@@ -4,7 +4,12 @@
 
 namespace draftwick {
 
-std::shared_ptr<Cell> Table::AddCell() { return Add(currentCell_); }
+std::shared_ptr<Cell> Table::AddCell(const std::shared_ptr<Cell>& like) {
+    const std::shared_ptr<Cell> kept = like;  // it can be CurrentCell
+    auto cell = Add(currentCell_);
+    if (kept != nullptr) cell->BeginLike(*kept);
+    return cell;
+}
 
 void Table::WriteStart() {
     Holder().WriteRowMark();
@@ -39,7 +44,7 @@ const Class& Table::Describe() {
             PropertyOf<&T::Left, &T::SetLeft, &V::left>("Left"),
         },
         {
-            MethodOf<&T::AddCell>("AddCell"),
+            MethodOf<&T::AddCell>("AddCell", {{"Like", Variant{}}}),
         }};
     return description;
 }

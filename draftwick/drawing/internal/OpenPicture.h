@@ -4,6 +4,7 @@
 #include <draftwick/platform/Platform.h>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,8 +17,12 @@ namespace draftwick::detail {
 class OpenPicture {
 public:
     /// dwErrPictureFileNotFound when there is no such file, dwErrUnsupportedFileType for a name without one of the
-    /// known extensions, error 481 when the content is not what the name says; std::system_error.
-    OpenPicture(const platform::Platform& platform, const std::string& fileName);
+    /// known extensions, error 481 when the content is not what the name says; FileError. A picture that must be
+    /// converted is converted in a temporary file or, when that is not wanted, in memory.
+    OpenPicture(const platform::Platform& platform, const std::string& fileName, bool inMemory);
+    /// The picture that the bytes are. dwErrUnsupportedFileType when they begin as none does, else as above.
+    static std::shared_ptr<const OpenPicture> FromBytes(const platform::Platform& platform,
+                                                        std::string_view bytes);
 
     struct Scale {
         std::int32_t x = 100;  ///< percent
@@ -27,12 +32,22 @@ public:
     /// itself has no size, error 6 when the percentage does not fit 32 bits.
     std::optional<Scale> ScaleTo(std::int32_t width, std::int32_t height) const;
 
+    /// The picture's own size in twips, each rounded to the nearest.
+    std::int32_t Width() const;
+    std::int32_t Height() const;
+
     platform::PictureKind Kind() const noexcept { return kind_; }
     /// The bytes of the picture's file, or of what it was converted to.
     const std::vector<unsigned char>& Bytes() const noexcept { return bytes_; }
 
 private:
-    void Convert(const platform::Platform& platform, const platform::Picture& picture);
+    OpenPicture() = default;
+
+    void Load(const platform::Platform& platform, platform::FileSystem& files, const std::string& name,
+              bool inMemory);
+    void Convert(const platform::Platform& platform, const platform::Picture& picture, bool inMemory);
+    void Record(platform::Pictures& service, const platform::Picture& picture, platform::FileSystem& files,
+                const std::string& name);
     void Read(platform::FileSystem& files, const std::string& name);
 
     platform::PictureKind kind_{};
