@@ -64,8 +64,8 @@ Variant Use(Object& object, const std::string& member, const std::vector<Variant
         Set(object, member.substr(1), values.at(0));
         return {};
     }
-    const Class& description = object.Description();
-    return description.FindMethod(member) != nullptr ? Call(object, member, values) : Get(object, member);
+    const bool isProperty = object.Description().FindProperty(member) != nullptr;
+    return isProperty ? Get(object, member, values) : Call(object, member, values);
 }
 
 void Run(const std::string& script, Objects& objects) {

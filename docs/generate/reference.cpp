@@ -8,8 +8,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
-#include <cxxabi.h>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -33,16 +31,6 @@ std::string ReadFile(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// "FontFormat" for draftwick::FontFormat.
-std::string PlainName(const std::type_info& type) {
-    int status = 0;
-    char* readable = abi::__cxa_demangle(type.name(), nullptr, nullptr, &status);
-    std::string name = status == 0 ? readable : type.name();
-    std::free(readable);
-    constexpr std::string_view Space = "draftwick::";
-    return name.starts_with(Space) ? name.substr(Space.size()) : name;
-}
-
 std::string Link(const std::string& page, const std::string& name) {
     std::string anchor = name;
     std::transform(anchor.begin(), anchor.end(), anchor.begin(),
@@ -50,17 +38,12 @@ std::string Link(const std::string& page, const std::string& name) {
     return "[" + name + "](" + page + "#" + anchor + ")";
 }
 
-/// What a host gives or gets.
-std::string TypeName(const std::type_info& type) {
-    if (type == typeid(void)) return "";
-    if (type == typeid(bool)) return "Boolean";
-    if (type == typeid(std::int32_t)) return "number";
-    if (type == typeid(double)) return "real";
-    if (type == typeid(std::string) || type == typeid(std::string_view)) return "text";
-    if (type == typeid(Variant)) return "any";
-    const std::string name = PlainName(type);
-    if (name.starts_with("dw")) return Link("enumerations.md", name);
-    return name == "Object" ? "object" : Link("", name);
+/// What a host gives or gets; nothing of a method that gives nothing.
+std::string TypeName(const Type* type) {
+    if (type == nullptr) return "";
+    const std::string name{type->name};
+    if (type->description != nullptr) return Link("", name);
+    return type->values.empty() ? name : Link("enumerations.md", name);
 }
 
 std::string RealText(double value) {
@@ -77,22 +60,21 @@ std::string ValueText(const Variant& value) {
     return "nothing";
 }
 
-std::string KindText(const ClassProperty& property) {
-    return property.rule.kind == Kind::Length ? "length" : TypeName(*property.type);
-}
+std::string KindText(const ClassProperty& property) { return TypeName(property.type); }
 
-std::string RangeText(const Rule& rule) {
+std::string RangeText(const ClassProperty& property) {
+    const Rule& rule = property.rule;
     if (rule.limited) return std::to_string(rule.low) + "…" + std::to_string(rule.high);
-    if (rule.kind == Kind::Length) return "16 bits of twips";
+    if (property.type->kind == Kind::Length) return "16 bits of twips";
     if (rule.bits == 16) return "16 bits";
     return "";
 }
 
-std::string DefaultText(const Rule& rule) {
-    if (std::holds_alternative<std::monostate>(rule.initial)) return "";
-    const std::string text = ValueText(rule.initial);
+std::string DefaultText(const ClassProperty& property) {
+    if (std::holds_alternative<std::monostate>(property.rule.initial)) return "";
+    const std::string text = ValueText(property.rule.initial);
     if (text == "`\"\"`") return "empty";
-    return rule.kind == Kind::Length && text != "0" ? text + " twips" : text;
+    return property.type->kind == Kind::Length && text != "0" ? text + " twips" : text;
 }
 
 std::string AccessText(const ClassProperty& property) {
@@ -105,7 +87,7 @@ std::string ArgumentsText(const ClassMethod& method) {
     for (const Argument& argument : method.arguments) {
         if (!text.empty()) text += ", ";
         text += argument.name;
-        const std::string type = TypeName(*argument.type);
+        const std::string type = TypeName(argument.type);
         text += ": " + type;
         if (argument.initial) text += " = " + ValueText(*argument.initial);
     }
@@ -216,7 +198,7 @@ std::string PropertyComment(const Declarations& declarations, const std::string&
     const std::string member{property.name};
     const std::string comment =
         CommentOf(declarations, name, property.get == nullptr ? "Set" + member : member);
-    const auto enumeration = declarations.find(PlainName(*property.type));
+    const auto enumeration = declarations.find(std::string{property.type->name});
     if (!comment.empty() || enumeration == declarations.end()) return comment;
     return Escaped(enumeration->second.comment);
 }
@@ -232,14 +214,14 @@ void WriteClass(std::ostream& out, const Class& description, const Declarations&
         for (const ClassProperty& property : description.properties) {
             const std::string member{property.name};
             out << "| " << member << " | " << KindText(property) << AccessText(property) << " | "
-                << RangeText(property.rule) << " | " << DefaultText(property.rule) << " | "
+                << RangeText(property) << " | " << DefaultText(property) << " | "
                 << PropertyComment(declarations, name, property) << " |\n";
         }
     }
     if (!description.methods.empty()) {
         out << "\n| Method | Arguments | Gives | |\n| --- | --- | --- | --- |\n";
         for (const ClassMethod& method : description.methods) {
-            out << "| " << method.name << " | " << ArgumentsText(method) << " | " << TypeName(*method.result)
+            out << "| " << method.name << " | " << ArgumentsText(method) << " | " << TypeName(method.result)
                 << " | " << CommentOf(declarations, name, std::string{method.name}) << " |\n";
         }
     }

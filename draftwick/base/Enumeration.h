@@ -8,8 +8,8 @@
 #include <string_view>
 #include <utility>
 
-/// The names and numbers of an enumeration's values, as the compiler spells them: they are typed where the enumeration
-/// is declared and nowhere else.
+/// The names of types and the names and numbers of an enumeration's values, as the compiler spells them: they are typed
+/// where the enumeration is declared and nowhere else.
 namespace draftwick {
 
 /// Where the values of an enumeration are looked for: among 16 numbers at a time, from `first` to `last` and then on
@@ -29,6 +29,13 @@ namespace detail {
 template <auto... Values>
 constexpr const char* Spelled() {
     return __PRETTY_FUNCTION__;
+}
+/// By GCC "... [with Named = draftwick::dwScaleMode]", by Clang "... [Named = draftwick::dwScaleMode]".
+template <class Named>
+constexpr std::string_view Spelled() {
+    std::string_view name = __PRETTY_FUNCTION__;
+    name = name.substr(0, name.find_first_of(";]"));
+    return name.substr(name.find_last_of(" :") + 1);
 }
 
 constexpr std::int32_t BlockSize = 16;
@@ -98,7 +105,19 @@ constexpr auto ReadBlocks(std::integer_sequence<std::int32_t, Number...>) {
     return all;
 }
 
+template <class Named>
+inline constexpr auto LettersOf = [] {
+    constexpr std::string_view name = Spelled<Named>();
+    std::array<char, name.size()> letters{};
+    for (std::size_t i = 0; i < name.size(); ++i) letters[i] = name[i];
+    return letters;
+}();
+
 }  // namespace detail
+
+/// The name of a type, without its namespaces.
+template <class Named>
+inline constexpr std::string_view NameOf{detail::LettersOf<Named>.data(), detail::LettersOf<Named>.size()};
 
 template <class Enumeration>
 class ValuesOf {
@@ -107,7 +126,7 @@ class ValuesOf {
                                    detail::CountBlocks<Enumeration, RangeOf<Enumeration>.first>()>{});
     static_assert(Read.count > 0, "RangeOf must say where the values lie");
 
-    /// A copy of the names: without, all that they are parts of stays in the program.
+    /// A copy of the names: without, all that they are cut out of stays in the program.
     static constexpr auto Letters = [] {
         std::array<char, Read.letters> letters{};
         std::size_t at = 0;

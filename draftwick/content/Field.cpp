@@ -1,6 +1,6 @@
 #include <draftwick/content/Field.h>
 #include <draftwick/content/Writers.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 #include <draftwick/text/Utf8.h>
 
@@ -23,8 +23,8 @@ const Class& Field::Describe() {
         {
             PropertyOf<&F::Emitted>("Emitted"),
             PropertyOf<&F::Finished>("Finished"),
-            PropertyOf<&F::Code, &F::SetCode, &V::code>("Code"),
-            PropertyOf<&F::Text, &F::SetText, &V::text>("Text"),
+            PropertyOf<&F::Code, &F::SetCode, &V::code>("Code").DefaultDepends(),
+            PropertyOf<&F::Text, &F::SetText, &V::text>("Text").DefaultDepends(),
             PropertyOf<&F::StyleName, &F::SetStyleName>("StyleName"),
             PropertyOf<&F::NumberFormat, &F::SetNumberFormat, &V::numberFormat>("NumberFormat"),
             PropertyOf<&F::TextFormat, &F::SetTextFormat, &V::textFormat>("TextFormat"),

@@ -5,7 +5,7 @@
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Styles.h>
 #include <draftwick/model/Access.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Footnote.h>
@@ -74,11 +74,11 @@ const Class& Paragraph::Describe() {
         "{3F3895CF-38AE-4BB8-A68D-6E8A0CAC9FD3}",
         "{20576CD6-514C-4D96-85A8-51F83672EAF9}",
         {
-            PropertyOf<&P::CurrentBookmark>("CurrentBookmark"),
-            PropertyOf<&P::CurrentField>("CurrentField"),
-            PropertyOf<&P::CurrentFootnote>("CurrentFootnote"),
-            PropertyOf<&P::CurrentShape>("CurrentShape"),
-            PropertyOf<&P::CurrentTextItem>("CurrentTextItem"),
+            PropertyOf<&P::CurrentBookmark>("CurrentBookmark").OrNothing(),
+            PropertyOf<&P::CurrentField>("CurrentField").OrNothing(),
+            PropertyOf<&P::CurrentFootnote>("CurrentFootnote").OrNothing(),
+            PropertyOf<&P::CurrentShape>("CurrentShape").OrNothing(),
+            PropertyOf<&P::CurrentTextItem>("CurrentTextItem").OrNothing(),
             PropertyOf<&P::Emitted>("Emitted"),
             PropertyOf<&P::Finished>("Finished"),
             PropertyOf<&P::Background>("Background"),

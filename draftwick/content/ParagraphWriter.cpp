@@ -24,10 +24,9 @@ void EmitParagraph(RtfWriter& writer, const ParagraphSettings& paragraph, const 
     if (paragraph.style) writer.Word("s", paragraph.style.Position());
     if (paragraph.borders != nullptr) EmitParagraphBorders(writer, *paragraph.borders);
     if (paragraph.background != nullptr) EmitBackground(writer, Stored(*paragraph.background));
-    EmitFontFormat(writer,
-                   paragraph.fontFormat != nullptr ? Stored(*paragraph.fontFormat)
-                                                   : DefaultFontFormat(document),
-                   true);
+    EmitFontFormat(
+        writer, paragraph.fontFormat != nullptr ? Stored(*paragraph.fontFormat) : DefaultFontFormat(document),
+        true);
     EmitParagraphFormat(writer, paragraph.format, document);
     if (paragraph.tabStops != nullptr) EmitTabStops(writer, *paragraph.tabStops);
 }

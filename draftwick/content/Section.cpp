@@ -1,7 +1,7 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/content/Writers.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 #include <draftwick/structure/Table.h>
 
@@ -56,19 +56,20 @@ const Class& Section::Describe() {
         "{BF26F119-5E51-4C4B-B429-8E789A325047}",
         {
             PropertyOf<&S::Columns>("Columns"),
-            PropertyOf<&S::CurrentHeader>("CurrentHeader"),
-            PropertyOf<&S::CurrentParagraph>("CurrentParagraph"),
-            PropertyOf<&S::CurrentTable>("CurrentTable"),
+            PropertyOf<&S::CurrentHeader>("CurrentHeader").OrNothing(),
+            PropertyOf<&S::CurrentParagraph>("CurrentParagraph").OrNothing(),
+            PropertyOf<&S::CurrentTable>("CurrentTable").OrNothing(),
             PropertyOf<&S::Emitted>("Emitted"),
             PropertyOf<&S::Finished>("Finished"),
-            PropertyOf<&S::MarginTop, &S::SetMarginTop, &P::marginTop>("MarginTop"),
-            PropertyOf<&S::MarginLeft, &S::SetMarginLeft, &P::marginLeft>("MarginLeft"),
-            PropertyOf<&S::MarginRight, &S::SetMarginRight, &P::marginRight>("MarginRight"),
-            PropertyOf<&S::MarginBottom, &S::SetMarginBottom, &P::marginBottom>("MarginBottom"),
-            PropertyOf<&S::PageWidth, &S::SetPageWidth, &P::pageWidth>("PageWidth"),
-            PropertyOf<&S::PageHeight, &S::SetPageHeight, &P::pageHeight>("PageHeight"),
-            PropertyOf<&S::Gutter, &S::SetGutter, &P::gutter>("Gutter"),
-            PropertyOf<&S::Orientation, &S::SetOrientation, &V::orientation>("Orientation"),
+            PropertyOf<&S::MarginTop, &S::SetMarginTop, &P::marginTop>("MarginTop").DefaultDepends(),
+            PropertyOf<&S::MarginLeft, &S::SetMarginLeft, &P::marginLeft>("MarginLeft").DefaultDepends(),
+            PropertyOf<&S::MarginRight, &S::SetMarginRight, &P::marginRight>("MarginRight").DefaultDepends(),
+            PropertyOf<&S::MarginBottom, &S::SetMarginBottom, &P::marginBottom>("MarginBottom")
+                .DefaultDepends(),
+            PropertyOf<&S::PageWidth, &S::SetPageWidth, &P::pageWidth>("PageWidth").DefaultDepends(),
+            PropertyOf<&S::PageHeight, &S::SetPageHeight, &P::pageHeight>("PageHeight").DefaultDepends(),
+            PropertyOf<&S::Gutter, &S::SetGutter, &P::gutter>("Gutter").DefaultDepends(),
+            PropertyOf<&S::Orientation, &S::SetOrientation, &V::orientation>("Orientation").DefaultDepends(),
             PropertyOf<&S::Break, &S::SetBreak, &V::sectionBreak>("Break"),
             PropertyOf<&S::HeaderY, &S::SetHeaderY, &V::headerY>("HeaderY"),
             PropertyOf<&S::FooterY, &S::SetFooterY, &V::footerY>("FooterY"),

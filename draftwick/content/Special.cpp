@@ -1,5 +1,5 @@
 #include <draftwick/content/Special.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/text/Escape.h>
 
 namespace draftwick {
@@ -42,7 +42,8 @@ const Class& Special::Describe() {
                                        PropertyOf<&S::SectionNumber>("SectionNumber"),
                                        PropertyOf<&S::TabChar>("TabChar"),
                                    },
-                                   {MethodOf<&S::ASCII>("ASCII", {{"Value"}})}};
+                                   {MethodOf<&S::ASCII>("ASCII", {{"Value"}})},
+                                   []() -> std::shared_ptr<Object> { return std::make_shared<Special>(); }};
     return description;
 }
 

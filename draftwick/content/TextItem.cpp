@@ -1,6 +1,6 @@
 #include <draftwick/content/TextItem.h>
 #include <draftwick/content/Writers.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 #include <draftwick/text/Escape.h>
 #include <draftwick/text/Utf8.h>

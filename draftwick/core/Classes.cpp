@@ -10,6 +10,7 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Columns.h>
@@ -18,7 +19,14 @@
 #include <draftwick/structure/Table.h>
 #include <draftwick/viewer/AutomationObject.h>
 
+#include <algorithm>
+
 namespace draftwick {
+
+template <>
+inline constexpr EnumerationRange RangeOf<dwErrCode>{.first = dwErrPropertyOutOfRange};
+template <>
+inline constexpr EnumerationRange RangeOf<dwRuntimeError>{.last = dwRunInvalidPicture};
 
 // A list that is written down, not one that classes register in: a static library would lose those that nobody
 // refers to.
@@ -73,6 +81,37 @@ std::span<const Class* const> Classes() {
         &TextStyles::Describe(),
     };
     return all;
+}
+
+std::span<const Type* const> Enumerations() {
+    static const std::vector<const Type*> all = [] {
+        std::vector<const Type*> found{detail::TypeOf<dwErrCode>(), detail::TypeOf<dwRuntimeError>(),
+                                       detail::TypeOf<dwBuiltInProperty>(),
+                                       detail::TypeOf<dwShapeTextWrap>()};
+        const auto add = [&](const Type* type) {
+            if (type != nullptr && !type->values.empty()) found.push_back(type);
+        };
+        for (const Class* one : Classes()) {
+            for (const ClassProperty& property : one->properties) add(property.type);
+            for (const ClassMethod& method : one->methods) {
+                add(method.result);
+                for (const Argument& argument : method.arguments) add(argument.type);
+            }
+        }
+        std::sort(found.begin(), found.end(), [](auto* a, auto* b) { return a->name < b->name; });
+        found.erase(std::unique(found.begin(), found.end()), found.end());
+        return found;
+    }();
+    return all;
+}
+
+// Declared with the other descriptions, but what a document is only this floor knows.
+std::span<const ClassProperty> CommonProperties() {
+    static const ClassProperty common[] = {
+        PropertyOf<&Object::Parent>("Parent").OrNothing(),
+        PropertyOf<&Object::Document>("Document").OrNothing(),
+    };
+    return common;
 }
 
 }  // namespace draftwick

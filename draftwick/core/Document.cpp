@@ -7,7 +7,7 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 #include <draftwick/text/Escape.h>
 #include <draftwick/viewer/AutomationObject.h>
@@ -123,22 +123,22 @@ const Class& Document::Describe() {
         "{A8C1E672-BFE8-4FE2-90B0-4C5CE45CD648}",
         "{BD7B1DD0-EAFD-4C2D-BD88-CD1EC9EA7B64}",
         {
-            PropertyOf<&D::ActualFileName>("ActualFileName"),
-            PropertyOf<&D::ViewerApp>("ViewerApp"),
+            PropertyOf<&D::ActualFileName>("ActualFileName").As(Kind::Path),
+            PropertyOf<&D::ViewerApp>("ViewerApp").OrNothing(),
             PropertyOf<&D::ViewerTaskID>("ViewerTaskID"),
             PropertyOf<&D::VerMajor>("VerMajor"),
             PropertyOf<&D::VerMinor>("VerMinor"),
             PropertyOf<&D::VerRevision>("VerRevision"),
             PropertyOf<&D::Emitted>("Emitted"),
             PropertyOf<&D::Finished>("Finished"),
-            PropertyOf<&D::CurrentSection>("CurrentSection"),
+            PropertyOf<&D::CurrentSection>("CurrentSection").OrNothing(),
             PropertyOf<&D::Fonts>("Fonts"),
             PropertyOf<&D::Lists>("Lists"),
             PropertyOf<&D::ParagraphStyles>("ParagraphStyles"),
             PropertyOf<&D::Properties>("Properties"),
             PropertyOf<&D::TextStyles>("TextStyles"),
-            PropertyOf<&D::Filename, &D::SetFilename, &V::filename>("Filename"),
-            PropertyOf<&D::TempPath, &D::SetTempPath, &V::tempPath>("TempPath"),
+            PropertyOf<&D::Filename, &D::SetFilename, &V::filename>("Filename").As(Kind::Path),
+            PropertyOf<&D::TempPath, &D::SetTempPath, &V::tempPath>("TempPath").As(Kind::Path),
             PropertyOf<&D::ScaleMode, &D::SetScaleMode, &V::scaleMode>("ScaleMode"),
             PropertyOf<&D::MarginTop, &D::SetMarginTop, &P::marginTop>("MarginTop"),
             PropertyOf<&D::MarginLeft, &D::SetMarginLeft, &P::marginLeft>("MarginLeft"),
@@ -184,7 +184,8 @@ const Class& Document::Describe() {
             MethodOf<&D::Preview>("Preview", {{"Program", dwViewerAuto}}),
             MethodOf<&D::PrintOut>("PrintOut", {{"Program", dwViewerAuto}}),
             MethodOf<&D::ASCIIChar>("ASCIIChar", {{"ASCII"}}),
-        }};
+        },
+        []() -> std::shared_ptr<Object> { return Create(); }};
     return description;
 }
 

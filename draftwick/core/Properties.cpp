@@ -1,5 +1,7 @@
 #include <draftwick/base/Enumeration.h>
 #include <draftwick/core/Properties.h>
+#include <draftwick/model/ClassTable.h>
+#include <draftwick/text/Utf8.h>
 
 #include <cmath>
 #include <optional>
@@ -46,6 +48,10 @@ std::optional<dwPropertyType> TypeOfValue(const Variant& value) {
 Variant ValidText(const Variant& value) {
     const auto* text = std::get_if<std::string>(&value);
     return text == nullptr ? value : Variant{ToValidUtf8(*text)};
+}
+
+void RemoveOfKey(Properties& properties, const Variant& key) {
+    WithKey(key, [&](const auto& index) { properties.Remove(index); });
 }
 
 }  // namespace
@@ -100,15 +106,6 @@ void Properties::Remove(std::string_view name) {
     Remove(IndexOf(name) + 1);
 }
 
-void Properties::RemoveOf(const Variant& index) {
-    const auto* name = std::get_if<std::string>(&index);
-    if (name != nullptr) {
-        Remove(*name);
-    } else {
-        Remove(FromVariant<std::int32_t>(index));
-    }
-}
-
 const Class& Property::Describe() {
     using P = Property;
     static const Class description{"Property",
@@ -118,25 +115,27 @@ const Class& Property::Describe() {
                                        PropertyOf<&P::Name>("Name"),
                                        PropertyOf<&P::BuiltIn>("BuiltIn"),
                                        PropertyOf<&P::Type>("Type"),
-                                       PropertyOf<&P::Value, &P::SetValue>("Value"),
+                                       PropertyOf<&P::Value, &P::SetValue>("Value").As(Kind::Value),
                                        PropertyOf<&P::LinkTo, &P::SetLinkTo>("LinkTo"),
                                    },
-                                   {}};
+                                   {},
+                                   nullptr,
+                                   "Value"};
     return description;
 }
 
 const Class& Properties::Describe() {
     using P = Properties;
-    static const Class description{
-        "Properties",
-        "{B3E428B5-A06D-4483-AAC0-9D69A42ACFD2}",
-        "{1EC2A83C-A0CD-4C48-A5AC-390D536E5FD0}",
-        {PropertyOf<&P::Count>("Count")},
-        {
-            ItemsMethod<P>(),
-            MethodOf<&P::Add>("Add", {{"Name"}, {"Value"}, {"LinkTo", Variant{std::string{}}}}),
-            MethodOf<&P::RemoveOf>("Remove", {{"Index"}}),
-        }};
+    static const Class description = CollectionOf(
+        {"Properties",
+         "{B3E428B5-A06D-4483-AAC0-9D69A42ACFD2}",
+         "{1EC2A83C-A0CD-4C48-A5AC-390D536E5FD0}",
+         {PropertyOf<&P::Count>("Count")},
+         {
+             ItemsByKey<P>(),
+             MethodOf<&P::Add>("Add", {{"Name"}, {"Value", Kind::Value}, {"LinkTo", Variant{std::string{}}}}),
+             MethodOf<&RemoveOfKey>("Remove", {{"Index", Kind::Key}}),
+         }});
     return description;
 }
 

@@ -94,11 +94,6 @@ public:
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
-
-private:
-    friend struct Access;
-
-    void RemoveOf(const Variant& index);
 };
 
 }  // namespace draftwick

@@ -2,7 +2,7 @@
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/drawing/Writers.h>
 #include <draftwick/model/Access.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 #include <draftwick/structure/Table.h>
 
@@ -89,8 +89,8 @@ const Class& Shape::Describe() {
         {
             PropertyOf<&S::Emitted>("Emitted"),
             PropertyOf<&S::Finished>("Finished"),
-            PropertyOf<&S::CurrentParagraph>("CurrentParagraph"),
-            PropertyOf<&S::CurrentTable>("CurrentTable"),
+            PropertyOf<&S::CurrentParagraph>("CurrentParagraph").OrNothing(),
+            PropertyOf<&S::CurrentTable>("CurrentTable").OrNothing(),
             WriteOnlyPropertyOf<&S::SetKind>("Kind"),
             PropertyOf<&S::Index>("Index"),
             PropertyOf<&S::NextIndex, &S::SetNextIndex, &V::nextIndex>("NextIndex"),
@@ -111,6 +111,7 @@ const Class& Shape::Describe() {
             PropertyOf<&S::Rotation, &S::SetRotation, &V::rotation>("Rotation"),
             PropertyOf<&S::FlipH, &S::SetFlipH, &V::flipH>("FlipH"),
             PropertyOf<&S::FlipV, &S::SetFlipV, &V::flipV>("FlipV"),
+            IndexedPropertyOf<&S::AdjustValues, &S::SetAdjustValues>("AdjustValues", {{"Index"}}),
             PropertyOf<&S::InLine, &S::SetInLine, &V::inLine>("InLine"),
             PropertyOf<&S::Fill>("Fill"),
             PropertyOf<&S::Line>("Line"),
@@ -120,8 +121,6 @@ const Class& Shape::Describe() {
             PropertyOf<&S::WordArt>("WordArt"),
         },
         {
-            MethodOf<&S::AdjustValues>("AdjustValues", {{"Index"}}),
-            MethodOf<&S::SetAdjustValues>("SetAdjustValues", {{"Index"}, {"Value"}}),
             MethodOf<&S::AddParagraph>("AddParagraph"),
             MethodOf<&S::AddTable>("AddTable"),
         }};

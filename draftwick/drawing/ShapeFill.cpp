@@ -1,6 +1,6 @@
 #include <draftwick/drawing/ShadeArray.h>
 #include <draftwick/drawing/ShapeFill.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 
 namespace draftwick {
 
@@ -25,9 +25,9 @@ const Class& ShapeFill::Describe() {
         "{2AE7C94B-F65B-48FD-A597-29D688440039}",
         {
             PropertyOf<&F::Style, &F::SetStyle, &V::style>("Style"),
-            PropertyOf<&F::Color, &F::SetColor, &V::color>("Color"),
+            PropertyOf<&F::Color, &F::SetColor, &V::color>("Color").As(Kind::Color),
             PropertyOf<&F::Opacity, &F::SetOpacity, &V::opacity>("Opacity"),
-            PropertyOf<&F::BackColor, &F::SetBackColor, &V::backColor>("BackColor"),
+            PropertyOf<&F::BackColor, &F::SetBackColor, &V::backColor>("BackColor").As(Kind::Color),
             PropertyOf<&F::BackOpacity, &F::SetBackOpacity, &V::backOpacity>("BackOpacity"),
             PropertyOf<&F::ShadeAngle, &F::SetShadeAngle, &V::shadeAngle>("ShadeAngle"),
             PropertyOf<&F::ShadeFocus, &F::SetShadeFocus, &V::shadeFocus>("ShadeFocus"),
@@ -36,7 +36,7 @@ const Class& ShapeFill::Describe() {
             PropertyOf<&F::ShadeToRight, &F::SetShadeToRight, &V::shadeToRight>("ShadeToRight"),
             PropertyOf<&F::ShadeToBottom, &F::SetShadeToBottom, &V::shadeToBottom>("ShadeToBottom"),
             PropertyOf<&F::ShadeArray, &F::SetShadeArray>("ShadeArray"),
-            PropertyOf<&F::Picture, &F::SetPicture, &V::picture>("Picture"),
+            PropertyOf<&F::Picture, &F::SetPicture, &V::picture>("Picture").As(Kind::Path),
         },
         {}};
     return description;

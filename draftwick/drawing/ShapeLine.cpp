@@ -1,5 +1,5 @@
 #include <draftwick/drawing/ShapeLine.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 
 namespace draftwick {
 
@@ -20,8 +20,8 @@ const Class& ShapeLine::Describe() {
             PropertyOf<&L::Style, &L::SetStyle, &V::style>("Style"),
             PropertyOf<&L::Texture, &L::SetTexture, &V::texture>("Texture"),
             PropertyOf<&L::Dash, &L::SetDash, &V::dash>("Dash"),
-            PropertyOf<&L::Color, &L::SetColor, &V::color>("Color"),
-            PropertyOf<&L::BackColor, &L::SetBackColor, &V::backColor>("BackColor"),
+            PropertyOf<&L::Color, &L::SetColor, &V::color>("Color").As(Kind::Color),
+            PropertyOf<&L::BackColor, &L::SetBackColor, &V::backColor>("BackColor").As(Kind::Color),
             PropertyOf<&L::Width, &L::SetWidth, &V::width>("Width"),
             PropertyOf<&L::StartArrow, &L::SetStartArrow, &V::startArrow>("StartArrow"),
             PropertyOf<&L::EndArrow, &L::SetEndArrow, &V::endArrow>("EndArrow"),
@@ -30,7 +30,7 @@ const Class& ShapeLine::Describe() {
             PropertyOf<&L::StartArrowLength, &L::SetStartArrowLength, &V::startArrowLength>(
                 "StartArrowLength"),
             PropertyOf<&L::EndArrowLength, &L::SetEndArrowLength, &V::endArrowLength>("EndArrowLength"),
-            PropertyOf<&L::Picture, &L::SetPicture, &V::picture>("Picture"),
+            PropertyOf<&L::Picture, &L::SetPicture, &V::picture>("Picture").As(Kind::Path),
         },
         {}};
     return description;

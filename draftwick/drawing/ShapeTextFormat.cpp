@@ -1,5 +1,5 @@
 #include <draftwick/drawing/ShapeTextFormat.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 
 namespace draftwick {
 

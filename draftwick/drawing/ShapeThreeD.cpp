@@ -1,5 +1,5 @@
 #include <draftwick/drawing/ShapeThreeD.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 
 namespace draftwick {
 
@@ -15,7 +15,7 @@ const Class& ShapeThreeD::Describe() {
             PropertyOf<&S::Depth, &S::SetDepth, &V::depth>("Depth"),
             PropertyOf<&S::DepthForward, &S::SetDepthForward, &V::depthForward>("DepthForward"),
             PropertyOf<&S::UseColor, &S::SetUseColor, &V::useColor>("UseColor"),
-            PropertyOf<&S::Color, &S::SetColor, &V::color>("Color"),
+            PropertyOf<&S::Color, &S::SetColor, &V::color>("Color").As(Kind::Color),
             PropertyOf<&S::Metallic, &S::SetMetallic, &V::metallic>("Metallic"),
             PropertyOf<&S::LightFace, &S::SetLightFace, &V::lightFace>("LightFace"),
             PropertyOf<&S::Specularity, &S::SetSpecularity, &V::specularity>("Specularity"),

@@ -1,6 +1,6 @@
 #include <draftwick/drawing/ShapeWordArt.h>
 #include <draftwick/format/Fonts.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 
 namespace draftwick {

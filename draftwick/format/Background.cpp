@@ -1,5 +1,5 @@
 #include <draftwick/format/Background.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 
 namespace draftwick {
 
@@ -13,8 +13,8 @@ const Class& Background::Describe() {
         {
             PropertyOf<&B::Texture, &B::SetTexture, &V::texture>("Texture"),
             PropertyOf<&B::Shading, &B::SetShading, &V::shading>("Shading"),
-            PropertyOf<&B::Color, &B::SetColor, &V::color>("Color"),
-            PropertyOf<&B::BackColor, &B::SetBackColor, &V::backColor>("BackColor"),
+            PropertyOf<&B::Color, &B::SetColor, &V::color>("Color").As(Kind::Color),
+            PropertyOf<&B::BackColor, &B::SetBackColor, &V::backColor>("BackColor").As(Kind::Color),
         },
         {}};
     return description;

@@ -4,8 +4,6 @@
 #include <draftwick/model/Object.h>
 
 #include <array>
-#include <initializer_list>
-#include <vector>
 
 namespace draftwick {
 
@@ -63,18 +61,6 @@ public:
     void SetColor(std::int32_t color) { Change(values_.color, color); }
 
 protected:
-    /// The rows of the members above and then `more`, for the table of a class.
-    static std::vector<ClassProperty> Rows(std::initializer_list<ClassProperty> more = {}) {
-        using V = Values;
-        std::vector<ClassProperty> rows{
-            PropertyOf<&Border::Style, &Border::SetStyle, &V::style>("Style"),
-            PropertyOf<&Border::Width, &Border::SetWidth, &V::width>("Width"),
-            PropertyOf<&Border::Color, &Border::SetColor, &V::color>("Color"),
-        };
-        rows.insert(rows.end(), more);
-        return rows;
-    }
-
     friend struct Access;
     template <class SideBorder, class Side, std::int32_t SideCount>
     friend class BorderCollection;

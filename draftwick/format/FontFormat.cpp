@@ -1,6 +1,6 @@
 #include <draftwick/format/FontFormat.h>
 #include <draftwick/format/Fonts.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 
 namespace draftwick {
@@ -56,7 +56,7 @@ const Class& FontFormat::Describe() {
                 "StrikethroughDouble"),
             PropertyOf<&F::Underline, &F::SetUnderline, &V::underline>("Underline"),
             PropertyOf<&F::Hidden, &F::SetHidden, &V::hidden>("Hidden"),
-            PropertyOf<&F::Color, &F::SetColor, &V::color>("Color"),
+            PropertyOf<&F::Color, &F::SetColor, &V::color>("Color").As(Kind::Color),
             PropertyOf<&F::Animation, &F::SetAnimation, &V::animation>("Animation"),
             PropertyOf<&F::Emboss, &F::SetEmboss, &V::emboss>("Emboss"),
             PropertyOf<&F::Engrave, &F::SetEngrave, &V::engrave>("Engrave"),

@@ -1,4 +1,5 @@
 #include <draftwick/format/Fonts.h>
+#include <draftwick/model/ClassTable.h>
 
 namespace draftwick {
 
@@ -17,11 +18,12 @@ const Class& Font::Describe() {
 }
 
 const Class& Fonts::Describe() {
-    static const Class description{"Fonts",
-                                   "{C40907E5-9A70-4FC4-B88B-4785BD9D6B1F}",
-                                   "{58612EAE-74FC-4639-A4EC-7A4D70606954}",
-                                   {PropertyOf<&Fonts::Count>("Count")},
-                                   {ItemsMethod<Fonts>(), MethodOf<&Fonts::Add>("Add", {{"Name"}})}};
+    static const Class description =
+        CollectionOf({"Fonts",
+                      "{C40907E5-9A70-4FC4-B88B-4785BD9D6B1F}",
+                      "{58612EAE-74FC-4639-A4EC-7A4D70606954}",
+                      {PropertyOf<&Fonts::Count>("Count")},
+                      {ItemsByKey<Fonts>(), MethodOf<&Fonts::Add>("Add", {{"Name"}})}});
     return description;
 }
 

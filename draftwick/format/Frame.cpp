@@ -1,5 +1,5 @@
 #include <draftwick/format/Frame.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 
 namespace draftwick {
 

@@ -1,4 +1,5 @@
 #include <draftwick/format/Lists.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 
 namespace draftwick {
@@ -35,7 +36,7 @@ const Class& ListLevel::Describe() {
             PropertyOf<&L::Style, &L::SetStyle, &V::style>("Style"),
             PropertyOf<&L::Align, &L::SetAlign, &V::align>("Align"),
             PropertyOf<&L::Follow, &L::SetFollow, &V::follow>("Follow"),
-            PropertyOf<&L::Format, &L::SetFormat, &V::format>("Format"),
+            PropertyOf<&L::Format, &L::SetFormat, &V::format>("Format").DefaultDepends(),
             PropertyOf<&L::Legal, &L::SetLegal, &V::legal>("Legal"),
             PropertyOf<&L::NoLevelRestart, &L::SetNoLevelRestart, &V::noLevelRestart>("NoLevelRestart"),
             PropertyOf<&L::StartAt, &L::SetStartAt, &V::startAt>("StartAt"),
@@ -47,20 +48,22 @@ const Class& ListLevel::Describe() {
 }
 
 const Class& List::Describe() {
-    static const Class description{"List",
-                                   "{3E8FBE4C-8B32-4726-9FB6-BD95CE30AF29}",
-                                   "{6CB4E9B2-BEB5-4118-A531-0B57FAD58084}",
-                                   {PropertyOf<&List::Name>("Name")},
-                                   {MethodOf<&List::Levels>("Levels", {{"Index"}})}};
+    static const Class description{
+        "List",
+        "{3E8FBE4C-8B32-4726-9FB6-BD95CE30AF29}",
+        "{6CB4E9B2-BEB5-4118-A531-0B57FAD58084}",
+        {PropertyOf<&List::Name>("Name"), IndexedPropertyOf<&List::Levels>("Levels", {{"Index"}})},
+        {}};
     return description;
 }
 
 const Class& Lists::Describe() {
-    static const Class description{"Lists",
-                                   "{E85F0AFE-C48C-4501-A889-B45FCEBDD2D3}",
-                                   "{16DD6CF7-234E-4321-8070-7836F7A3845F}",
-                                   {PropertyOf<&Lists::Count>("Count")},
-                                   {ItemsMethod<Lists>(), MethodOf<&Lists::Add>("Add", {{"Name"}})}};
+    static const Class description =
+        CollectionOf({"Lists",
+                      "{E85F0AFE-C48C-4501-A889-B45FCEBDD2D3}",
+                      "{16DD6CF7-234E-4321-8070-7836F7A3845F}",
+                      {PropertyOf<&Lists::Count>("Count")},
+                      {ItemsByKey<Lists>(), MethodOf<&Lists::Add>("Add", {{"Name"}})}});
     return description;
 }
 

@@ -1,6 +1,6 @@
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/ParagraphFormat.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 
 namespace draftwick {
@@ -44,7 +44,8 @@ const Class& ParagraphFormat::Describe() {
             PropertyOf<&P::NoLineNumbering, &P::SetNoLineNumbering, &V::noLineNumbering>("NoLineNumbering"),
             PropertyOf<&P::SuppressHyphen, &P::SetSuppressHyphen, &V::suppressHyphen>("SuppressHyphen"),
             PropertyOf<&P::WidowOrphanControl, &P::SetWidowOrphanControl, &V::widowOrphanControl>(
-                "WidowOrphanControl"),
+                "WidowOrphanControl")
+                .DefaultDepends(),
             PropertyOf<&P::OutlineLevel, &P::SetOutlineLevel, &V::outlineLevel>("OutlineLevel"),
             PropertyOf<&P::ListName, &P::SetListName>("ListName"),
             PropertyOf<&P::ListFormatName, &P::SetListFormatName>("ListFormatName"),

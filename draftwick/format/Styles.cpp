@@ -1,5 +1,6 @@
 #include <draftwick/format/Styles.h>
 #include <draftwick/model/Access.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/model/Session.h>
 
 namespace draftwick {
@@ -95,21 +96,21 @@ const Class& TextStyle::Describe() {
 
 const Class& ParagraphStyles::Describe() {
     using S = ParagraphStyles;
-    static const Class description{"ParagraphStyles",
-                                   "{13D60D0E-A54E-41B5-8F57-B3BA994EB2CD}",
-                                   "{50A03811-2D31-4110-A7D5-8842966B6EDE}",
-                                   {PropertyOf<&S::Count>("Count")},
-                                   {ItemsMethod<S>(), MethodOf<&S::Add>("Add", {{"Name"}})}};
+    static const Class description = CollectionOf({"ParagraphStyles",
+                                                   "{13D60D0E-A54E-41B5-8F57-B3BA994EB2CD}",
+                                                   "{50A03811-2D31-4110-A7D5-8842966B6EDE}",
+                                                   {PropertyOf<&S::Count>("Count")},
+                                                   {ItemsByKey<S>(), MethodOf<&S::Add>("Add", {{"Name"}})}});
     return description;
 }
 
 const Class& TextStyles::Describe() {
     using S = TextStyles;
-    static const Class description{"TextStyles",
-                                   "{169D7FFE-6558-4EC4-B72A-D131DDD6E2AC}",
-                                   "{542EAE24-3AB2-43C6-9201-67CBE541AF1A}",
-                                   {PropertyOf<&S::Count>("Count")},
-                                   {ItemsMethod<S>(), MethodOf<&S::Add>("Add", {{"Name"}})}};
+    static const Class description = CollectionOf({"TextStyles",
+                                                   "{169D7FFE-6558-4EC4-B72A-D131DDD6E2AC}",
+                                                   "{542EAE24-3AB2-43C6-9201-67CBE541AF1A}",
+                                                   {PropertyOf<&S::Count>("Count")},
+                                                   {ItemsByKey<S>(), MethodOf<&S::Add>("Add", {{"Name"}})}});
     return description;
 }
 

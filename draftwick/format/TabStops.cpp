@@ -1,5 +1,6 @@
 #include <draftwick/format/TabStops.h>
 #include <draftwick/model/Access.h>
+#include <draftwick/model/ClassTable.h>
 
 #include <cmath>
 #include <limits>
@@ -45,7 +46,7 @@ const Class& TabStop::Describe() {
                                    "{8D729EBA-6B36-4A58-8387-45D57E0D6EE3}",
                                    "{F461101D-1F11-471B-AC5E-0D00A20C7372}",
                                    {
-                                       PropertyOf<&TabStop::Position>("Position"),
+                                       PropertyOf<&TabStop::Position>("Position").As(Kind::Length),
                                        PropertyOf<&TabStop::Align>("Align"),
                                        PropertyOf<&TabStop::Leader>("Leader"),
                                    },
@@ -55,16 +56,17 @@ const Class& TabStop::Describe() {
 
 const Class& TabStops::Describe() {
     using T = TabStops;
-    static const Class description{
-        "TabStops",
-        "{9C7E2664-098A-4DC3-A92E-F786A3185E6A}",
-        "{FF30523A-BFF2-478E-8081-B58B4C007168}",
-        {PropertyOf<&T::Count>("Count")},
-        {
-            MethodOf<&T::Items>("Items", {{"Index"}}),
-            MethodOf<&T::Add>("Add", {{"Position"}, {"Align", Variant{dwTabLeft}}, {"Leader", Variant{0}}}),
-            MethodOf<&T::Clear>("Clear"),
-        }};
+    static const Class description = CollectionOf(
+        {"TabStops",
+         "{9C7E2664-098A-4DC3-A92E-F786A3185E6A}",
+         "{FF30523A-BFF2-478E-8081-B58B4C007168}",
+         {PropertyOf<&T::Count>("Count")},
+         {
+             MethodOf<&T::Items>("Items", {{"Index"}}),
+             MethodOf<&T::Add>(
+                 "Add", {{"Position", Kind::Length}, {"Align", Variant{dwTabLeft}}, {"Leader", Variant{0}}}),
+             MethodOf<&T::Clear>("Clear"),
+         }});
     return description;
 }
 

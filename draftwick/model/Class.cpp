@@ -1,21 +1,61 @@
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 
 #include <algorithm>
-#include <array>
 
 namespace draftwick {
 
-namespace {
+namespace detail {
 
-/// What all classes have; a document is its own.
-const std::array<ClassProperty, 2> Common{{
-    {.name = "Parent",
-     .rule = {.kind = Kind::Object},
-     .get = [](Object& object) { return ToVariant(object.Parent()); }},
-    {.name = "Document",
-     .rule = {.kind = Kind::Object},
-     .get = [](Object& object) { return ToVariant(object.DocumentObject()); }},
-}};
+constexpr std::array<Type, ValuesOf<Kind>::All.size()> PlainTypes = [] {
+    std::array<Type, ValuesOf<Kind>::All.size()> types{};
+    for (std::size_t i = 0; i < types.size(); ++i) {
+        types[i] = {.name = ValuesOf<Kind>::All[i].name, .kind = static_cast<Kind>(i)};
+    }
+    return types;
+}();
+
+std::vector<Argument> MakeArguments(ArgumentRows rows, std::span<const Type* const> types) {
+    std::vector<Argument> arguments;
+    for (const ArgumentRow& row : rows) {
+        const Type* type = row.kind ? TypeOf(*row.kind) : types[arguments.size()];
+        arguments.push_back({row.name, type, row.initial});
+    }
+    return arguments;
+}
+
+}  // namespace detail
+
+PropertyRow PropertyRow::As(Kind kind) const {
+    PropertyRow row = *this;
+    row.type = detail::TypeOf(kind);
+    return row;
+}
+
+PropertyRow PropertyRow::OrNothing() const {
+    PropertyRow row = *this;
+    row.optional = true;
+    return row;
+}
+
+PropertyRow PropertyRow::DefaultDepends() const {
+    PropertyRow row = *this;
+    row.rule.initial = {};
+    return row;
+}
+
+MethodRow MethodRow::OrNothing() const {
+    MethodRow row = *this;
+    row.optional = true;
+    return row;
+}
+
+Class CollectionOf(Class description) {
+    description.defaultMember = "Items";
+    description.items = description.FindMethod(description.defaultMember)->result;
+    return description;
+}
+
+namespace {
 
 template <class Rows>
 auto* FindRow(const Rows& rows, std::string_view name) {
@@ -32,46 +72,92 @@ auto* FindRow(const Rows& rows, std::string_view name) {
     RaiseRuntimeError(dwRunTypeMismatch, std::string{wanted} + " is wanted");
 }
 
-}  // namespace
-
-const ClassProperty* Class::FindProperty(std::string_view property) const {
-    const ClassProperty* own = FindRow(properties, property);
-    return own != nullptr ? own : FindRow(Common, property);
+const ClassProperty& PropertyNamed(const Object& object, std::string_view name) {
+    const ClassProperty* found = object.Description().FindProperty(name);
+    if (found == nullptr) RaiseNoMember(object, name);
+    return *found;
 }
 
-const ClassMethod* Class::FindMethod(std::string_view method) const { return FindRow(methods, method); }
-
-Variant Get(Object& object, std::string_view property) {
-    const ClassProperty* found = object.Description().FindProperty(property);
-    if (found == nullptr) RaiseNoMember(object, property);
-    if (found->get == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be written");
-    return found->get(object);
-}
-
-void Set(Object& object, std::string_view property, const Variant& value) {
-    const ClassProperty* found = object.Description().FindProperty(property);
-    if (found == nullptr) RaiseNoMember(object, property);
-    if (found->set == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be read");
-    found->set(object, value);
-}
-
-Variant Call(Object& object, std::string_view method, std::span<const Variant> arguments) {
-    const ClassMethod* found = object.Description().FindMethod(method);
-    if (found == nullptr) RaiseNoMember(object, method);
-    std::vector<Variant> all{arguments.begin(), arguments.end()};
-    if (all.size() > found->arguments.size()) RaiseRuntimeError(dwRunInvalidCall, "too many arguments");
-    for (std::size_t i = all.size(); i < found->arguments.size(); ++i) {
-        const Argument& argument = found->arguments[i];
+/// The arguments with the defaults of those that are left out.
+std::vector<Variant> Complete(std::span<const Argument> arguments, std::span<const Variant> given) {
+    if (given.size() > arguments.size()) RaiseRuntimeError(dwRunInvalidCall, "too many arguments");
+    std::vector<Variant> all{given.begin(), given.end()};
+    for (const Argument& argument : arguments.subspan(given.size())) {
         if (!argument.initial) {
             RaiseRuntimeError(dwRunInvalidCall, "the argument " + std::string{argument.name} + " is missing");
         }
         all.push_back(*argument.initial);
     }
-    return found->call(object, all);
+    return all;
+}
+
+Variant Invoke(Accessor access, Object& object, std::span<const Argument> arguments,
+               std::span<const Variant> given) {
+    if (given.size() == arguments.size()) return access(object, given);
+    return access(object, Complete(arguments, given));
+}
+
+/// Hosts also know a property with arguments as two methods, AdjustValues(1) and SetAdjustValues(1, 10).
+Variant CallProperty(Object& object, std::string_view method, std::span<const Variant> arguments) {
+    const Class& description = object.Description();
+    const ClassProperty* read = description.FindProperty(method);
+    if (read != nullptr && !read->arguments.empty()) return Get(object, method, arguments);
+    constexpr std::string_view Prefix = "Set";
+    const ClassProperty* set =
+        method.starts_with(Prefix) ? description.FindProperty(method.substr(Prefix.size())) : nullptr;
+    if (set == nullptr || set->arguments.empty() || set->set == nullptr) RaiseNoMember(object, method);
+    std::vector<Argument> all = set->arguments;
+    all.push_back({.name = "Value", .type = set->type});
+    return Invoke(set->set, object, all, arguments);
+}
+
+}  // namespace
+
+const ClassProperty* Class::FindProperty(std::string_view property) const {
+    const ClassProperty* own = FindRow(properties, property);
+    return own != nullptr ? own : FindRow(CommonProperties(), property);
+}
+
+const ClassMethod* Class::FindMethod(std::string_view method) const { return FindRow(methods, method); }
+
+Variant Get(Object& object, std::string_view property, std::span<const Variant> arguments) {
+    const ClassProperty& found = PropertyNamed(object, property);
+    if (found.get == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be written");
+    return Invoke(found.get, object, found.arguments, arguments);
+}
+
+void Set(Object& object, std::string_view property, const Variant& value,
+         std::span<const Variant> arguments) {
+    const ClassProperty& found = PropertyNamed(object, property);
+    if (found.set == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be read");
+    if (found.arguments.empty() && arguments.empty()) {
+        found.set(object, {&value, 1});
+    } else {
+        std::vector<Variant> values = Complete(found.arguments, arguments);
+        values.push_back(value);
+        found.set(object, values);
+    }
+}
+
+Variant Call(Object& object, std::string_view method, std::span<const Variant> arguments) {
+    const ClassMethod* found = object.Description().FindMethod(method);
+    if (found == nullptr) return CallProperty(object, method, arguments);
+    return Invoke(found->call, object, found->arguments, arguments);
+}
+
+// The same with the arguments in braces.
+
+Variant Get(Object& object, std::string_view property, std::initializer_list<Variant> arguments) {
+    return Get(object, property, std::span{arguments.begin(), arguments.size()});
+}
+
+void Set(Object& object, std::string_view property, const Variant& value,
+         std::initializer_list<Variant> arguments) {
+    Set(object, property, value, std::span{arguments.begin(), arguments.size()});
 }
 
 Variant Call(Object& object, std::string_view method, std::initializer_list<Variant> arguments) {
-    return Call(object, method, std::span<const Variant>{arguments.begin(), arguments.size()});
+    return Call(object, method, std::span{arguments.begin(), arguments.size()});
 }
 
 template <>

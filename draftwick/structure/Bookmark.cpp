@@ -1,4 +1,4 @@
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Writers.h>
 #include <draftwick/text/Utf8.h>
@@ -13,15 +13,16 @@ void Bookmark::WriteStart() { EmitBookmark(Writer(), values_); }
 const Class& Bookmark::Describe() {
     using B = Bookmark;
     using V = Values;
-    static const Class description{"Bookmark",
-                                   "{2CACD51E-5C7F-4B57-930F-9C371CB76854}",
-                                   "{8AA0A6A5-3FC7-4826-8191-C0119E6AD305}",
-                                   {
-                                       PropertyOf<&B::Emitted>("Emitted"),
-                                       PropertyOf<&B::IsStart, &B::SetIsStart, &V::isStart>("IsStart"),
-                                       PropertyOf<&B::Name, &B::SetName, &V::name>("Name"),
-                                   },
-                                   {}};
+    static const Class description{
+        "Bookmark",
+        "{2CACD51E-5C7F-4B57-930F-9C371CB76854}",
+        "{8AA0A6A5-3FC7-4826-8191-C0119E6AD305}",
+        {
+            PropertyOf<&B::Emitted>("Emitted"),
+            PropertyOf<&B::IsStart, &B::SetIsStart, &V::isStart>("IsStart").DefaultDepends(),
+            PropertyOf<&B::Name, &B::SetName, &V::name>("Name").DefaultDepends(),
+        },
+        {}};
     return description;
 }
 

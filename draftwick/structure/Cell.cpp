@@ -1,5 +1,5 @@
 #include <draftwick/content/Paragraph.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Table.h>
 #include <draftwick/structure/Writers.h>
@@ -19,7 +19,7 @@ const Class& Cell::Describe() {
         "{3D7BB1C1-1366-4981-8415-45CEB94B09C7}",
         "{4DF562DA-502C-48CD-858D-C6816C479D89}",
         {
-            PropertyOf<&C::CurrentParagraph>("CurrentParagraph"),
+            PropertyOf<&C::CurrentParagraph>("CurrentParagraph").OrNothing(),
             PropertyOf<&C::Emitted>("Emitted"),
             PropertyOf<&C::Finished>("Finished"),
             PropertyOf<&C::Background>("Background"),

@@ -1,4 +1,4 @@
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/structure/Columns.h>
 
 #include <limits>
@@ -57,35 +57,36 @@ void Columns::SetSpacing(double length) {
 const Class& Column::Describe() {
     using C = Column;
     using V = Values;
-    static const Class description{"Column",
-                                   "{2936F283-8B8D-4957-BCA2-0081B04426EC}",
-                                   "{FECDAF70-75A5-43D4-9CFA-44AB61EF9363}",
-                                   {
-                                       PropertyOf<&C::Spacing, &C::SetSpacing, &V::spacing>("Spacing"),
-                                       PropertyOf<&C::Width, &C::SetWidth, &V::width>("Width"),
-                                   },
-                                   {}};
+    static const Class description{
+        "Column",
+        "{2936F283-8B8D-4957-BCA2-0081B04426EC}",
+        "{FECDAF70-75A5-43D4-9CFA-44AB61EF9363}",
+        {
+            PropertyOf<&C::Spacing, &C::SetSpacing, &V::spacing>("Spacing").DefaultDepends(),
+            PropertyOf<&C::Width, &C::SetWidth, &V::width>("Width").DefaultDepends(),
+        },
+        {}};
     return description;
 }
 
 const Class& Columns::Describe() {
     using C = Columns;
     using V = Values;
-    static const Class description{
-        "Columns",
-        "{B72F9836-9192-4FEE-83D8-F8B9765EB17C}",
-        "{1B822AED-3874-4EB2-9AD0-30D658935DCA}",
-        {
-            PropertyOf<&C::Count>("Count"),
-            PropertyOf<&C::LineBetween, &C::SetLineBetween, &V::lineBetween>("LineBetween"),
-            PropertyOf<&C::Spacing, &C::SetSpacing>("Spacing"),
-        },
-        {
-            MethodOf<&C::Items>("Items", {{"Index"}}),
-            MethodOf<&C::Add>("Add", {{"Width"}, {"Spacing"}}),
-            MethodOf<&C::Auto>("Auto", {{"Count"}, {"Spacing"}}),
-            MethodOf<&C::Clear>("Clear"),
-        }};
+    static const Class description =
+        CollectionOf({"Columns",
+                      "{B72F9836-9192-4FEE-83D8-F8B9765EB17C}",
+                      "{1B822AED-3874-4EB2-9AD0-30D658935DCA}",
+                      {
+                          PropertyOf<&C::Count>("Count"),
+                          PropertyOf<&C::LineBetween, &C::SetLineBetween, &V::lineBetween>("LineBetween"),
+                          PropertyOf<&C::Spacing, &C::SetSpacing>("Spacing").As(Kind::Length),
+                      },
+                      {
+                          MethodOf<&C::Items>("Items", {{"Index"}}).OrNothing(),
+                          MethodOf<&C::Add>("Add", {{"Width", Kind::Length}, {"Spacing", Kind::Length}}),
+                          MethodOf<&C::Auto>("Auto", {{"Count"}, {"Spacing", Kind::Length}}),
+                          MethodOf<&C::Clear>("Clear"),
+                      }});
     return description;
 }
 

@@ -1,5 +1,5 @@
 #include <draftwick/content/Paragraph.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/structure/Footnote.h>
 #include <draftwick/structure/Writers.h>
 
@@ -15,8 +15,8 @@ const Class& Footnote::Describe() {
                                    "{0439A39A-D291-4AEA-9F1D-F39723E11A11}",
                                    "{6F8448C4-7424-4E84-A14D-ADABDAC917BA}",
                                    {
-                                       PropertyOf<&F::CurrentParagraph>("CurrentParagraph"),
-                                       PropertyOf<&F::CurrentTable>("CurrentTable"),
+                                       PropertyOf<&F::CurrentParagraph>("CurrentParagraph").OrNothing(),
+                                       PropertyOf<&F::CurrentTable>("CurrentTable").OrNothing(),
                                        PropertyOf<&F::Emitted>("Emitted"),
                                        PropertyOf<&F::Finished>("Finished"),
                                        PropertyOf<&F::IsEndnote>("IsEndnote"),

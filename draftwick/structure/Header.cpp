@@ -1,5 +1,5 @@
 #include <draftwick/content/Paragraph.h>
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/structure/Header.h>
 #include <draftwick/structure/Writers.h>
 
@@ -14,8 +14,8 @@ const Class& Header::Describe() {
                                    "{57488F81-6159-47F1-97F2-C1D10977CF73}",
                                    "{2113A6D9-1044-46A4-8449-838156737672}",
                                    {
-                                       PropertyOf<&H::CurrentParagraph>("CurrentParagraph"),
-                                       PropertyOf<&H::CurrentTable>("CurrentTable"),
+                                       PropertyOf<&H::CurrentParagraph>("CurrentParagraph").OrNothing(),
+                                       PropertyOf<&H::CurrentTable>("CurrentTable").OrNothing(),
                                        PropertyOf<&H::Emitted>("Emitted"),
                                        PropertyOf<&H::Finished>("Finished"),
                                    },

@@ -1,4 +1,4 @@
-#include <draftwick/model/Class.h>
+#include <draftwick/format/BorderTable.h>
 #include <draftwick/structure/PageBorders.h>
 
 namespace draftwick {
@@ -12,8 +12,9 @@ const Class& PageBorder::Describe() {
         "PageBorder",
         "{4C2D5D5B-365E-493C-8537-955A8B44887B}",
         "{A0C80585-351A-4862-B692-83771B41E311}",
-        Rows(
-            {PropertyOf<&PageBorder::Spacing, &PageBorder::SetSpacing, &PageBorderValues::spacing>("Spacing"),
+        BorderRows<PageBorder>(
+            {PropertyOf<&PageBorder::Spacing, &PageBorder::SetSpacing, &PageBorderValues::spacing>("Spacing")
+                 .DefaultDepends(),
              PropertyOf<&PageBorder::Art, &PageBorder::SetArt, &PageBorderValues::art>("Art")}),
         {}};
     return description;
@@ -22,17 +23,18 @@ const Class& PageBorder::Describe() {
 const Class& PageBorders::Describe() {
     using B = PageBorders;
     using V = Values;
-    static const Class description{"PageBorders",
-                                   "{C51424A8-69F2-4A47-93C3-3B4479E47D8C}",
-                                   "{5D8604D8-F1EE-47F5-800E-FD6009CE3FBD}",
-                                   {
-                                       PropertyOf<&B::Count>("Count"),
-                                       PropertyOf<&B::Display, &B::SetDisplay, &V::display>("Display"),
-                                       PropertyOf<&B::Offset, &B::SetOffset, &V::offset>("Offset"),
-                                       PropertyOf<&B::InFront, &B::SetInFront, &V::inFront>("InFront"),
-                                       PropertyOf<&B::Snap, &B::SetSnap, &V::snap>("Snap"),
-                                   },
-                                   {MethodOf<&B::Items>("Items", {{"Index"}})}};
+    static const Class description =
+        CollectionOf({"PageBorders",
+                      "{C51424A8-69F2-4A47-93C3-3B4479E47D8C}",
+                      "{5D8604D8-F1EE-47F5-800E-FD6009CE3FBD}",
+                      {
+                          PropertyOf<&B::Count>("Count"),
+                          PropertyOf<&B::Display, &B::SetDisplay, &V::display>("Display"),
+                          PropertyOf<&B::Offset, &B::SetOffset, &V::offset>("Offset"),
+                          PropertyOf<&B::InFront, &B::SetInFront, &V::inFront>("InFront"),
+                          PropertyOf<&B::Snap, &B::SetSnap, &V::snap>("Snap"),
+                      },
+                      {MethodOf<&B::Items>("Items", {{"Index"}})}});
     return description;
 }
 

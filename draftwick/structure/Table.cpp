@@ -1,4 +1,4 @@
-#include <draftwick/model/Class.h>
+#include <draftwick/model/ClassTable.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Writers.h>
 
@@ -25,7 +25,7 @@ const Class& Table::Describe() {
         "{D18F7EE2-208D-4313-ADCC-44B011B03408}",
         "{0E64CEF8-4F48-400A-A818-FD553BCB25E8}",
         {
-            PropertyOf<&T::CurrentCell>("CurrentCell"),
+            PropertyOf<&T::CurrentCell>("CurrentCell").OrNothing(),
             PropertyOf<&T::Emitted>("Emitted"),
             PropertyOf<&T::Finished>("Finished"),
             PropertyOf<&T::Align, &T::SetAlign, &V::align>("Align"),

@@ -1,10 +1,13 @@
 #include "tests/support/Documents.h"
 #include "tests/support/PictureFiles.h"
 #include "tests/support/Script.h"
+#include "tests/support/TempFolder.h"
 
 #include <cmath>
 #include <limits>
 #include <map>
+#include <optional>
+#include <regex>
 #include <set>
 
 /// Walks every property of every class by the classes' own descriptions.
@@ -14,8 +17,8 @@ namespace {
 
 using ObjectPointer = std::shared_ptr<Object>;
 
-/// Calls a method with the number 1 where it takes numbers, else with the text "A".
-Variant CallWithAnything(Object& object, const ClassMethod& method) {
+/// Calls a method with the number where it takes numbers, else with the text "A".
+Variant CallWithAnything(Object& object, const ClassMethod& method, std::int32_t number = 1) {
     const auto call = [&](const Variant& anything) {
         std::vector<Variant> values;
         for (const Argument& argument : method.arguments) {
@@ -25,11 +28,16 @@ Variant CallWithAnything(Object& object, const ClassMethod& method) {
         return Call(object, method.name, values);
     };
     try {
-        return call(1);
+        return call(number);
     } catch (const Error& error) {
         if (error.Number() != dwRunTypeMismatch) throw;
     }
     return call(std::string{"A"});
+}
+
+/// The number for each argument that a property has.
+std::vector<Variant> IndicesOf(const ClassProperty& property, std::int32_t number = 1) {
+    return std::vector<Variant>(property.arguments.size(), number);
 }
 
 /// A way from a new document to an object: the members that lead there.
@@ -41,22 +49,27 @@ struct Subject {
     TestDocument document{dwTwips};
     std::vector<ObjectPointer> way{document.document};
 
-    explicit Subject(const Way& members) {
+    explicit Subject(const Way& members, std::int32_t number = 1, bool changed = false) {
+        if (changed) ChangeSettings();
         for (const char* names : {"Fonts", "ParagraphStyles", "TextStyles", "Lists"}) {
             Call(*std::get<ObjectPointer>(Get(*document.document, names)), "Add", {std::string{"B"}});
         }
         document.files->Put("a.jpg", MakeJpeg(8, 8, 1, 96, 96));
-        for (const std::string_view member : members) Go(member);
+        for (const std::string_view member : members) Go(member, number);
     }
+
+    /// Nothing of the document has its default, as far as a header can still be added.
+    void ChangeSettings() const;
 
     ObjectPointer Object() const { return way.back(); }
     const Class& Description() const { return Object()->Description(); }
 
     /// Whether the member gives an object, which is the subject then.
-    bool Go(std::string_view member) {
-        const ClassMethod* method = Description().FindMethod(member);
-        const Variant next =
-            method != nullptr ? CallWithAnything(*Object(), *method) : Get(*Object(), member);
+    bool Go(std::string_view member, std::int32_t number = 1) {
+        const ClassProperty* property = Description().FindProperty(member);
+        const Variant next = property != nullptr
+                                 ? Get(*Object(), member, IndicesOf(*property, number))
+                                 : CallWithAnything(*Object(), *Description().FindMethod(member), number);
         const auto* object = std::get_if<ObjectPointer>(&next);
         if (object != nullptr) way.push_back(*object);
         return object != nullptr;
@@ -129,10 +142,11 @@ struct Trials {
     std::vector<std::pair<Variant, std::string>> refused;
 };
 
-Trials TrialsOf(const Rule& rule) {
+Trials TrialsOf(const ClassProperty& property) {
+    const Rule& rule = property.rule;
     const std::string overflow = "6 Overflow";
     constexpr double Infinity = std::numeric_limits<double>::infinity();
-    switch (rule.kind) {
+    switch (property.type->kind) {
     case Kind::Boolean: return {{true, false}, {{1, "13"}}};
     case Kind::Length:
         return {{-32768.0, 32767.0, 12.0},
@@ -148,6 +162,7 @@ Trials TrialsOf(const Rule& rule) {
         }
         return {{2.5, -0.75},
                 {{Infinity, overflow}, {-Infinity, overflow}, {std::nan(""), overflow}, {1e300, overflow}}};
+    case Kind::Color:
     case Kind::Number: {
         if (rule.limited) {
             const std::string range =
@@ -161,8 +176,19 @@ Trials TrialsOf(const Rule& rule) {
         return {{std::numeric_limits<std::int32_t>::max(), std::numeric_limits<std::int32_t>::min()},
                 {{std::string{"1"}, "13"}}};
     }
+    case Kind::Path:
     case Kind::Text: return {{std::string{"Grün {b}"}, std::string{}}, {{true, "13"}}};
     default: return {};
+    }
+}
+
+void Subject::ChangeSettings() const {
+    static const std::set<std::string_view> Kept{"ScaleMode", "FacingPage"};
+    for (const ClassProperty& property : document.document->Description().properties) {
+        if (property.set == nullptr || !property.rule.complete || Kept.contains(property.name)) continue;
+        for (const Variant& value : TrialsOf(property).taken) {
+            if (value != property.rule.initial) Set(*document.document, property.name, value);
+        }
     }
 }
 
@@ -179,24 +205,31 @@ protected:
 };
 
 Variant Read(const Subject& subject, const ClassProperty& property) {
-    return property.get == nullptr ? Variant{} : Get(*subject.Object(), property.name);
+    return property.get == nullptr ? Variant{} : Get(*subject.Object(), property.name, IndicesOf(property));
 }
 
 }  // namespace
 
-TEST_P(EveryWay, LeadsToAnObjectInItsPlaceWithItsDefaults) {
+TEST_P(EveryWay, LeadsToDefaultsThatHoldForAllThatItLeadsTo) {
+    for (const bool changed : {false, true}) {
+        for (std::int32_t number = 1; number <= 9; ++number) {
+            std::optional<Subject> subject;
+            if (Refusal([&] { subject.emplace(GetParam(), number, changed); }) != "accepted") continue;
+            for (const ClassProperty& property : subject->Description().properties) {
+                if (std::holds_alternative<std::monostate>(property.rule.initial)) continue;
+                if (GetParam().empty() && (changed || property.name == "ScaleMode")) continue;
+                EXPECT_EQ(Read(*subject, property), property.rule.initial)
+                    << property.name << " of number " << number << (changed ? " in a changed document" : "");
+            }
+        }
+    }
+}
+
+TEST_P(EveryWay, LeadsToAnObjectInItsPlace) {
     const Subject subject(GetParam());
     const std::string member{GetParam().empty() ? "" : GetParam().back()};
-    const ObjectPointer object = subject.Object(), from = subject.way[subject.way.size() - !member.empty() - 1];
-    std::set<std::string_view> given{"ScaleMode"};  // which subjects set
-    if (const ClassMethod* method = from->Description().FindMethod(member)) {
-        for (const Argument& argument : method->arguments) given.insert(argument.name);
-    }
-    for (const ClassProperty& property : subject.Description().properties) {
-        if (property.get == nullptr || given.contains(property.name)) continue;
-        if (std::holds_alternative<std::monostate>(property.rule.initial)) continue;
-        EXPECT_EQ(Get(*object, property.name), property.rule.initial) << property.name;
-    }
+    const ObjectPointer object = subject.Object(),
+                        from = subject.way[subject.way.size() - !member.empty() - 1];
     if (member.empty()) return;
     const bool fromCollection = from->Description().FindMethod("Items") != nullptr;
     EXPECT_EQ(object->Parent(), fromCollection ? from->Parent() : from);
@@ -217,8 +250,8 @@ TEST_P(EveryWay, LeadsToAnObjectInItsPlaceWithItsDefaults) {
 
 TEST_P(EveryWay, LeadsToSettingsThatTakeWhatTheirRulesAllow) {
     ForEachSetter([](const ClassProperty& property, const Subject& subject) {
-        if (property.get == nullptr || std::holds_alternative<std::monostate>(property.rule.initial)) return;
-        const Trials trials = TrialsOf(property.rule);
+        if (property.get == nullptr || !property.rule.complete) return;
+        const Trials trials = TrialsOf(property);
         for (const Variant& value : trials.taken) {
             Set(*subject.Object(), property.name, value);
             EXPECT_EQ(Read(subject, property), value);
@@ -234,12 +267,12 @@ TEST_P(EveryWay, LeadsToSettingsThatTakeWhatTheirRulesAllow) {
 }
 
 TEST_P(EveryWay, LeadsToNamesThatTheDocumentHas) {
-    static const std::set<std::string_view> Others{"Format", "ShadeArray", "LinkTo"};
+    static const std::set<std::string_view> Others{"ShadeArray", "LinkTo"};
     ForEachSetter([](const ClassProperty& property, const Subject& subject) {
         const bool isRun =
             subject.Description().FindProperty("Text") != nullptr;  // looked up when it is written
-        if (property.rule.kind != Kind::Text || Others.contains(property.name) || isRun) return;
-        if (!std::holds_alternative<std::monostate>(property.rule.initial)) return;
+        if (property.type->kind != Kind::Text || Others.contains(property.name) || isRun) return;
+        if (property.rule.complete) return;
         Set(*subject.Object(), property.name, std::string{"b"});
         for (const char* missing : {"Missing", "BB"}) {
             EXPECT_EQ(Refusal([&] { Set(*subject.Object(), property.name, std::string{missing}); }),
@@ -256,7 +289,7 @@ TEST_P(EveryWay, LeadsToSettingsThatAreRefusedOnceWritten) {
         if (property.get == nullptr) return;
         const Variant before = Read(subject, property);
         subject.Write();
-        EXPECT_EQ(Refusal([&] { Set(*subject.Object(), property.name, before); }),
+        EXPECT_EQ(Refusal([&] { Set(*subject.Object(), property.name, before, IndicesOf(property)); }),
                   IsRefused(GetParam(), property.name)
                       ? Emitted(std::string{subject.Owner()->Description().name})
                       : "accepted");
@@ -266,8 +299,7 @@ TEST_P(EveryWay, LeadsToSettingsThatAreRefusedOnceWritten) {
 
 // Columns.Add, Paragraph.AddTextItem, Properties.Remove, ...
 TEST_P(EveryWay, LeadsToMethodsThatAreRefusedOnceFinished) {
-    static const std::set<std::string_view> Harmless{"Items",   "Levels",   "AdjustValues", "ASCIIChar",
-                                                     "Preview", "PrintOut", "Finish"};
+    static const std::set<std::string_view> Harmless{"Items", "ASCIIChar", "Preview", "PrintOut", "Finish"};
     const Subject subject(GetParam());
     subject.Finish();
     for (const ClassMethod& method : subject.Description().methods) {
@@ -285,7 +317,8 @@ TEST_P(EveryWay, LeadsToSettingsThatAreRefusedOnceTheDocumentIsGone) {
         const Variant before = Read(subject, property);
         subject.way.erase(subject.way.begin());
         subject.document.document.reset();
-        EXPECT_EQ(RefusalNumber([&] { Set(*subject.Object(), property.name, before); }), dwRunObjectGone);
+        EXPECT_EQ(RefusalNumber([&] { Set(*subject.Object(), property.name, before, IndicesOf(property)); }),
+                  dwRunObjectGone);
         EXPECT_EQ(subject.Object()->Document(), nullptr);
     });
 }
@@ -336,12 +369,13 @@ TEST_P(EveryWay, LeadsToSettingsThatChangeTheFile) {
         const auto written = [&](const Variant* value) {
             const Subject subject(GetParam());
             for (const auto& of : {owner, name}) {
-                if (Switches.contains(of)) Script(subject.document.document, subject.Object()).Run(Switches.at(of));
+                if (Switches.contains(of))
+                    Script(subject.document.document, subject.Object()).Run(Switches.at(of));
             }
-            if (value != nullptr) Set(*subject.Object(), property.name, *value);
+            if (value != nullptr) Set(*subject.Object(), property.name, *value, IndicesOf(property));
             return subject.Finish();
         };
-        std::vector<Variant> values = TrialsOf(property.rule).taken;
+        std::vector<Variant> values = TrialsOf(property).taken;
         for (const char* text : {"B", "a.jpg", "1,2"}) values.emplace_back(std::string{text});
         values.emplace_back(2);
         const std::string before = written(nullptr);
@@ -380,6 +414,76 @@ TEST(Classes, AreOrderedAndHaveIdentifiersOfTheirOwn) {
     }
 }
 
+TEST(Types, AreCalledWhatTheirClassesAre) {
+    const auto check = [](const Type* type) {
+        if (type == nullptr) return;
+        EXPECT_EQ(type->description != nullptr || type->name == "Object", type->kind == Kind::Object)
+            << type->name;
+        if (type->description != nullptr) {
+            EXPECT_EQ(type->name, type->description().name);
+        }
+        EXPECT_EQ(!type->values.empty(), type->name.starts_with("dw")) << type->name;
+    };
+    for (const Class* one : Classes()) {
+        for (const ClassProperty& property : one->properties) check(property.type);
+        for (const ClassMethod& method : one->methods) check(method.result);
+    }
+    check(CommonProperties()[0].type);
+    check(CommonProperties()[1].type);
+}
+
+/// "dwScaleMode dwInches 1" for each value of each enumeration that the headers declare.
+std::set<std::string> ValuesInHeaders() {
+    std::set<std::string> values;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(DRAFTWICK_SOURCE_FOLDER)) {
+        if (entry.path().extension() != ".h") continue;
+        const std::string header =
+            std::regex_replace(ReadFile(entry.path().string()), std::regex{"//.*"}, "");
+        const std::regex enumeration{R"(\benum (dw\w+) : std::int32_t \{([^}]*)\})"},
+            value{R"((dw\w+) = (-?\d+))"};
+        for (std::sregex_iterator one{header.begin(), header.end(), enumeration}, end; one != end; ++one) {
+            const std::string body = (*one)[2];
+            for (std::sregex_iterator each{body.begin(), body.end(), value}; each != end; ++each)
+                values.insert((*one)[1].str() + " " + (*each)[1].str() + " " + (*each)[2].str());
+        }
+    }
+    return values;
+}
+
+TEST(Enumerations, AreThoseOfTheHeaders) {
+    std::set<std::string> described;
+    std::string_view last;
+    for (const Type* type : Enumerations()) {
+        EXPECT_LT(last, type->name);
+        last = type->name;
+        for (const EnumerationValue& value : type->values) {
+            described.insert(std::string{last} + " " + std::string{value.name} + " "
+                             + std::to_string(value.value));
+        }
+    }
+    EXPECT_EQ(described, ValuesInHeaders());
+}
+
+TEST(Collections, GiveTheirItems) {
+    for (const Class* one : Classes()) {
+        const ClassMethod* items = one->FindMethod("Items");
+        EXPECT_EQ(one->items != nullptr, items != nullptr) << one->name;
+        if (items == nullptr) continue;
+        EXPECT_EQ(one->items, items->result) << one->name;
+        EXPECT_NE(one->FindProperty("Count"), nullptr) << one->name;
+    }
+}
+
+TEST(Hosts, CreateDocumentsAndSpecials) {
+    std::set<std::string_view> created;
+    for (const Class* one : Classes()) {
+        if (one->create == nullptr) continue;
+        created.insert(one->name);
+        EXPECT_EQ(&one->create()->Description(), one);
+    }
+    EXPECT_EQ(created, (std::set<std::string_view>{"Document", "Special"}));
+}
+
 TEST(Names, ReachEverything) {
     const TestDocument document;
     const auto section = std::get<ObjectPointer>(Call(*document.document, "AddSection"));
@@ -390,6 +494,24 @@ TEST(Names, ReachEverything) {
     EXPECT_EQ(RefusalNumber([&] { Set(*item, "Text", std::string{}); }), dwRunInvalidCall);
     EXPECT_EQ(RefusalNumber([&] { Call(*paragraph, "AddTextItem"); }), dwRunInvalidCall);
     EXPECT_EQ(RefusalNumber([&] { Call(*section, "AddParagraph", {1}); }), dwRunInvalidCall);
+}
+
+TEST(Names, ReachAPropertyWithArgumentsAsThatAndAsMethods) {
+    const TestDocument document;
+    const auto shape = document.AddParagraph()->AddShape(dwSKStar);
+    Set(*shape, "AdjustValues", 7, {2});
+    EXPECT_EQ(shape->AdjustValues(2), 7);
+    Call(*shape, "SetAdjustValues", {2, 8});
+    EXPECT_EQ(Get(*shape, "AdjustValues", {2}), Variant{8});
+    EXPECT_EQ(Call(*shape, "AdjustValues", {2}), Variant{8});
+    const std::string missing = "5 Invalid procedure call or argument: the argument ";
+    EXPECT_EQ(Refusal([&] { Get(*shape, "AdjustValues"); }), missing + "Index is missing");
+    EXPECT_EQ(Refusal([&] { Set(*shape, "AdjustValues", 1); }), missing + "Index is missing");
+    EXPECT_EQ(Refusal([&] { Call(*shape, "SetAdjustValues", {1}); }), missing + "Value is missing");
+    EXPECT_EQ(RefusalNumber([&] { Get(*shape, "Width", {1}); }), dwRunInvalidCall);
+    EXPECT_EQ(RefusalNumber([&] { Set(*shape, "Width", 1, {1}); }), dwRunInvalidCall);
+    EXPECT_EQ(RefusalNumber([&] { Call(*shape, "Width"); }), dwErrItemNotFound);
+    EXPECT_EQ(RefusalNumber([&] { Call(*shape, "SetWidth", {1}); }), dwErrItemNotFound);
 }
 
 }  // namespace draftwick::test

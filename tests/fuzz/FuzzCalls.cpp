@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <limits>
 #include <set>
 #include <span>
@@ -126,35 +127,44 @@ private:
         } else if (form < 3 && !description.properties.empty()) {
             SetOne(*object, OneOf(description.properties));
         } else {
-            std::vector<std::string_view> ways{"Parent", "Document"};
+            std::vector<const ClassProperty*> ways;
+            for (const ClassProperty& property : CommonProperties()) ways.push_back(&property);
             for (const ClassProperty& property : description.properties) {
-                if (property.rule.kind == Kind::Object) ways.push_back(property.name);
+                if (property.type->kind == Kind::Object) ways.push_back(&property);
             }
-            Try([&] { Keep(Get(*object, OneOf(ways))); });
+            const ClassProperty& way = *OneOf(ways);
+            const auto arguments = Arguments(way.arguments);
+            Try([&] { Keep(Get(*object, way.name, arguments)); });
         }
     }
 
-    void CallOne(Object& object, const ClassMethod& method) {
+    std::vector<Variant> Arguments(const std::vector<Argument>& all) {
         std::vector<Variant> arguments;
-        for (const Argument& argument : method.arguments) {
+        for (const Argument& argument : all) {
             if (Byte() % 16 == 0) continue;
-            arguments.push_back(Value(argument.initial ? KindOf(*argument.initial) : Kind::Any, {}));
+            arguments.push_back(Value(argument.initial ? argument.type->kind : Kind::Any, {}));
         }
+        return arguments;
+    }
+
+    void CallOne(Object& object, const ClassMethod& method) {
+        const auto arguments = Arguments(method.arguments);
         const bool raw = std::count(arguments.begin(), arguments.end(), Variant{true}) > 0;
         for (const Variant& value : arguments) Note(value, raw || Unescaped.contains(method.name));
         Try([&] { Keep(Call(object, method.name, arguments)); });
     }
 
     void SetOne(Object& object, const ClassProperty& property) {
-        const Variant value = Value(property.rule.kind, property.rule);
+        const auto arguments = Arguments(property.arguments);
+        const Variant value = Value(property.type->kind, property.rule);
         Variant before, after;
         const auto read = [&](Variant& into) {
-            if (property.get != nullptr) Try([&] { into = Get(object, property.name); });
+            if (property.get != nullptr) Try([&] { into = Get(object, property.name, arguments); });
         };
         read(before);
         if (property.set == nullptr) return;
         Note(value, Unescaped.contains(property.name));
-        if (Try([&] { Set(object, property.name, value); })) return;
+        if (Try([&] { Set(object, property.name, value, arguments); })) return;
         read(after);
         if (before != after) Fail("a refused setter changed " + std::string{property.name});
     }
@@ -194,24 +204,23 @@ private:
         broken_ |= unescaped && text->find_first_of("{}\\") != text->npos;
     }
 
-    static Kind KindOf(const Variant& value) {
-        constexpr Kind Kinds[] = {Kind::Any,  Kind::Boolean, Kind::Number, Kind::Real,
-                                  Kind::Text, Kind::Date,    Kind::Object};
-        return Kinds[value.index()];
-    }
-
     Variant Value(Kind kind, const Rule& rule) {
-        if (kind == Kind::Any || Byte() % 16 == 0) kind = static_cast<Kind>(Byte() % 7);
-        const std::uint8_t byte = kind == Kind::Any ? std::uint8_t{0} : Byte();
+        constexpr Kind Kinds[] = {Kind::Boolean, Kind::Number, Kind::Real,  Kind::Length,
+                                  Kind::Text,    Kind::Value,  Kind::Object};  // of Value only a date
+        const bool any = kind == Kind::Any || kind == Kind::Key || kind == Kind::Value;
+        if (any || Byte() % 16 == 0) kind = Kinds[Byte() % std::size(Kinds)];
+        const std::uint8_t byte = Byte();
         switch (kind) {
         case Kind::Boolean: return byte % 2 == 0;
+        case Kind::Color:
         case Kind::Number:
             if (rule.limited) return rule.low - 1 + byte % (rule.high - rule.low + 3);
             return byte < 200 ? byte % 16 : OneOf(Numbers);
         case Kind::Length:
         case Kind::Real: return byte < 200 ? byte / 8.0 : OneOf(Reals);
+        case Kind::Path:
         case Kind::Text: return Text(byte);
-        case Kind::Date: return Date{1980 + byte, Byte(), Byte(), Byte(), Byte(), byte};
+        case Kind::Value: return Date{1980 + byte, Byte(), Byte(), Byte(), Byte(), byte};
         case Kind::Object: return objects_[objects_.size() - 1 - byte % objects_.size()];
         default: return {};
         }

@@ -106,14 +106,12 @@ Script::Place Script::Follow(ObjectPointer from, std::string_view path,
         const std::string_view member = Take(path, '.');
         Object& object = *place.object;
         const auto given = path.empty() ? arguments : std::span<const Variant>{};
-        if (object.Description().FindMethod(member) != nullptr) {
-            place.value = Call(object, member, given);
-        } else if (!given.empty()) {
-            Refuse("takes no values", member);
+        if (object.Description().FindProperty(member) != nullptr) {
+            place.value = Get(object, member, given);
         } else if (IsNumber(member) || IsConstant(member)) {
             place.value = Call(object, "Items", {ValueOf(member)});
         } else {
-            place.value = Get(object, member);
+            place.value = Call(object, member, given);
         }
         if (const auto* next = std::get_if<ObjectPointer>(&place.value))
             place.object = *next;
@@ -156,6 +154,19 @@ void Script::Run(std::string_view step) {
 
 void Apply(std::string_view settings, Object& object) {
     Script(object.Document(), object.Self()).Run(settings);
+}
+
+std::int32_t ConstantNamed(std::string_view name) {
+    static const auto constants = [] {
+        std::map<std::string_view, std::int32_t> all;
+        for (const Type* type : Enumerations()) {
+            for (const EnumerationValue& value : type->values) all.emplace(value.name, value.value);
+        }
+        return all;
+    }();
+    const auto found = constants.find(name);
+    if (found == constants.end()) Refuse("no constant", name);
+    return found->second;
 }
 
 }  // namespace draftwick::test
