@@ -1,6 +1,6 @@
 #include <draftwick/base/Error.h>
-#include <draftwick/base/MessageTable.h>
 #include <draftwick/base/Version.h>
+#include <draftwick/base/internal/MessageTable.h>
 #include <draftwick/platform/Platform.h>
 
 #include <atomic>
@@ -45,13 +45,13 @@ std::string_view RuntimeErrorText(dwRuntimeError number) {
 }
 
 [[noreturn]] void Raise(const Error& error) {
-    LogError(error);
+    detail::LogError(error);
     throw error;
 }
 
 }  // namespace
 
-void RaiseError(std::int32_t number, std::initializer_list<Variant> parameters) {
+void detail::RaiseError(std::int32_t number, std::initializer_list<Variant> parameters) {
     std::string_view source = Product;
     std::string text;
     std::vector<Variant> values{parameters};
@@ -74,7 +74,7 @@ void RaiseError(std::int32_t number, std::initializer_list<Variant> parameters) 
     Raise(Error(number, text, source, HelpFileName));
 }
 
-void RaiseRuntimeError(dwRuntimeError number, const std::string& detail) {
+void detail::RaiseRuntimeError(dwRuntimeError number, const std::string& detail) {
     std::string text{RuntimeErrorText(number)};
     if (!detail.empty()) text += ": " + detail;
     Raise(Error(number, text, {}, {}));
@@ -87,7 +87,7 @@ std::string ErrorNumberText(std::int32_t number) {
 
 void SetErrorLogging(bool on) noexcept { logging = on; }
 
-void LogError(const Error& error) {
+void detail::LogError(const Error& error) {
     if (!logging) return;
     const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     const std::string text = platform::LocalTimeText(now) + "\r\nProduct: " + std::string{Product}

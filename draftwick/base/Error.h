@@ -63,6 +63,15 @@ private:
     std::string_view helpFile_;
 };
 
+/// "X" and the message number for the library's own range of numbers (X109), any other number in decimal.
+DRAFTWICK_API std::string ErrorNumberText(std::int32_t number);
+
+/// Whether every refusal is also recorded in the system's event log. Off at first; one setting per process.
+DRAFTWICK_API void SetErrorLogging(bool on) noexcept;
+
+/// @cond LIBRARY
+namespace detail {
+
 /// Raises Error with the message of `number`, in which %1, %2, ... stand for the parameters that are texts.
 [[noreturn]] DRAFTWICK_API void RaiseError(std::int32_t number,
                                            std::initializer_list<Variant> parameters = {});
@@ -70,13 +79,10 @@ private:
 /// Raises Error for a run-time refusal: the number's own text, then what was wrong.
 [[noreturn]] DRAFTWICK_API void RaiseRuntimeError(dwRuntimeError number, const std::string& detail = {});
 
-/// "X" and the message number for the library's own range of numbers (X109), any other number in decimal.
-DRAFTWICK_API std::string ErrorNumberText(std::int32_t number);
-
-/// Whether every refusal is also recorded in the system's event log. Off at first; one setting per process.
-DRAFTWICK_API void SetErrorLogging(bool on) noexcept;
-
 /// Writes a description of the error to the event log when error logging is on.
 DRAFTWICK_API void LogError(const Error& error);
+
+}  // namespace detail
+/// @endcond
 
 }  // namespace draftwick

@@ -5,7 +5,7 @@
 #include <limits>
 #include <string>
 
-namespace draftwick {
+namespace draftwick::detail {
 
 namespace {
 
@@ -88,4 +88,4 @@ std::int32_t HimetricToPixels(std::int32_t himetric, double twipsPerPixel) {
     return RoundDown(himetric / 2540.0 * 1440.0 / twipsPerPixel);
 }
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

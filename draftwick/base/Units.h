@@ -14,6 +14,9 @@ enum dwScaleMode : std::int32_t {
     dwPoints = 3,  ///< 20 twips
 };
 
+/// @cond LIBRARY
+namespace detail {
+
 /// The nearest whole number, ties to the even one (2.5 gives 2, 3.5 gives 4). Error 6 when the value is not a
 /// number or does not fit 32 bits.
 DRAFTWICK_API std::int32_t RoundHalfEven(double value);
@@ -65,5 +68,8 @@ DRAFTWICK_API std::int32_t InchesToHimetric(double inches);
 DRAFTWICK_API std::int32_t TwipsToHimetric(std::int32_t twips);
 /// Rounded down, on a screen with so many twips to a pixel (15 on the usual 96 dots per inch).
 DRAFTWICK_API std::int32_t HimetricToPixels(std::int32_t himetric, double twipsPerPixel = 15);
+
+}  // namespace detail
+/// @endcond
 
 }  // namespace draftwick

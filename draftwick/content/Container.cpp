@@ -1,6 +1,6 @@
 #include <draftwick/content/Container.h>
 #include <draftwick/content/Paragraph.h>
-#include <draftwick/content/Writers.h>
+#include <draftwick/content/internal/Writers.h>
 #include <draftwick/structure/Table.h>
 
 namespace draftwick {

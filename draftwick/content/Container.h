@@ -10,7 +10,7 @@ class Table;
 
 /// Everything that holds paragraphs. What a paragraph writes about the place where it stands is the container's
 /// business: the kinds of container differ in the Write functions below and in nothing else.
-class DRAFTWICK_API Container : public Content {
+class DRAFTWICK_API Container : public detail::Content {
 public:
     using Content::Content;
 

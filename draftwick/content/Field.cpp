@@ -1,7 +1,7 @@
 #include <draftwick/content/Field.h>
-#include <draftwick/content/Writers.h>
-#include <draftwick/model/ClassTable.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/content/internal/Writers.h>
+#include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/text/Utf8.h>
 
 namespace draftwick {

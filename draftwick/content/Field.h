@@ -36,8 +36,8 @@ public:
     struct Values {
         std::string code;
         std::string text;
-        Choice<"Field.NumberFormat", dwFNFNone, dwFNFDollarText> numberFormat{dwFNFNone};
-        Choice<"Field.TextFormat", dwFTFNone, dwFTFUpper> textFormat{dwFTFNone};
+        rule::Choice<"Field.NumberFormat", dwFNFNone, dwFNFDollarText> numberFormat{dwFNFNone};
+        rule::Choice<"Field.TextFormat", dwFTFNone, dwFTFUpper> textFormat{dwFTFNone};
         std::string numberPicture;
         std::string datePicture;
         bool mergeFormat = false;
@@ -48,7 +48,7 @@ public:
         bool isPrivate = false;
     };
 
-    Field(const Origin& origin, std::string_view code, std::string_view text);
+    Field(const detail::Origin& origin, std::string_view code, std::string_view text);
 
     /// The instruction without the switches below: "PAGE", "REF prices", "TOC \\o". Characters that mean something
     /// in RTF are escaped. Default: as added.
@@ -108,7 +108,7 @@ protected:
     void WriteStart() override;
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

@@ -1,4 +1,4 @@
-#include <draftwick/content/Writers.h>
+#include <draftwick/content/internal/Writers.h>
 
 namespace draftwick {
 

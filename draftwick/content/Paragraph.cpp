@@ -1,12 +1,12 @@
 #include <draftwick/content/Field.h>
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/TextItem.h>
-#include <draftwick/content/Writers.h>
+#include <draftwick/content/internal/Writers.h>
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/format/Styles.h>
-#include <draftwick/model/Access.h>
-#include <draftwick/model/ClassTable.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Footnote.h>
 

@@ -25,9 +25,9 @@ class TextItem;
 /// A paragraph (RTF \par). Its settings are written when its first child is added or when it is closed; from then
 /// on they and those of its parts refuse ("Paragraph"). It is closed when its container gets another child or is
 /// closed itself; then it takes no more children.
-class DRAFTWICK_API Paragraph final : public HeldBy<Container> {
+class DRAFTWICK_API Paragraph final : public detail::HeldBy<Container> {
 public:
-    explicit Paragraph(const Origin& origin) : HeldBy(origin), format_(AsOwner()) {}
+    explicit Paragraph(const detail::Origin& origin) : HeldBy(origin), format_(AsOwner()) {}
 
     /// The name of a paragraph style; empty (default) for none. Setting it looks the style up (dwErrItemNotFound),
     /// takes its spelling and copies everything that the style has into the paragraph, over what was set before;
@@ -79,13 +79,13 @@ private:
 
     bool StandsInCell() const { return Holder().StandsInCell(); }
 
-    Ref<ParagraphStyles> style_;
+    rule::Ref<ParagraphStyles> style_;
     ParagraphFormat format_;
-    Lazy<draftwick::FontFormat> fontFormat_;
-    Lazy<draftwick::Background> background_;
-    Lazy<ParagraphBorders> borders_;
-    Lazy<draftwick::TabStops> tabStops_;
-    Lazy<draftwick::Frame> frame_;
+    detail::Lazy<draftwick::FontFormat> fontFormat_;
+    detail::Lazy<draftwick::Background> background_;
+    detail::Lazy<ParagraphBorders> borders_;
+    detail::Lazy<draftwick::TabStops> tabStops_;
+    detail::Lazy<draftwick::Frame> frame_;
     std::shared_ptr<Bookmark> currentBookmark_;
     std::shared_ptr<Field> currentField_;
     std::shared_ptr<Footnote> currentFootnote_;

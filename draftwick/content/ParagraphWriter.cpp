@@ -1,5 +1,5 @@
-#include <draftwick/content/Writers.h>
-#include <draftwick/model/Access.h>
+#include <draftwick/content/internal/Writers.h>
+#include <draftwick/model/internal/Access.h>
 
 namespace draftwick {
 

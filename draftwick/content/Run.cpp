@@ -1,8 +1,8 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Run.h>
-#include <draftwick/content/Writers.h>
-#include <draftwick/model/Access.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/content/internal/Writers.h>
+#include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

@@ -10,12 +10,15 @@
 
 namespace draftwick {
 
-class Paragraph;
+namespace detail {
 struct RunSettings;
+}  // namespace detail
+
+class Paragraph;
 
 /// What a run of text and a field have in common: a text style and a look of their own. Everything can be changed
 /// until the run is written, which is when its paragraph gets the next child or is closed.
-class DRAFTWICK_API Run : public HeldBy<Paragraph> {
+class DRAFTWICK_API Run : public detail::HeldBy<Paragraph> {
 public:
     using HeldBy::HeldBy;
 
@@ -35,13 +38,13 @@ public:
 
 protected:
     /// What is written of the run before its text. dwErrItemNotFound when there is no such style.
-    RunSettings Settings() const;
+    detail::RunSettings Settings() const;
 
 private:
     std::string styleName_;
-    Lazy<draftwick::FontFormat> fontFormat_;
-    Lazy<draftwick::Background> background_;
-    Lazy<TextBorder> border_;
+    detail::Lazy<draftwick::FontFormat> fontFormat_;
+    detail::Lazy<draftwick::Background> background_;
+    detail::Lazy<TextBorder> border_;
 };
 
 }  // namespace draftwick

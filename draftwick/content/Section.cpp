@@ -1,8 +1,8 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
-#include <draftwick/content/Writers.h>
-#include <draftwick/model/ClassTable.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/content/internal/Writers.h>
+#include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Table.h>
 
 #include <utility>

@@ -38,29 +38,30 @@ enum dwVerticalAlign : std::int32_t { dwVertTop = 1, dwVertBottom = 2, dwVertCen
 class DRAFTWICK_API Section final : public RowContainer {
 public:
     struct Values {
-        PageSetup page;
-        Choice<"Section.Orientation", dwPortrait, dwLandscape> orientation{dwPortrait};
-        Choice<"Section.Break", dwSBKNone, dwSBKOdd> sectionBreak{dwSBKPage};
-        Length headerY{720};
-        Length footerY{720};
-        Short lineNumberingInterval{1};
-        Choice<"Section.LineNumberingRestart", dwLNRSection, dwLNRContinuous> lineNumberingRestart{
+        detail::PageSetup page;
+        rule::Choice<"Section.Orientation", dwPortrait, dwLandscape> orientation{dwPortrait};
+        rule::Choice<"Section.Break", dwSBKNone, dwSBKOdd> sectionBreak{dwSBKPage};
+        rule::Length headerY{720};
+        rule::Length footerY{720};
+        rule::Short lineNumberingInterval{1};
+        rule::Choice<"Section.LineNumberingRestart", dwLNRSection, dwLNRContinuous> lineNumberingRestart{
             dwLNRSection};
-        Short lineNumberingStart{1};
+        rule::Short lineNumberingStart{1};
         bool lineNumberingVisible = false;
-        Length lineNumberingX{720};
-        Choice<"Section.PageNumberingFormat", dwPNDecimal, dwPNLetterUpper> pageNumberingFormat{dwPNDecimal};
-        Choice<"Section.PageNumberingRestart", dwPNRSection, dwPNRContinuous> pageNumberingRestart{
+        rule::Length lineNumberingX{720};
+        rule::Choice<"Section.PageNumberingFormat", dwPNDecimal, dwPNLetterUpper> pageNumberingFormat{
+            dwPNDecimal};
+        rule::Choice<"Section.PageNumberingRestart", dwPNRSection, dwPNRContinuous> pageNumberingRestart{
             dwPNRContinuous};
         std::int32_t pageNumberingStart = 1;
-        Short paperBin{0};
-        Short paperBinFirst{0};
+        rule::Short paperBin{0};
+        rule::Short paperBinFirst{0};
         bool titlePage = false;
-        Choice<"Section.VerticalAlign", dwVertTop, dwVertJustify> verticalAlign{dwVertTop};
+        rule::Choice<"Section.VerticalAlign", dwVertTop, dwVertJustify> verticalAlign{dwVertTop};
     };
 
     /// The page is the document's at this moment.
-    explicit Section(const Origin& origin);
+    explicit Section(const detail::Origin& origin);
 
     /// From the edge of the page to the text, and the size of the paper. Default: the document's when the section was
     /// added.
@@ -76,11 +77,11 @@ public:
     void SetPageWidth(double length) { Change(values_.page.pageWidth, length); }
     double PageHeight() const { return Read(values_.page.pageHeight); }
     void SetPageHeight(double length) { Change(values_.page.pageHeight, length); }
-    /// Room for binding, on the inner side of the page.
+    /// Room for binding, on the inner side of the page. Default: the document's when the section was added.
     double Gutter() const { return Read(values_.page.gutter); }
     void SetGutter(double length) { Change(values_.page.gutter, length); }
 
-    /// A change swaps PageWidth and PageHeight.
+    /// A change swaps PageWidth and PageHeight. Default: the document's when the section was added.
     dwOrientation Orientation() const { return values_.orientation; }
     void SetOrientation(dwOrientation orientation);
 
@@ -163,7 +164,7 @@ protected:
     void WriteEnd() override;
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
     draftwick::Columns columns_;

@@ -1,5 +1,5 @@
-#include <draftwick/content/Writers.h>
-#include <draftwick/structure/Writers.h>
+#include <draftwick/content/internal/Writers.h>
+#include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 

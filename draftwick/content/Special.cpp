@@ -1,5 +1,5 @@
 #include <draftwick/content/Special.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/text/Escape.h>
 
 namespace draftwick {

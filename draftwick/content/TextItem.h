@@ -7,7 +7,7 @@ namespace draftwick {
 /// A run of text with one look. Text can be added until the run is written.
 class DRAFTWICK_API TextItem final : public Run {
 public:
-    TextItem(const Origin& origin, std::string_view text, bool raw);
+    TextItem(const detail::Origin& origin, std::string_view text, bool raw);
 
     /// Adds text; characters that mean something in RTF are escaped, tabs and CR LF become \tab and \line.
     void AddText(std::string_view text);

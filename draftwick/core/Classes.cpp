@@ -10,7 +10,7 @@
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Columns.h>

@@ -1,17 +1,17 @@
 #include <draftwick/base/Version.h>
 #include <draftwick/content/Section.h>
 #include <draftwick/core/Document.h>
-#include <draftwick/core/OutputFiles.h>
 #include <draftwick/core/Properties.h>
-#include <draftwick/core/Writers.h>
+#include <draftwick/core/internal/OutputFiles.h>
+#include <draftwick/core/internal/Writers.h>
 #include <draftwick/format/Fonts.h>
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
-#include <draftwick/model/ClassTable.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/text/Escape.h>
 #include <draftwick/viewer/AutomationObject.h>
-#include <draftwick/viewer/Viewer.h>
+#include <draftwick/viewer/internal/Viewer.h>
 
 #include <utility>
 
@@ -20,7 +20,7 @@ namespace draftwick {
 std::shared_ptr<Document> Document::Create() { return Create(platform::SystemPlatform()); }
 
 std::shared_ptr<Document> Document::Create(platform::Platform services) {
-    const auto session = std::make_shared<draftwick::Session>(std::move(services));
+    const auto session = std::make_shared<detail::Session>(std::move(services));
     auto document = std::make_shared<Document>(Origin(session), session->settings);
     document->Open();
     return document;
@@ -38,7 +38,7 @@ void Document::Open() {
     collections_->paragraphStyles = std::make_shared<draftwick::ParagraphStyles>(origin);
     collections_->textStyles = std::make_shared<draftwick::TextStyles>(origin);
     collections_->properties = std::make_shared<draftwick::Properties>(origin);
-    draftwick::Session& session = *SharedSession();
+    detail::Session& session = *SharedSession();
     session.document = this;
     session.documentLink = weak_from_this();
     session.collections = collections_.get();
@@ -46,7 +46,7 @@ void Document::Open() {
 }
 
 Document::~Document() {
-    draftwick::Session& session = *SharedSession();
+    detail::Session& session = *SharedSession();
     session.writer.output.SetStream(nullptr);
     session.writer.names = nullptr;
     session.document = nullptr;

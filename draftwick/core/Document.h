@@ -11,16 +11,19 @@
 
 namespace draftwick {
 
+namespace detail {
+class OutputFiles;
+class Viewer;
+struct Collections;
+}  // namespace detail
+
 class AutomationObject;
 class Fonts;
 class Lists;
-class OutputFiles;
 class ParagraphStyles;
 class Properties;
 class Section;
 class TextStyles;
-class Viewer;
-struct Collections;
 
 /// A document that is written while it is built.
 ///
@@ -31,7 +34,7 @@ struct Collections;
 /// The host's reference keeps the document alive; once it is let go, everything that belonged to it refuses with
 /// error 91. A document that is let go without Finish leaves its temporary file behind, with the lines that were
 /// written so far. One document is for one thread; different documents can be used in different threads at the same time.
-class DRAFTWICK_API Document final : public Content {
+class DRAFTWICK_API Document final : public detail::Content {
 public:
     /// A new document with the system's services.
     static std::shared_ptr<Document> Create();
@@ -208,7 +211,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
     /// Only for Create, which alone can make an Origin.
-    Document(const Origin& origin, DocumentSettings& settings);
+    Document(const detail::Origin& origin, detail::DocumentSettings& settings);
 
 protected:
     void WriteStart() override;
@@ -219,10 +222,10 @@ private:
     dwViewer RunViewer(dwViewer program, bool printIt);
     void SetPath(std::string& field, std::string_view path);
 
-    DocumentSettings& settings_;  // the session's
-    std::unique_ptr<Collections> collections_;
-    std::unique_ptr<OutputFiles> files_;
-    std::unique_ptr<Viewer> viewer_;
+    detail::DocumentSettings& settings_;  // the session's
+    std::unique_ptr<detail::Collections> collections_;
+    std::unique_ptr<detail::OutputFiles> files_;
+    std::unique_ptr<detail::Viewer> viewer_;
     std::shared_ptr<Section> currentSection_;
 };
 

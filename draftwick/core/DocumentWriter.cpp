@@ -1,7 +1,7 @@
-#include <draftwick/core/Writers.h>
-#include <draftwick/format/Writers.h>
-#include <draftwick/model/Access.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/core/internal/Writers.h>
+#include <draftwick/format/internal/Writers.h>
+#include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/Session.h>
 
 #include <string>
 

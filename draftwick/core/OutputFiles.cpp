@@ -1,7 +1,7 @@
 #include <draftwick/base/Error.h>
-#include <draftwick/core/OutputFiles.h>
-#include <draftwick/core/Writers.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/core/internal/OutputFiles.h>
+#include <draftwick/core/internal/Writers.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/rtf/UniqueFile.h>
 
 #include <string>

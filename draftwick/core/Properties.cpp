@@ -1,6 +1,6 @@
-#include <draftwick/base/Enumeration.h>
+#include <draftwick/base/internal/Enumeration.h>
 #include <draftwick/core/Properties.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/text/Utf8.h>
 
 #include <cmath>

@@ -39,9 +39,9 @@ enum dwBuiltInProperty : std::int32_t {
 };
 
 /// One property of a document, built-in or custom. Setters refuse once the document is emitted ("Document").
-class DRAFTWICK_API Property final : public Node {
+class DRAFTWICK_API Property final : public detail::Node {
 public:
-    Property(const Origin& origin, std::string name, std::int32_t index);
+    Property(const detail::Origin& origin, std::string name, std::int32_t index);
 
     /// "Title" and the like, or the name it was added with.
     const std::string& Name() const noexcept { return name_; }
@@ -77,9 +77,9 @@ private:
 
 /// The properties of a document: the twenty of dwBuiltInProperty, then those that the host added. A reader shows them
 /// as information about the file; nothing is filled in that the host did not set.
-class DRAFTWICK_API Properties final : public NamedCollection<Property> {
+class DRAFTWICK_API Properties final : public detail::NamedCollection<Property> {
 public:
-    explicit Properties(const Origin& origin);
+    explicit Properties(const detail::Origin& origin);
 
     /// Adds a custom property. Refuses once the document is emitted ("Document"); an empty name is
     /// dwErrZeroLengthName ("Properties"), a name that is there, in any case of letters, dwErrDuplicateName; and what

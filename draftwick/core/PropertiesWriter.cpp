@@ -1,4 +1,4 @@
-#include <draftwick/core/Writers.h>
+#include <draftwick/core/internal/Writers.h>
 #include <draftwick/text/Escape.h>
 
 namespace draftwick {

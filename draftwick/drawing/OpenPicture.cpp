@@ -1,6 +1,6 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
-#include <draftwick/drawing/OpenPicture.h>
+#include <draftwick/drawing/internal/OpenPicture.h>
 #include <draftwick/rtf/BlockWriter.h>
 #include <draftwick/rtf/UniqueFile.h>
 
@@ -17,8 +17,7 @@ std::int32_t Percent(std::int32_t twips, std::int32_t himetric) {
     return RoundDown(static_cast<double>(TwipsToHimetric(twips)) / himetric * 100);
 }
 
-}  // namespace
-
+/// What a file holds according to the end of its name, in small letters; nothing when no picture has such a name.
 std::optional<PictureKind> PictureTypeFromName(std::string_view fileName) {
     static constexpr std::pair<std::string_view, PictureKind> Endings[] = {
         {".jpg", PictureKind::Jpeg}, {".jpeg", PictureKind::Jpeg}, {".bmp", PictureKind::Bmp},
@@ -29,6 +28,8 @@ std::optional<PictureKind> PictureTypeFromName(std::string_view fileName) {
     }
     return {};
 }
+
+}  // namespace
 
 OpenPicture::OpenPicture(const platform::Platform& platform, const std::string& fileName) {
     platform::FileSystem& files = *platform.files;

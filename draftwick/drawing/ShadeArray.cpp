@@ -1,6 +1,6 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
-#include <draftwick/drawing/ShadeArray.h>
+#include <draftwick/drawing/internal/ShadeArray.h>
 
 #include <algorithm>
 #include <charconv>

@@ -1,9 +1,9 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/drawing/Shape.h>
-#include <draftwick/drawing/Writers.h>
-#include <draftwick/model/Access.h>
-#include <draftwick/model/ClassTable.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/drawing/internal/Writers.h>
+#include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Table.h>
 
 namespace draftwick {

@@ -15,9 +15,12 @@
 
 namespace draftwick {
 
+namespace detail {
 class OpenPicture;
-class Paragraph;
 struct ShapeSettings;
+}  // namespace detail
+
+class Paragraph;
 
 /// What Left is counted from.
 enum dwShapeReferenceX : std::int32_t { dwSRXPage = 1, dwSRXColumn = 2, dwSRXMargin = 3 };
@@ -54,33 +57,33 @@ enum dwShapeTextWrap : std::int32_t {
 /// without a picture), dwErrUnsupportedFileType (also for an extension in capitals), error 481 (a file that is not
 /// the picture that its name promises) or std::system_error; nothing is written yet, and the name or the file can
 /// still be mended.
-class DRAFTWICK_API Shape final : public HeldBy<Paragraph, RowContainer> {
+class DRAFTWICK_API Shape final : public detail::HeldBy<Paragraph, RowContainer> {
 public:
     struct Values {
         dwShapeKind kind = dwSKRectangle;
         std::int32_t nextIndex = 0;
-        Choice<"Shape.ReferenceX", dwSRXPage, dwSRXMargin> referenceX{dwSRXMargin};
-        Choice<"Shape.ReferenceY", dwSRYPage, dwSRYMargin> referenceY{dwSRYMargin};
-        Choice<"Shape.Wrap", dwSWTopBottom, dwSWThrough> wrap{dwSWNone};
-        Choice<"Shape.WrapSides", dwSWSBoth, dwSWSLargest> wrapSides{dwSWSBoth};
+        rule::Choice<"Shape.ReferenceX", dwSRXPage, dwSRXMargin> referenceX{dwSRXMargin};
+        rule::Choice<"Shape.ReferenceY", dwSRYPage, dwSRYMargin> referenceY{dwSRYMargin};
+        rule::Choice<"Shape.Wrap", dwSWTopBottom, dwSWThrough> wrap{dwSWNone};
+        rule::Choice<"Shape.WrapSides", dwSWSBoth, dwSWSLargest> wrapSides{dwSWSBoth};
         bool lockAnchor = false;
-        FixedPoint rotation{0};
+        rule::FixedPoint rotation{0};
         bool flipV = false;
         bool flipH = false;
         bool behindText = false;
         bool inLine = false;
         std::array<std::int32_t, 10> adjustValues{};
-        Length top{0};
-        Length left{0};
-        Length width{1440};
-        Length height{1440};
-        Length wrapTop{0};
-        Length wrapLeft{0};
-        Length wrapRight{0};
-        Length wrapBottom{0};
+        rule::Length top{0};
+        rule::Length left{0};
+        rule::Length width{1440};
+        rule::Length height{1440};
+        rule::Length wrapTop{0};
+        rule::Length wrapLeft{0};
+        rule::Length wrapRight{0};
+        rule::Length wrapBottom{0};
     };
 
-    Shape(const Origin& origin, dwShapeKind kind);
+    Shape(const detail::Origin& origin, dwShapeKind kind);
     ~Shape() override;
 
     /// The geometry; what the shape was added with until it is changed. Not checked: any number is written.
@@ -170,19 +173,19 @@ protected:
     void WriteRowMark() override;
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
-    ShapeSettings Settings() const;
+    detail::ShapeSettings Settings() const;
 
     std::int32_t index_;
     Values values_;
-    Lazy<ShapeFill> fill_;
-    Lazy<ShapeLine> line_;
-    Lazy<ShapeShadow> shadow_;
-    Lazy<ShapeTextFormat> textFormat_;
-    Lazy<ShapeThreeD> threeD_;
-    Lazy<ShapeWordArt> wordArt_;
-    std::unique_ptr<OpenPicture> inlinePicture_;  // from the first half to the second
+    detail::Lazy<ShapeFill> fill_;
+    detail::Lazy<ShapeLine> line_;
+    detail::Lazy<ShapeShadow> shadow_;
+    detail::Lazy<ShapeTextFormat> textFormat_;
+    detail::Lazy<ShapeThreeD> threeD_;
+    detail::Lazy<ShapeWordArt> wordArt_;
+    std::unique_ptr<detail::OpenPicture> inlinePicture_;  // from the first half to the second
 };
 
 }  // namespace draftwick

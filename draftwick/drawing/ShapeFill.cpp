@@ -1,6 +1,6 @@
-#include <draftwick/drawing/ShadeArray.h>
 #include <draftwick/drawing/ShapeFill.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/drawing/internal/ShadeArray.h>
+#include <draftwick/model/internal/ClassTable.h>
 
 namespace draftwick {
 

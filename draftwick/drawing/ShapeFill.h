@@ -20,20 +20,20 @@ enum dwShapeFillStyle : std::int32_t {
 
 /// The inside of a shape. Refuses once the shape is written ("Shape"). Colours have red in the lowest byte, then
 /// green, then blue. Percentages go from 0 to 100, which is not checked.
-class DRAFTWICK_API ShapeFill final : public Part {
+class DRAFTWICK_API ShapeFill final : public detail::Part {
 public:
     struct Values {
-        Choice<"ShapeFill.Style", dwSFSNone, dwSFSShadeRect> style{dwSFSNone};
+        rule::Choice<"ShapeFill.Style", dwSFSNone, dwSFSShadeRect> style{dwSFSNone};
         std::int32_t color = 0;
-        Real<PercentToFixedPoint> opacity{100};
+        rule::Percent opacity{100};
         std::int32_t backColor = 0;
-        Real<PercentToFixedPoint> backOpacity{100};
-        Real<ToFixedPoint> shadeAngle{0};
+        rule::Percent backOpacity{100};
+        rule::Fixed shadeAngle{0};
         bool shadeFocus = false;
-        Real<PercentFromFarEdge> shadeToTop{0};
-        Real<PercentFromFarEdge> shadeToLeft{0};
-        Real<PercentToFixedPoint> shadeToRight{0};
-        Real<PercentToFixedPoint> shadeToBottom{0};
+        rule::FarPercent shadeToTop{0};
+        rule::FarPercent shadeToLeft{0};
+        rule::Percent shadeToRight{0};
+        rule::Percent shadeToBottom{0};
         std::string shadeArray;
         std::string picture;
     };
@@ -93,7 +93,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

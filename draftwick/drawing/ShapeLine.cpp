@@ -1,5 +1,5 @@
 #include <draftwick/drawing/ShapeLine.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 
 namespace draftwick {
 

@@ -52,24 +52,24 @@ enum dwShapeLineArrowLength : std::int32_t { dwSLALShort = 1, dwSLALMedium = 2, 
 
 /// The outline of a shape. Refuses once the shape is written ("Shape"). Colours have red in the lowest byte, then
 /// green, then blue.
-class DRAFTWICK_API ShapeLine final : public Part {
+class DRAFTWICK_API ShapeLine final : public detail::Part {
 public:
     /// Two numbers more than there are names for: readers may know them.
     static constexpr dwShapeLineArrow LastArrow{8};
 
     struct Values {
-        Choice<"ShapeLine.Style", dwSLSNone, dwSLSThinThickThin> style{dwSLSSingle};
-        Choice<"ShapeLine.Texture", dwSLTNone, dwSLTPicture> texture{dwSLTNone};
-        Choice<"ShapeLine.Dash", dwSLDSolid, dwSLDLongDashDotDot> dash{dwSLDSolid};
+        rule::Choice<"ShapeLine.Style", dwSLSNone, dwSLSThinThickThin> style{dwSLSSingle};
+        rule::Choice<"ShapeLine.Texture", dwSLTNone, dwSLTPicture> texture{dwSLTNone};
+        rule::Choice<"ShapeLine.Dash", dwSLDSolid, dwSLDLongDashDotDot> dash{dwSLDSolid};
         std::int32_t color = 0;
         std::int32_t backColor = 0;
-        Real<PointsToEmu> width{1};
-        Choice<"ShapeLine.StartArrow", dwSLANone, LastArrow> startArrow{dwSLANone};
-        Choice<"ShapeLine.EndArrow", dwSLANone, LastArrow> endArrow{dwSLANone};
-        Choice<"ShapeLine.StartArrowWidth", dwSLAWNarrow, dwSLAWWide> startArrowWidth{dwSLAWMedium};
-        Choice<"ShapeLine.EndArrowWidth", dwSLAWNarrow, dwSLAWWide> endArrowWidth{dwSLAWMedium};
-        Choice<"ShapeLine.StartArrowLength", dwSLALShort, dwSLALLong> startArrowLength{dwSLALMedium};
-        Choice<"ShapeLine.EndArrowLength", dwSLALShort, dwSLALLong> endArrowLength{dwSLALMedium};
+        rule::PointsInEmu width{1};
+        rule::Choice<"ShapeLine.StartArrow", dwSLANone, LastArrow> startArrow{dwSLANone};
+        rule::Choice<"ShapeLine.EndArrow", dwSLANone, LastArrow> endArrow{dwSLANone};
+        rule::Choice<"ShapeLine.StartArrowWidth", dwSLAWNarrow, dwSLAWWide> startArrowWidth{dwSLAWMedium};
+        rule::Choice<"ShapeLine.EndArrowWidth", dwSLAWNarrow, dwSLAWWide> endArrowWidth{dwSLAWMedium};
+        rule::Choice<"ShapeLine.StartArrowLength", dwSLALShort, dwSLALLong> startArrowLength{dwSLALMedium};
+        rule::Choice<"ShapeLine.EndArrowLength", dwSLALShort, dwSLALLong> endArrowLength{dwSLALMedium};
         std::string picture;
     };
 
@@ -122,7 +122,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

@@ -1,4 +1,4 @@
-#include <draftwick/drawing/Writers.h>
+#include <draftwick/drawing/internal/Writers.h>
 #include <draftwick/text/Escape.h>
 
 #include <charconv>

@@ -1,5 +1,5 @@
-#include <draftwick/drawing/ShadeArray.h>
-#include <draftwick/drawing/Writers.h>
+#include <draftwick/drawing/internal/ShadeArray.h>
+#include <draftwick/drawing/internal/Writers.h>
 
 #include <string>
 

@@ -13,17 +13,17 @@ enum dwShapeShadowStyle : std::int32_t {
 
 /// The shadow of a shape. Refuses once the shape is written ("Shape"). Colours have red in the lowest byte, then
 /// green, then blue; lengths are 16 bits in twips.
-class DRAFTWICK_API ShapeShadow final : public Part {
+class DRAFTWICK_API ShapeShadow final : public detail::Part {
 public:
     struct Values {
         dwShapeShadowStyle style = dwSSSNone;
         std::int32_t color = 0;
         std::int32_t color2 = 0;
-        Length offsetX{45};
-        Length offsetY{45};
-        Length offsetX2{-45};
-        Length offsetY2{-45};
-        Real<PercentToFixedPoint> opacity{100};
+        rule::Length offsetX{45};
+        rule::Length offsetY{45};
+        rule::Length offsetX2{-45};
+        rule::Length offsetY2{-45};
+        rule::Percent opacity{100};
     };
 
     using Part::Part;
@@ -60,7 +60,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

@@ -9,13 +9,13 @@ enum dwShapeTextFlow : std::int32_t { dwSTFHorizontal = 1, dwSTFTopToBottom = 2,
 
 /// The text box of a shape: its margins and direction. Refuses once the shape is written ("Shape"). Lengths are 16
 /// bits in twips.
-class DRAFTWICK_API ShapeTextFormat final : public Part {
+class DRAFTWICK_API ShapeTextFormat final : public detail::Part {
 public:
     struct Values {
-        Length spacingTop{72};
-        Length spacingBottom{72};
-        Length spacingLeft{144};
-        Length spacingRight{144};
+        rule::Length spacingTop{72};
+        rule::Length spacingBottom{72};
+        rule::Length spacingLeft{144};
+        rule::Length spacingRight{144};
         dwShapeTextFlow flow = dwSTFHorizontal;
     };
 
@@ -39,7 +39,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

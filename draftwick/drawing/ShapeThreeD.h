@@ -13,31 +13,31 @@ enum dwShape3DProjection : std::int32_t { dwS3PParallel = 1, dwS3PPerspective = 
 /// properties c3D* and fc3D*). Only what differs from its default is written. Refuses once the shape is written
 /// ("Shape"). Colours have red in the lowest byte, then green, then blue; lengths are 16 bits in twips; numbers that
 /// are written in 65536ths are refused with error 6 when they do not fit 32 bits so.
-class DRAFTWICK_API ShapeThreeD final : public Part {
+class DRAFTWICK_API ShapeThreeD final : public detail::Part {
 public:
     struct Values {
         bool visible = false;
-        Length depth{720};
-        Length depthForward{0};
+        rule::Length depth{720};
+        rule::Length depthForward{0};
         bool useColor = false;
         std::int32_t color = 0;
         bool metallic = false;
         bool lightFace = true;
-        Real<PercentToFixedPoint> specularity{0};
-        Real<PercentToFixedPoint> diffusion{100};
+        rule::Percent specularity{0};
+        rule::Percent diffusion{100};
         std::int32_t shininess = 5;
-        Real<PointsToEmu> edgeThickness{1};
-        Real<ToFixedPoint> rotationX{0};
-        Real<ToFixedPoint> rotationY{0};
-        Choice<"ShapeThreeD.RenderMode", dwS3RSolid, dwS3RBoundingCube> renderMode{dwS3RSolid};
-        Choice<"ShapeThreeD.Projection", dwS3PParallel, dwS3PPerspective> projection{dwS3PParallel};
-        Real<ToFixedPoint> skewAngle{-135};
+        rule::PointsInEmu edgeThickness{1};
+        rule::Fixed rotationX{0};
+        rule::Fixed rotationY{0};
+        rule::Choice<"ShapeThreeD.RenderMode", dwS3RSolid, dwS3RBoundingCube> renderMode{dwS3RSolid};
+        rule::Choice<"ShapeThreeD.Projection", dwS3PParallel, dwS3PPerspective> projection{dwS3PParallel};
+        rule::Fixed skewAngle{-135};
         std::int32_t skewAmount = 50;
         std::int32_t viewpointX = 1250000;
         std::int32_t viewpointY = -1250000;
         std::int32_t viewpointZ = 9000000;
-        Real<ToFixedPoint> originX{0.5};
-        Real<ToFixedPoint> originY{-0.5};
+        rule::Fixed originX{0.5};
+        rule::Fixed originY{-0.5};
         std::int32_t ambientIntensity = 20000;
         std::int32_t keyX = 50000;
         std::int32_t keyY = 0;
@@ -161,7 +161,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

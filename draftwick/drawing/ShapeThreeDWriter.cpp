@@ -1,4 +1,4 @@
-#include <draftwick/drawing/ShapeDifferences.h>
+#include <draftwick/drawing/internal/ShapeDifferences.h>
 
 namespace draftwick {
 

@@ -23,14 +23,14 @@ enum dwShapeWordArtAlign : std::int32_t {
 /// Text that takes the form of its shape, which should be one of the kinds from dwSKTextSimple to dwSKTextOnRing or
 /// from dwSKTextPlainText to dwSKTextCanDown (RTF shape properties gtext*). Only what differs from its default is written. Refuses
 /// once the shape is written ("Shape").
-class DRAFTWICK_API ShapeWordArt final : public Part {
+class DRAFTWICK_API ShapeWordArt final : public detail::Part {
 public:
     struct Values {
         std::string text;
-        Ref<Fonts> font{};
-        Real<ToFixedPoint> size{36};
-        Choice<"ShapeWordArt.Align", dwWAAStretch, dwWAAWordJustify> align{dwWAACenter};
-        Real<PercentToFixedPoint> spacing{100};
+        rule::Ref<Fonts> font{};
+        rule::Fixed size{36};
+        rule::Choice<"ShapeWordArt.Align", dwWAAStretch, dwWAAWordJustify> align{dwWAACenter};
+        rule::Percent spacing{100};
         bool reverseRows = false;
         bool vertical = false;
         bool kern = false;
@@ -48,7 +48,7 @@ public:
     };
 
     /// Starts from the defaults and the document's DefaultFontName.
-    explicit ShapeWordArt(Owner owner);
+    explicit ShapeWordArt(detail::Owner owner);
 
     /// Default empty: nothing is written at all.
     const std::string& Text() const { return values_.text; }
@@ -113,7 +113,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

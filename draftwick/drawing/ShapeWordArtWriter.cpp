@@ -1,6 +1,6 @@
-#include <draftwick/drawing/ShapeDifferences.h>
+#include <draftwick/drawing/internal/ShapeDifferences.h>
 #include <draftwick/format/Fonts.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

@@ -26,11 +26,11 @@ enum dwTexture : std::int32_t {
 
 /// What stands behind a paragraph, a run of text, a table cell or the text of a style. Refuses when what it belongs
 /// to refuses. Colours have red in the lowest byte, then green, then blue: 0x0000FF is red. Any value is taken.
-class DRAFTWICK_API Background final : public Part {
+class DRAFTWICK_API Background final : public detail::Part {
 public:
     struct Values {
-        Choice<"Background.Texture", dwTextureNone, dwTextureShaded> texture{dwTextureNone};
-        Rounded shading{0};
+        rule::Choice<"Background.Texture", dwTextureNone, dwTextureShaded> texture{dwTextureNone};
+        rule::Rounded shading{0};
         std::int32_t color = 0;
         std::int32_t backColor = 0xFFFFFF;
     };
@@ -60,7 +60,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

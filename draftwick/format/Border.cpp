@@ -1,5 +1,5 @@
 #include <draftwick/format/Border.h>
-#include <draftwick/format/BorderTable.h>
+#include <draftwick/format/internal/BorderTable.h>
 
 namespace draftwick {
 

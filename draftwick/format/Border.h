@@ -36,8 +36,10 @@ enum dwBorderStyle : std::int32_t {
     dwBSEngrave = 24,
 };
 
+namespace detail {
+
 /// The style of one side of a border.
-using BorderStyle = Choice<"Border.Style", dwBSNone, dwBSEngrave>;
+using BorderStyle = rule::Choice<"Border.Style", dwBSNone, dwBSEngrave>;
 
 /// What borders of all kinds have: a line, its width and its colour. Kinds differ in how they keep the width, and
 /// some have more. Refuses when what it belongs to refuses.
@@ -114,16 +116,18 @@ private:
     std::array<Lazy<SideBorder>, static_cast<std::size_t>(SideCount)> sides_;
 };
 
+}  // namespace detail
+
 struct DRAFTWICK_API TextBorderValues {
     dwBorderStyle style =
         dwBSNone;  // not checked: a value outside of the enumeration writes a border without a line
-    Points width{1};
+    rule::Points width{1};
     std::int32_t color = 0;
 };
 
 /// The line around a run of text, the same on all four sides (RTF \chbrdr). Unlike other borders it takes any Style.
 /// Refuses when the run or style that it belongs to refuses.
-class DRAFTWICK_API TextBorder final : public Border<TextBorderValues> {
+class DRAFTWICK_API TextBorder final : public detail::Border<TextBorderValues> {
 public:
     using Border::Border;
 
@@ -142,16 +146,16 @@ enum dwParagraphBorder : std::int32_t {
 };
 
 struct DRAFTWICK_API ParagraphBorderValues {
-    BorderStyle style{dwBSNone};
-    Points width{1};
-    Points spacing{1};
+    detail::BorderStyle style{dwBSNone};
+    rule::Points width{1};
+    rule::Points spacing{1};
     std::int32_t color = 0;
 };
 
 /// One side of the borders of a paragraph or paragraph style. Refuses when the owner refuses.
-class DRAFTWICK_API ParagraphBorder final : public Border<ParagraphBorderValues> {
+class DRAFTWICK_API ParagraphBorder final : public detail::Border<ParagraphBorderValues> {
 public:
-    ParagraphBorder(Owner owner, dwParagraphBorder side);
+    ParagraphBorder(detail::Owner owner, dwParagraphBorder side);
 
     /// From the text to the border, in points as Width (RTF \brsp). Default 1; 4 on the left, on the right and for
     /// the bar.
@@ -163,7 +167,8 @@ public:
 };
 
 /// The borders of a paragraph or paragraph style: six sides.
-class DRAFTWICK_API ParagraphBorders final : public BorderCollection<ParagraphBorder, dwParagraphBorder, 6> {
+class DRAFTWICK_API ParagraphBorders final
+    : public detail::BorderCollection<ParagraphBorder, dwParagraphBorder, 6> {
 public:
     using BorderCollection::BorderCollection;
     static const Class& Describe();

@@ -1,7 +1,7 @@
 #include <draftwick/format/FontFormat.h>
 #include <draftwick/format/Fonts.h>
-#include <draftwick/model/ClassTable.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

@@ -33,8 +33,9 @@ enum dwTextAnimation : std::int32_t {
 
 /// The look of characters: of a run of text, of a paragraph's runs unless they say otherwise, of a style, of a field
 /// or of the number of a list level. Sizes and positions are in points whatever the document's ScaleMode. What is
-/// on or off is off by default. Refuses when what it belongs to refuses.
-class DRAFTWICK_API FontFormat final : public Part {
+/// on or off is off by default. A run's begins as its paragraph's is, all others with the defaults. Refuses when what it
+/// belongs to refuses.
+class DRAFTWICK_API FontFormat final : public detail::Part {
 public:
     struct Values {
         bool bold = false;
@@ -50,19 +51,19 @@ public:
         bool hidden = false;
         bool emboss = false;
         bool engrave = false;
-        Rounded subscriptPosition{3};
-        Rounded superscriptPosition{3};
-        Real<PointsToHalfPoints> size{12};
-        Choice<"FontFormat.Underline", dwUnderlineNone, dwUnderlineWave> underline{dwUnderlineNone};
-        Choice<"FontFormat.Animation", dwTxAnimNone, dwTxAnimSparkle> animation{dwTxAnimNone};
+        rule::Rounded subscriptPosition{3};
+        rule::Rounded superscriptPosition{3};
+        rule::PointsInHalves size{12};
+        rule::Choice<"FontFormat.Underline", dwUnderlineNone, dwUnderlineWave> underline{dwUnderlineNone};
+        rule::Choice<"FontFormat.Animation", dwTxAnimNone, dwTxAnimSparkle> animation{dwTxAnimNone};
         std::int32_t color = 0;
-        Ref<Fonts> font{};
+        rule::Ref<Fonts> font{};
     };
 
     /// Starts from the defaults and the document's DefaultFontName.
-    explicit FontFormat(Owner owner);
+    explicit FontFormat(detail::Owner owner);
     /// Starts from the values of another one.
-    FontFormat(Owner owner, const Values& values) : Part(owner), values_(values) {}
+    FontFormat(detail::Owner owner, const Values& values) : Part(owner), values_(values) {}
 
     /// RTF \b.
     bool Bold() const { return values_.bold; }
@@ -152,7 +153,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

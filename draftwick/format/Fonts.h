@@ -17,14 +17,14 @@ enum dwFontFamily : std::int32_t {
 
 /// A font of the document (an entry of RTF \fonttbl). Its parent is the document. Setters refuse once the document
 /// is emitted ("Document").
-class DRAFTWICK_API Font final : public Node {
+class DRAFTWICK_API Font final : public detail::Node {
 public:
     struct Values {
         std::string altName;
-        Choice<"Font.Family", dwNil, dwTech> family{dwNil};
+        rule::Choice<"Font.Family", dwNil, dwTech> family{dwNil};
     };
 
-    Font(const Origin& origin, std::string name, std::int32_t index)
+    Font(const detail::Origin& origin, std::string name, std::int32_t index)
         : Node(origin), name_(std::move(name)), index_(index) {}
 
     /// The name it was added with. Written as it is: braces, backslashes and semicolons break the file.
@@ -48,14 +48,14 @@ public:
 private:
     std::string name_;
     std::int32_t index_;
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };
 
 /// The fonts of a document, in the order in which they were added. A font must be added before its name can be
 /// used; none is ever added by itself.
-class DRAFTWICK_API Fonts final : public NamedCollection<Font> {
+class DRAFTWICK_API Fonts final : public detail::NamedCollection<Font> {
 public:
     using NamedCollection::NamedCollection;
 

@@ -31,24 +31,24 @@ enum dwFrameAlignY : std::int32_t {
 /// Places a paragraph or a table out of the flow of the text, which runs around it; or makes a paragraph a drop cap.
 /// Neighbouring paragraphs with the same frame stand in it together. A frame whose properties all have their
 /// defaults is none. Lengths are 16 bits in twips. Refuses when its owner refuses.
-class DRAFTWICK_API Frame final : public Part {
+class DRAFTWICK_API Frame final : public detail::Part {
 public:
     struct Values {
-        Choice<"Frame.ReferenceX", dwFRXPage, dwFRXMargin> referenceX{dwFRXColumn};
-        Choice<"Frame.ReferenceY", dwFRYPage, dwFRYMargin> referenceY{dwFRYMargin};
-        Choice<"Frame.AlignX", dwFAXNone, dwFAXOutside> alignX{dwFAXNone};
-        Choice<"Frame.AlignY", dwFAYNone, dwFAYOutside> alignY{dwFAYNone};
-        Length left{0};
-        Length top{0};
-        Length width{0};
-        Length height{0};
-        Length spacingX{0};
-        Length spacingY{0};
+        rule::Choice<"Frame.ReferenceX", dwFRXPage, dwFRXMargin> referenceX{dwFRXColumn};
+        rule::Choice<"Frame.ReferenceY", dwFRYPage, dwFRYMargin> referenceY{dwFRYMargin};
+        rule::Choice<"Frame.AlignX", dwFAXNone, dwFAXOutside> alignX{dwFAXNone};
+        rule::Choice<"Frame.AlignY", dwFAYNone, dwFAYOutside> alignY{dwFAYNone};
+        rule::Length left{0};
+        rule::Length top{0};
+        rule::Length width{0};
+        rule::Length height{0};
+        rule::Length spacingX{0};
+        rule::Length spacingY{0};
         bool heightExactly = false;
         bool lockAnchor = false;
         bool dropCapInMargin = false;
         bool wrap = true;
-        Byte<"Frame.DropCapLines", 0, 10> dropCapLines{0};
+        rule::Byte<"Frame.DropCapLines", 0, 10> dropCapLines{0};
 
         bool operator==(const Values&) const = default;
     };
@@ -120,7 +120,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

@@ -1,6 +1,6 @@
 #include <draftwick/format/Lists.h>
-#include <draftwick/model/ClassTable.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

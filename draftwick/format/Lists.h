@@ -27,20 +27,20 @@ enum dwListNumberFollow : std::int32_t { dwLNFNothing = 1, dwLNFSpace = 2, dwLNF
 
 /// How the numbers of one level of a list look (RTF \listlevel). It never refuses for being written: what holds at
 /// Document::Finish counts, also for paragraphs that were added before.
-class DRAFTWICK_API ListLevel final : public Part {
+class DRAFTWICK_API ListLevel final : public detail::Part {
 public:
     struct Values {
-        Choice<"ListLevel.Style", dwLNSCardinal, dwLNSBullet> style{dwLNSDecimal};
-        Choice<"ListLevel.Align", dwLNALeft, dwLNACenter> align{dwLNALeft};
-        Choice<"ListLevel.Follow", dwLNFNothing, dwLNFTab> follow{dwLNFTab};
+        rule::Choice<"ListLevel.Style", dwLNSCardinal, dwLNSBullet> style{dwLNSDecimal};
+        rule::Choice<"ListLevel.Align", dwLNALeft, dwLNACenter> align{dwLNALeft};
+        rule::Choice<"ListLevel.Follow", dwLNFNothing, dwLNFTab> follow{dwLNFTab};
         std::string format = "\\L1.";
         bool legal = false;
         bool noLevelRestart = false;
-        Short startAt{1};
-        Length tabPosition{360};
+        rule::Short startAt{1};
+        rule::Length tabPosition{360};
     };
 
-    ListLevel(Owner list, std::int32_t number);
+    ListLevel(detail::Owner list, std::int32_t number);
 
     /// Default dwLNSDecimal.
     dwListNumberStyle Style() const { return values_.style; }
@@ -84,7 +84,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     struct Parts {
         draftwick::FontFormat fontFormat;
@@ -97,9 +97,9 @@ private:
 /// A numbered or bulleted list of nine levels (RTF \list). Paragraphs join it by its name, with
 /// ParagraphFormat::SetListName. While no paragraph uses a level below the first, that level alone is written. It
 /// never refuses for being written.
-class DRAFTWICK_API List final : public Node {
+class DRAFTWICK_API List final : public detail::Node {
 public:
-    List(const Origin& origin, std::string name, std::int32_t index);
+    List(const detail::Origin& origin, std::string name, std::int32_t index);
 
     /// The name it was added with. Written as it is.
     const std::string& Name() const noexcept { return name_; }
@@ -111,7 +111,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     struct Parts {
         std::array<ListLevel, 9> levels;
@@ -124,7 +124,7 @@ private:
 };
 
 /// The lists of a document, in the order in which they were added.
-class DRAFTWICK_API Lists final : public NamedCollection<List> {
+class DRAFTWICK_API Lists final : public detail::NamedCollection<List> {
 public:
     using NamedCollection::NamedCollection;
 

@@ -24,33 +24,33 @@ enum dwLineSpacingStyle : std::int32_t {
 
 /// The layout of a paragraph or paragraph style. Indents are lengths in the document's ScaleMode, spacing is in
 /// points. What is on or off is off by default, except WidowOrphanControl. Refuses when what it belongs to refuses.
-class DRAFTWICK_API ParagraphFormat final : public Part {
+class DRAFTWICK_API ParagraphFormat final : public detail::Part {
 public:
     struct Values {
-        Choice<"ParagraphFormat.Align", dwAlignLeft, dwAlignJustify> align{dwAlignLeft};
-        Length indentFirst{0};
-        Length indentLeft{0};
-        Length indentRight{0};
-        Points spaceBefore{0};
-        Points spaceAfter{0};
-        Choice<"ParagraphFormat.LineSpacingStyle", dwSpacingMultiple, dwSpacingExactly> lineSpacingStyle{
-            dwSpacingMultiple};
-        Real<LinesToParts> lineSpacingMultiple{1};
-        Real<PointsToSignedTwips> lineSpacingDistance{0};
+        rule::Choice<"ParagraphFormat.Align", dwAlignLeft, dwAlignJustify> align{dwAlignLeft};
+        rule::Length indentFirst{0};
+        rule::Length indentLeft{0};
+        rule::Length indentRight{0};
+        rule::Points spaceBefore{0};
+        rule::Points spaceAfter{0};
+        rule::Choice<"ParagraphFormat.LineSpacingStyle", dwSpacingMultiple, dwSpacingExactly>
+            lineSpacingStyle{dwSpacingMultiple};
+        rule::Lines lineSpacingMultiple{1};
+        rule::SignedPoints lineSpacingDistance{0};
         bool keepIntact = false;
         bool keepWithNext = false;
         bool pageBreakBefore = false;
         bool noLineNumbering = false;
         bool suppressHyphen = false;
         bool widowOrphanControl = true;
-        Byte<"ParagraphFormat.OutlineLevel", 0, 9> outlineLevel{0};
-        Byte<"ParagraphList.Level", 1, 9> listLevel{1};
-        Ref<Lists> list{};
-        Ref<Lists> listFormat{};
+        rule::Byte<"ParagraphFormat.OutlineLevel", 0, 9> outlineLevel{0};
+        rule::Byte<"ParagraphList.Level", 1, 9> listLevel{1};
+        rule::Ref<Lists> list{};
+        rule::Ref<Lists> listFormat{};
     };
 
     /// Starts from the defaults and the document's WidowOrphanControl.
-    explicit ParagraphFormat(Owner owner);
+    explicit ParagraphFormat(detail::Owner owner);
 
     /// Default dwAlignLeft.
     dwParagraphAlign Align() const { return values_.align; }
@@ -137,10 +137,10 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    std::string NameOfList(Ref<Lists> list) const;
-    void SetList(Ref<Lists>& list, std::string_view name);
+    std::string NameOfList(rule::Ref<Lists> list) const;
+    void SetList(rule::Ref<Lists>& list, std::string_view name);
 
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

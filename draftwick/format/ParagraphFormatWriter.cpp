@@ -1,4 +1,4 @@
-#include <draftwick/format/Writers.h>
+#include <draftwick/format/internal/Writers.h>
 
 namespace draftwick {
 

@@ -15,9 +15,9 @@ class TextStyles;
 
 /// What both kinds of style have: a name and a number. Their parent is the document. Setters refuse once that is
 /// emitted ("Document"), and so do the setters of a style's parts.
-class DRAFTWICK_API Style : public Node {
+class DRAFTWICK_API Style : public detail::Node {
 public:
-    Style(const Origin& origin, std::string name, std::int32_t index)
+    Style(const detail::Origin& origin, std::string name, std::int32_t index)
         : Node(origin), name_(std::move(name)), index_(index) {}
 
     /// The name it was added with. Written as it is: braces, backslashes and semicolons break the file.
@@ -34,7 +34,7 @@ private:
 /// A named look of paragraphs (RTF \s), which take it with Paragraph::SetStyleName.
 class DRAFTWICK_API ParagraphStyle final : public Style {
 public:
-    ParagraphStyle(const Origin& origin, std::string name, std::int32_t index);
+    ParagraphStyle(const detail::Origin& origin, std::string name, std::int32_t index);
 
     /// The paragraph style that this one starts from; empty (default) for none (RTF \sbasedon). Setting it copies
     /// everything that the other style has now over what was set here; only borders on sides that the other does
@@ -60,11 +60,11 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     struct Values {
-        Ref<ParagraphStyles> basedOn;
-        Ref<ParagraphStyles> nextStyle;
+        rule::Ref<ParagraphStyles> basedOn;
+        rule::Ref<ParagraphStyles> nextStyle;
     };
     struct Parts {
         ParagraphFormat format;
@@ -81,7 +81,7 @@ private:
 /// A named look of runs of text (RTF \cs). Runs only name it, with Run::SetStyleName: the reader applies it.
 class DRAFTWICK_API TextStyle final : public Style {
 public:
-    TextStyle(const Origin& origin, std::string name, std::int32_t index);
+    TextStyle(const detail::Origin& origin, std::string name, std::int32_t index);
 
     /// As ParagraphStyle::BasedOn, among the text styles.
     std::string BasedOn() const;
@@ -96,10 +96,10 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     struct Values {
-        Ref<TextStyles> basedOn;
+        rule::Ref<TextStyles> basedOn;
     };
     struct Parts {
         draftwick::FontFormat fontFormat;
@@ -112,7 +112,7 @@ private:
 };
 
 /// The paragraph styles of a document.
-class DRAFTWICK_API ParagraphStyles final : public NamedCollection<ParagraphStyle> {
+class DRAFTWICK_API ParagraphStyles final : public detail::NamedCollection<ParagraphStyle> {
 public:
     using NamedCollection::NamedCollection;
 
@@ -128,7 +128,7 @@ public:
 };
 
 /// The text styles of a document.
-class DRAFTWICK_API TextStyles final : public NamedCollection<TextStyle> {
+class DRAFTWICK_API TextStyles final : public detail::NamedCollection<TextStyle> {
 public:
     using NamedCollection::NamedCollection;
 

@@ -1,6 +1,6 @@
-#include <draftwick/format/Writers.h>
-#include <draftwick/model/Access.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/format/internal/Writers.h>
+#include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

@@ -1,6 +1,6 @@
 #include <draftwick/format/TabStops.h>
-#include <draftwick/model/Access.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/ClassTable.h>
 
 #include <cmath>
 #include <limits>

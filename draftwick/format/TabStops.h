@@ -22,15 +22,15 @@ enum dwTabLeader : std::int32_t {
 };
 
 /// One tab stop (RTF \tx, or \tb for a bar). It cannot be changed.
-class DRAFTWICK_API TabStop final : public Node {
+class DRAFTWICK_API TabStop final : public detail::Node {
 public:
     struct Values {
-        Length position{0};
+        rule::Length position{0};
         dwTabAlign align = dwTabLeft;
         dwTabLeader leader = dwTabLeaderNone;
     };
 
-    TabStop(const Origin& origin, const Values& values) : Node(origin), values_(values) {}
+    TabStop(const detail::Origin& origin, const Values& values) : Node(origin), values_(values) {}
 
     /// From the left margin, in the document's unit and in single precision.
     double Position() const { return static_cast<float>(Read(values_.position)); }
@@ -41,14 +41,14 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };
 
 /// The tab stops of a paragraph or paragraph style, in the order in which they were added: they are neither sorted
 /// nor compared.
-class DRAFTWICK_API TabStops final : public Part {
+class DRAFTWICK_API TabStops final : public detail::Part {
 public:
     using Part::Part;
 
@@ -65,14 +65,14 @@ public:
     /// The tab stop at a position from 1. Error 6 outside of a byte, error 9 when there is none.
     std::shared_ptr<TabStop> Items(std::int32_t index) const;
 
-    CollectionIterator<const TabStops> begin() const { return {this, 1}; }
-    CollectionIterator<const TabStops> end() const { return {this, Count() + 1}; }
+    detail::CollectionIterator<const TabStops> begin() const { return {this, 1}; }
+    detail::CollectionIterator<const TabStops> end() const { return {this, Count() + 1}; }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend class CollectionIterator<const TabStops>;
+    friend class detail::CollectionIterator<const TabStops>;
     friend class Paragraph;
     friend class ParagraphStyle;
 

@@ -1,5 +1,5 @@
-#include <draftwick/format/Writers.h>
-#include <draftwick/model/Access.h>
+#include <draftwick/format/internal/Writers.h>
+#include <draftwick/model/internal/Access.h>
 
 namespace draftwick {
 

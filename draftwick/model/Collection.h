@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace draftwick {
+namespace draftwick::detail {
 
 /// Walks a collection by position, from 1 to Count.
 template <class Collection>
@@ -115,4 +115,4 @@ private:
     }
 };
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

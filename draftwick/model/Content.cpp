@@ -1,6 +1,6 @@
 #include <draftwick/model/Class.h>
 #include <draftwick/model/Content.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <utility>
 
-namespace draftwick {
+namespace draftwick::detail {
 
 class RtfWriter;
 
@@ -83,4 +83,4 @@ protected:
     HolderType& Holder() const noexcept { return static_cast<HolderType&>(*this->holder_); }
 };
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

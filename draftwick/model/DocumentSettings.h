@@ -44,49 +44,53 @@ enum dwEndnoteLocation : std::int32_t { dwELSection = 1, dwELDocument = 2 };
 /// Where the numbers of notes start again.
 enum dwFootnoteRestart : std::int32_t { dwFRPage = 1, dwFRSection = 2, dwFRContinuous = 3 };
 
+namespace detail {
+
 /// The page of a document or section.
 struct PageSetup {
-    Length marginTop{720};
-    Length marginLeft{720};
-    Length marginRight{720};
-    Length marginBottom{720};
-    Length pageWidth{12240};
-    Length pageHeight{15840};
-    Length gutter{0};
+    rule::Length marginTop{720};
+    rule::Length marginLeft{720};
+    rule::Length marginRight{720};
+    rule::Length marginBottom{720};
+    rule::Length pageWidth{12240};
+    rule::Length pageHeight{15840};
+    rule::Length gutter{0};
 };
 
 /// The settings of a document, as they are stored.
 struct DocumentSettings {
-    Choice<"ScaleMode", dwInches, dwPoints> scaleMode{dwInches};
+    rule::Choice<"ScaleMode", dwInches, dwPoints> scaleMode{dwInches};
     PageSetup page;
-    Choice<"Document.Format.Orientation", dwPortrait, dwLandscape> orientation{dwPortrait};
+    rule::Choice<"Document.Format.Orientation", dwPortrait, dwLandscape> orientation{dwPortrait};
     std::string caption;
-    Ref<Fonts> defaultFont;
+    rule::Ref<Fonts> defaultFont;
     bool pageBorderAroundHeader = true;
     bool pageBorderAroundFooter = true;
     bool facingPage = false;
     bool hyphenAuto = false;
     bool hyphenCaps = true;
     std::int32_t hyphenConsecutiveLines = 0;
-    Length hyphenHotZone{360};
+    rule::Length hyphenHotZone{360};
     bool marginMirror = false;
-    Short pageNumberStart{1};
-    Length tabWidth{720};
+    rule::Short pageNumberStart{1};
+    rule::Length tabWidth{720};
     // Hosts know these two names with their odd letter: error texts are part of the interface.
-    Choice<"DocumenmViewKind", dwViewNone, dwViewOnlineLayout> viewKind{dwViewNone};
-    Choice<"DocumenmZoomKind", dwZoomPercent, dwZoomBestFit> zoomKind{dwZoomPercent};
-    Short zoomScale{100};
+    rule::Choice<"DocumenmViewKind", dwViewNone, dwViewOnlineLayout> viewKind{dwViewNone};
+    rule::Choice<"DocumenmZoomKind", dwZoomPercent, dwZoomBestFit> zoomKind{dwZoomPercent};
+    rule::Short zoomScale{100};
     bool widowOrphanControl = true;
     std::string filename;
     std::string tempPath;
-    Choice<"FootnoteFormat", dwFFDecimal, dwFFRomanUpper> footnoteFormat{dwFFDecimal};
-    Choice<"EndnoteFormat", dwFFDecimal, dwFFRomanUpper> endnoteFormat{dwFFDecimal};
-    Choice<"FootnoteLocation", dwFLBeneathText, dwFLBottomOfPage> footnoteLocation{dwFLBottomOfPage};
-    Choice<"EndnoteLocation", dwELSection, dwELDocument> endnoteLocation{dwELSection};
-    Choice<"FootnoteRestart", dwFRPage, dwFRContinuous> footnoteRestart{dwFRContinuous};
-    Choice<"EndnoteRestart", dwFRPage, dwFRContinuous> endnoteRestart{dwFRContinuous};
-    Short footnoteStartAt{1};
-    Short endnoteStartAt{1};
+    rule::Choice<"FootnoteFormat", dwFFDecimal, dwFFRomanUpper> footnoteFormat{dwFFDecimal};
+    rule::Choice<"EndnoteFormat", dwFFDecimal, dwFFRomanUpper> endnoteFormat{dwFFDecimal};
+    rule::Choice<"FootnoteLocation", dwFLBeneathText, dwFLBottomOfPage> footnoteLocation{dwFLBottomOfPage};
+    rule::Choice<"EndnoteLocation", dwELSection, dwELDocument> endnoteLocation{dwELSection};
+    rule::Choice<"FootnoteRestart", dwFRPage, dwFRContinuous> footnoteRestart{dwFRContinuous};
+    rule::Choice<"EndnoteRestart", dwFRPage, dwFRContinuous> endnoteRestart{dwFRContinuous};
+    rule::Short footnoteStartAt{1};
+    rule::Short endnoteStartAt{1};
 };
+
+}  // namespace detail
 
 }  // namespace draftwick

@@ -1,6 +1,6 @@
 #include <draftwick/model/Class.h>
 #include <draftwick/model/Object.h>
-#include <draftwick/model/Session.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/text/Utf8.h>
 
 namespace draftwick {
@@ -21,7 +21,7 @@ std::shared_ptr<draftwick::Document> Object::Document() const {
     return link == nullptr ? nullptr : std::shared_ptr<draftwick::Document>(link, session_->document);
 }
 
-draftwick::Session& Object::Session() const {
+detail::Session& Object::Session() const {
     if (session_ == nullptr || session_->document == nullptr) RaiseRuntimeError(dwRunObjectGone);
     return *session_;
 }
@@ -55,7 +55,7 @@ std::shared_ptr<Object> Node::Self() const { return const_cast<Node*>(this)->wea
 
 std::shared_ptr<Object> Part::Self() const { return {whole_->Self(), const_cast<Part*>(this)}; }
 
-const std::shared_ptr<draftwick::Session>& Part::SharedSession() const noexcept {
+const std::shared_ptr<detail::Session>& Part::SharedSession() const noexcept {
     return whole_->SharedSession();
 }
 

@@ -12,10 +12,15 @@
 
 namespace draftwick {
 
-struct Access;
 struct Class;
 class Document;
+class Object;
+
+namespace detail {
+
+struct Access;
 class Node;
+class Part;
 class Session;
 
 /// A link to an object that it does not own: it stores the identity and gives a new owning reference on request,
@@ -38,7 +43,7 @@ private:
 
 /// What a new object of its own is told at its creation. Only the library makes one, for the length of that call.
 class Origin {
-    friend class Document;
+    friend class draftwick::Document;
     friend class Node;
     friend class Part;
 
@@ -51,13 +56,15 @@ class Origin {
 
 /// What a new part of an object is told at its creation. Only an object makes one.
 class Owner {
-    friend class Object;
+    friend class draftwick::Object;
     friend class Part;
 
     explicit Owner(Object& object) noexcept : object_(object) {}
 
     Object& object_;
 };
+
+}  // namespace detail
 
 /// Everything in the object model. A host holds objects by std::shared_ptr; nothing it holds dangles, and nothing
 /// it holds keeps the document alive. An object whose document is gone can still be read where neither a unit of
@@ -84,17 +91,17 @@ public:
 
 protected:
     /// The session is null for an object that needs no document; a Node keeps it.
-    explicit Object(draftwick::Session* session) noexcept : session_(session) {}
+    explicit Object(detail::Session* session) noexcept : session_(session) {}
 
     /// Raises dwErrTargetEmitted once the object is written and can no longer change.
     virtual void CheckNotEmitted() const = 0;
     /// What the objects of one document share. Error 91 when the document is gone.
-    draftwick::Session& Session() const;
-    virtual const std::shared_ptr<draftwick::Session>& SharedSession() const noexcept = 0;
+    detail::Session& Session() const;
+    virtual const std::shared_ptr<detail::Session>& SharedSession() const noexcept = 0;
     /// What a new object that belongs to this one is told.
-    virtual Origin OriginOfChild() const = 0;
+    virtual detail::Origin OriginOfChild() const = 0;
     /// What a new part of this object is told.
-    Owner AsOwner() noexcept { return Owner(*this); }
+    detail::Owner AsOwner() noexcept { return detail::Owner(*this); }
 
     /// Every setter: refuses once written, checks the rule of the field, converts and stores.
     template <class Field, class Value>
@@ -114,7 +121,7 @@ protected:
     /// document's unit of length.
     dwScaleMode OpenForChange() const;
     /// A length in the document's unit.
-    double Read(Length length) const;
+    double Read(rule::Length length) const;
 
     /// An owning reference to a part of this object.
     template <class Member>
@@ -123,12 +130,14 @@ protected:
     }
 
 private:
-    friend struct Access;
-    friend class Node;
-    friend class Part;
+    friend struct detail::Access;
+    friend class detail::Node;
+    friend class detail::Part;
 
-    draftwick::Session* session_;
+    detail::Session* session_;
 };
+
+namespace detail {
 
 /// An object of its own: it lives as long as somebody holds it.
 class DRAFTWICK_API Node : public Object, public std::enable_shared_from_this<Object> {
@@ -148,16 +157,14 @@ protected:
     /// The parent. When it is gone: error 91 if the document is gone too, else dwErrTargetEmitted with the name of
     /// the parent's class.
     std::shared_ptr<Object> RequireParent() const;
-    const std::shared_ptr<draftwick::Session>& SharedSession() const noexcept override {
-        return keptSession_;
-    }
+    const std::shared_ptr<detail::Session>& SharedSession() const noexcept override { return keptSession_; }
     Origin OriginOfChild() const override { return Origin(keptSession_, NoRef(*this)); }
     /// What an object is told that belongs to the same parent: a font belongs to the document.
     Origin OriginOfSibling() const { return Origin(keptSession_, parent_); }
 
 private:
     NoRef parent_;
-    std::shared_ptr<draftwick::Session> keptSession_;
+    std::shared_ptr<detail::Session> keptSession_;
 };
 
 /// A part of another object: whoever holds it keeps the whole alive. It refuses when the whole refuses.
@@ -170,7 +177,7 @@ public:
 
 protected:
     void CheckNotEmitted() const override { whole_->CheckNotEmitted(); }
-    const std::shared_ptr<draftwick::Session>& SharedSession() const noexcept override;
+    const std::shared_ptr<detail::Session>& SharedSession() const noexcept override;
     /// An object in a collection belongs to the collection's owner.
     Origin OriginOfChild() const override { return Origin(SharedSession(), NoRef(Parent())); }
     /// What the parts in a collection of parts are told: they belong to the collection's owner.
@@ -195,5 +202,7 @@ public:
 private:
     std::optional<Type> part_;
 };
+
+}  // namespace detail
 
 }  // namespace draftwick

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace draftwick {
+namespace draftwick::rule {
 
 /// A setting that names an item of one of the document's named collections, or none. It keeps the item's position:
 /// comparing and copying are as cheap as for numbers, and the name is spelled as the collection has it.
@@ -35,4 +35,4 @@ private:
     std::int32_t position_ = None;
 };
 
-}  // namespace draftwick
+}  // namespace draftwick::rule

@@ -13,7 +13,9 @@
 /// type of a field is its rule (range, the name that a range error gives, how it is stored), its initialiser is
 /// its default. Booleans, 32-bit numbers, colours and texts without a rule are plain bool, std::int32_t and
 /// std::string. A value that breaks its rule is refused and the old one stays.
-namespace draftwick {
+namespace draftwick::rule {
+
+using namespace detail;
 
 /// A text that can be a template argument.
 template <std::size_t Size>
@@ -123,7 +125,18 @@ private:
     std::int32_t parts_;
 };
 
-/// Points that are written in twips, rounded down.
+/// Points that are written in twips or half-points, rounded down.
 using Points = Real<PointsToTwips>;
+using PointsInHalves = Real<PointsToHalfPoints>;
+/// Points that are written in twips with either sign.
+using SignedPoints = Real<PointsToSignedTwips>;
+/// Points that are written in English Metric Units.
+using PointsInEmu = Real<PointsToEmu>;
+/// Lines that are written in their 240ths.
+using Lines = Real<LinesToParts>;
+/// What is written in 65536ths: a number, a percentage, a percentage from the far edge.
+using Fixed = Real<ToFixedPoint>;
+using Percent = Real<PercentToFixedPoint>;
+using FarPercent = Real<PercentFromFarEdge>;
 
-}  // namespace draftwick
+}  // namespace draftwick::rule

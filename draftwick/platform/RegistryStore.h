@@ -4,10 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace draftwick::platform {
 
@@ -23,40 +23,32 @@ enum class RegistryType : std::uint32_t {
 /// How long a name can be to be listed, in characters, with a terminating zero.
 inline constexpr std::size_t RegistryNameRoom = 255;
 
-/// An open key. Destroying it closes it. Names are UTF-8 and told apart without regard to case. An operation that
-/// fails gives the system's result code and nothing else; a key or value that is not there is
+/// Settings that programs leave for each other: keys in a tree, joined by backslashes to paths, that hold named values.
+/// Names are UTF-8 and told apart without regard to case; the empty name is a key's default value. An operation that
+/// fails gives the system's result code and changes nothing; a key or value that is not there is
 /// std::errc::no_such_file_or_directory.
-class DRAFTWICK_API RegistryKey {
-public:
-    virtual ~RegistryKey() = default;
-
-    /// The type and the bytes of a value; the empty name is the key's default value.
-    virtual std::error_code QueryValue(const std::string& name, RegistryType& type, std::string& bytes) = 0;
-    /// Stores a value. A text whose terminating zero is not counted, but stands behind it, is stored with it:
-    /// data[size] must be readable.
-    virtual std::error_code SetValue(const std::string& name, RegistryType type, const char* data,
-                                     std::size_t size) = 0;
-    /// The name of a subkey, by its number from 0. Any error ends a list, also a name that is too long.
-    virtual std::error_code EnumerateKey(std::uint32_t index, std::string& name) = 0;
-    /// The name of a value, by its number from 0.
-    virtual std::error_code EnumerateValue(std::uint32_t index, std::string& name) = 0;
-    /// Deletes a subkey. std::errc::permission_denied when that has subkeys.
-    virtual std::error_code DeleteKey(const std::string& path) = 0;
-};
-
-/// Settings that programs leave for each other: keys in a tree, joined by backslashes, that hold named values. The
-/// registry on Windows. On POSIX the user's are a text file, draftwick/registry in the folder for settings
-/// (XDG_CONFIG_HOME, ~/.config), and the machine's cannot be changed: they name the desktop's program for documents.
+///
+/// The registry on Windows. On POSIX the user's are a text file, draftwick/registry in the folder for settings
+/// (XDG_CONFIG_HOME, ~/.config), which each change replaces as a whole; of changes at the same moment the last one is
+/// kept. The machine's cannot be changed: they name the desktop's program for documents.
 class DRAFTWICK_API RegistryStore {
 public:
     virtual ~RegistryStore() = default;
 
-    /// Opens a key that exists, for reading; nullptr and the result code otherwise.
-    virtual std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::string& path,
-                                              std::error_code& error) = 0;
-    /// Opens a key for writing; it and the keys above it are made when they are not there.
-    virtual std::unique_ptr<RegistryKey> Create(RegistryRoot root, const std::string& path,
-                                                std::error_code& error) = 0;
+    /// The type and the bytes of a value.
+    virtual std::error_code QueryValue(RegistryRoot root, const std::string& path, const std::string& name,
+                                       RegistryType& type, std::string& bytes) = 0;
+    /// Stores a value. Its key and those above it are made when they are not there.
+    virtual std::error_code SetValue(RegistryRoot root, const std::string& path, const std::string& name,
+                                     RegistryType type, std::string_view bytes) = 0;
+    /// The names of the subkeys of a key, up to the first that is too long; none if there is no such key.
+    virtual std::vector<std::string> SubKeys(RegistryRoot root, const std::string& path) = 0;
+    /// The names of the values of a key, likewise.
+    virtual std::vector<std::string> ValueNames(RegistryRoot root, const std::string& path) = 0;
+    /// Makes a key, and those above it, when it is not there.
+    virtual std::error_code CreateKey(RegistryRoot root, const std::string& path) = 0;
+    /// Deletes a key. std::errc::permission_denied when it has subkeys, and for a root.
+    virtual std::error_code DeleteKey(RegistryRoot root, const std::string& path) = 0;
 };
 
 }  // namespace draftwick::platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <draftwick/base/internal/Names.h>
 #include <draftwick/platform/FileSystem.h>
 
 #include <cstddef>

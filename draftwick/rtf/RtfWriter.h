@@ -1,5 +1,6 @@
 #pragma once
 
+#include <draftwick/base/internal/Names.h>
 #include <draftwick/rtf/ColorTable.h>
 #include <draftwick/rtf/LayoutState.h>
 #include <draftwick/rtf/ListNumbers.h>
@@ -11,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-namespace draftwick {
+namespace draftwick::detail {
 
 struct Collections;
 
@@ -105,4 +106,4 @@ private:
     std::vector<LayoutState> outerShapes_;
 };
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

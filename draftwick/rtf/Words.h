@@ -1,6 +1,6 @@
 #pragma once
 
-#include <draftwick/base/Enumeration.h>
+#include <draftwick/base/internal/Enumeration.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Bookmark.h>
-#include <draftwick/structure/Writers.h>
+#include <draftwick/structure/internal/Writers.h>
 #include <draftwick/text/Utf8.h>
 
 namespace draftwick {

@@ -12,20 +12,20 @@ class Paragraph;
 /// One end of a named part of the text (RTF \bkmkstart, \bkmkend). Two bookmarks of the same name, a start and an
 /// end, make one; nothing checks that they do. Refuses changes once it is written, which is when its paragraph gets
 /// its next child or is closed ("Bookmark").
-class DRAFTWICK_API Bookmark final : public HeldBy<Paragraph> {
+class DRAFTWICK_API Bookmark final : public detail::HeldBy<Paragraph> {
 public:
     struct Values {
         std::string name;
         bool isStart = true;
     };
 
-    Bookmark(const Origin& origin, std::string_view name, bool isStart);
+    Bookmark(const detail::Origin& origin, std::string_view name, bool isStart);
 
-    /// Written as it is: braces and backslashes in it break the file.
+    /// Written as it is: braces and backslashes in it break the file. Default: as added.
     const std::string& Name() const { return values_.name; }
     void SetName(std::string_view name) { Change(values_.name, name); }
 
-    /// Whether it is the start, not the end. Default true.
+    /// Whether it is the start, not the end. Default: as added.
     bool IsStart() const { return values_.isStart; }
     void SetIsStart(bool on) { Change(values_.isStart, on); }
 
@@ -36,7 +36,7 @@ protected:
     void WriteStart() override;
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

@@ -1,8 +1,8 @@
 #include <draftwick/content/Paragraph.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Table.h>
-#include <draftwick/structure/Writers.h>
+#include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 

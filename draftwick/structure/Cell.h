@@ -22,14 +22,14 @@ enum dwCellOrientation : std::int32_t { dwReadNormal = 1, dwReadRight = 2, dwRea
 
 /// A cell of a row (RTF \cellx). Its settings are written when its first paragraph is added; from then on setters
 /// refuse ("Cell"). A cell without a paragraph is an empty cell.
-class DRAFTWICK_API Cell final : public HeldBy<Table, Container> {
+class DRAFTWICK_API Cell final : public detail::HeldBy<Table, Container> {
 public:
     struct Values {
-        Choice<"Cell.Merge", dwMergeNone, dwMergeVertical> merge{dwMergeNone};
-        Choice<"Cell.VerticalAlign", dwCVATop, dwCVACenter> verticalAlign{dwCVATop};
+        rule::Choice<"Cell.Merge", dwMergeNone, dwMergeVertical> merge{dwMergeNone};
+        rule::Choice<"Cell.VerticalAlign", dwCVATop, dwCVACenter> verticalAlign{dwCVATop};
         // No value of the enumeration, to which a host cannot return.
-        Choice<"Cell.Orientation", dwReadNormal, dwReadLeft> orientation{dwCellOrientation{}};
-        Length width{1440};
+        rule::Choice<"Cell.Orientation", dwReadNormal, dwReadLeft> orientation{dwCellOrientation{}};
+        rule::Length width{1440};
     };
 
     using HeldBy::HeldBy;
@@ -67,11 +67,11 @@ protected:
     void WriteEnd() override;
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
-    Lazy<draftwick::Background> background_;
-    Lazy<CellBorders> borders_;
+    detail::Lazy<draftwick::Background> background_;
+    detail::Lazy<CellBorders> borders_;
 };
 
 }  // namespace draftwick

@@ -1,4 +1,4 @@
-#include <draftwick/format/BorderTable.h>
+#include <draftwick/format/internal/BorderTable.h>
 #include <draftwick/structure/CellBorders.h>
 
 namespace draftwick {

@@ -1,4 +1,4 @@
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Columns.h>
 
 #include <limits>

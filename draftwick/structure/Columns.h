@@ -6,15 +6,15 @@ namespace draftwick {
 
 /// One column of a section whose columns are listed. Refuses once the section is written ("Section"). Lengths are
 /// 16 bits in twips.
-class DRAFTWICK_API Column final : public Node {
+class DRAFTWICK_API Column final : public detail::Node {
 public:
     struct Values {
         std::uint8_t number = 1;
-        Length width{0};
-        Length spacing{0};
+        rule::Length width{0};
+        rule::Length spacing{0};
     };
 
-    Column(const Origin& origin, const Values& values) : Node(origin), values_(values) {}
+    Column(const detail::Origin& origin, const Values& values) : Node(origin), values_(values) {}
 
     /// Default: what Add was told.
     double Width() const { return Read(values_.width); }
@@ -28,19 +28,19 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };
 
 /// The columns that the text of a section runs in (RTF \cols): a number of equal columns, or a list of columns that
 /// each have a width. A new section has neither and writes nothing. Refuses once the section is written ("Section").
-class DRAFTWICK_API Columns final : public Part {
+class DRAFTWICK_API Columns final : public detail::Part {
 public:
     struct Values {
         std::int32_t automatic = 0;
         bool lineBetween = false;
-        Length spacing{360};
+        rule::Length spacing{360};
     };
 
     using Part::Part;
@@ -59,8 +59,8 @@ public:
     std::shared_ptr<Column> Items(std::int32_t index) const;
 
     /// Walks the list.
-    CollectionIterator<const Columns> begin() const { return {this, 1}; }
-    CollectionIterator<const Columns> end() const { return {this, Listed() + 1}; }
+    detail::CollectionIterator<const Columns> begin() const { return {this, 1}; }
+    detail::CollectionIterator<const Columns> end() const { return {this, Listed() + 1}; }
 
     /// A line is drawn between the columns. Default false.
     bool LineBetween() const { return values_.lineBetween; }
@@ -76,8 +76,8 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
-    friend class CollectionIterator<const Columns>;
+    friend struct detail::Access;
+    friend class detail::CollectionIterator<const Columns>;
 
     /// How many columns the list has.
     std::int32_t Listed() const noexcept { return static_cast<std::int32_t>(list_.size()); }

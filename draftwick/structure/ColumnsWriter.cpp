@@ -1,5 +1,5 @@
-#include <draftwick/model/Access.h>
-#include <draftwick/structure/Writers.h>
+#include <draftwick/model/internal/Access.h>
+#include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 

@@ -10,9 +10,9 @@ namespace draftwick {
 /// The number of the note is the host's business: add Special::Footnote to the paragraph before the note and to the
 /// note's first paragraph. Nothing is written between the paragraphs of a note, so that they run together in a
 /// reader: one paragraph is what a note should have.
-class DRAFTWICK_API Footnote final : public HeldBy<Paragraph, RowContainer> {
+class DRAFTWICK_API Footnote final : public detail::HeldBy<Paragraph, RowContainer> {
 public:
-    Footnote(const Origin& origin, bool isEndnote) : HeldBy(origin), isEndnote_(isEndnote) {}
+    Footnote(const detail::Origin& origin, bool isEndnote) : HeldBy(origin), isEndnote_(isEndnote) {}
 
     /// Whether it is an endnote: what AddFootnote was told.
     bool IsEndnote() const noexcept { return isEndnote_; }

@@ -1,7 +1,7 @@
 #include <draftwick/content/Paragraph.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Header.h>
-#include <draftwick/structure/Writers.h>
+#include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 

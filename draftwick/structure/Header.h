@@ -20,7 +20,7 @@ enum dwHeaderKind : std::int32_t {
 /// is closed, which is when the section gets its next child ("Header").
 class DRAFTWICK_API Header final : public RowContainer {
 public:
-    Header(const Origin& origin, dwHeaderKind kind) : RowContainer(origin), kind_(kind) {}
+    Header(const detail::Origin& origin, dwHeaderKind kind) : RowContainer(origin), kind_(kind) {}
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

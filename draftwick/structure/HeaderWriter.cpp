@@ -1,4 +1,4 @@
-#include <draftwick/structure/Writers.h>
+#include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 

@@ -21,17 +21,17 @@ enum dwPageBorderDisplay : std::int32_t {
 enum dwPageBorderOffset : std::int32_t { dwPBOText = 1, dwPBOPage = 2 };
 
 struct DRAFTWICK_API PageBorderValues {
-    BorderStyle style{dwBSNone};
-    Points width{1};
-    Points spacing{1};
+    detail::BorderStyle style{dwBSNone};
+    rule::Points width{1};
+    rule::Points spacing{1};
     std::int32_t color = 0;
-    Choice<"PageBorder.Art", std::int32_t{0}, std::int32_t{165}> art{0};
+    rule::Choice<"PageBorder.Art", std::int32_t{0}, std::int32_t{165}> art{0};
 };
 
 /// One side of the borders of a section's pages. Refuses when the section refuses.
-class DRAFTWICK_API PageBorder final : public Border<PageBorderValues> {
+class DRAFTWICK_API PageBorder final : public detail::Border<PageBorderValues> {
 public:
-    PageBorder(Owner owner, dwPageBorder side);
+    PageBorder(detail::Owner owner, dwPageBorder side);
 
     /// From the border to what PageBorders.Offset says: points. Default 1; 4 on the left and on the right. Readers
     /// take up to 31.
@@ -49,11 +49,11 @@ public:
 
 /// The borders of a section's pages. A side without a line or picture is not written; without any side nothing is.
 /// Refuses when the section refuses.
-class DRAFTWICK_API PageBorders final : public BorderCollection<PageBorder, dwPageBorder, 4> {
+class DRAFTWICK_API PageBorders final : public detail::BorderCollection<PageBorder, dwPageBorder, 4> {
 public:
     struct Values {
-        Choice<"PageBorders.Display", dwPBDAllPages, dwPBDExceptFirst> display{dwPBDAllPages};
-        Choice<"PageBorders.Offset", dwPBOText, dwPBOPage> offset{dwPBOText};
+        rule::Choice<"PageBorders.Display", dwPBDAllPages, dwPBDExceptFirst> display{dwPBDAllPages};
+        rule::Choice<"PageBorders.Offset", dwPBOText, dwPBOPage> offset{dwPBOText};
         bool inFront = true;
         bool snap = false;
     };
@@ -80,7 +80,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
 
     Values values_;
 };

@@ -13,15 +13,15 @@ enum dwTableAlign : std::int32_t { dwTALeft = 1, dwTACenter = 2, dwTARight = 3 }
 
 /// One row of a table (RTF \trowd); rows that are added one after the other make one table. Its settings are
 /// written when its first cell is added; from then on setters refuse ("Table"). Lengths are 16 bits in twips.
-class DRAFTWICK_API Table final : public HeldBy<RowContainer> {
+class DRAFTWICK_API Table final : public detail::HeldBy<RowContainer> {
 public:
     struct Values {
-        Choice<"Table.Align", dwTALeft, dwTARight> align{dwTALeft};
+        rule::Choice<"Table.Align", dwTALeft, dwTARight> align{dwTALeft};
         // Together these two put the text of the first cell on the margin.
-        Length gap{95};
-        Length left{-95};
+        rule::Length gap{95};
+        rule::Length left{-95};
         bool header = false;
-        Length height{0};
+        rule::Length height{0};
         bool heightExactly = false;
         bool keepTogether = false;
     };
@@ -74,12 +74,12 @@ protected:
     void WriteEnd() override;
 
 private:
-    friend struct Access;
+    friend struct detail::Access;
     friend class Cell;
 
     Values values_;
-    Lazy<TableBorders> borders_;
-    Lazy<draftwick::Frame> frame_;
+    detail::Lazy<TableBorders> borders_;
+    detail::Lazy<draftwick::Frame> frame_;
     std::shared_ptr<Cell> currentCell_;
 };
 

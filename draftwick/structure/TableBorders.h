@@ -15,22 +15,22 @@ enum dwTableBorder : std::int32_t {
 };
 
 struct DRAFTWICK_API TableBorderValues {
-    BorderStyle style{dwBSNone};
-    Points width{1};
+    detail::BorderStyle style{dwBSNone};
+    rule::Points width{1};
     std::int32_t color = 0;
 };
 
 /// One of the borders of a row (RTF \trbrdrt and its siblings). Refuses once the row is written ("Table").
-class DRAFTWICK_API TableBorder final : public Border<TableBorderValues> {
+class DRAFTWICK_API TableBorder final : public detail::Border<TableBorderValues> {
 public:
-    TableBorder(Owner owner, dwTableBorder) : Border(owner) {}
+    TableBorder(detail::Owner owner, dwTableBorder) : Border(owner) {}
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 };
 
 /// The borders of a row.
-class DRAFTWICK_API TableBorders final : public BorderCollection<TableBorder, dwTableBorder, 6> {
+class DRAFTWICK_API TableBorders final : public detail::BorderCollection<TableBorder, dwTableBorder, 6> {
 public:
     using BorderCollection::BorderCollection;
     static const Class& Describe();

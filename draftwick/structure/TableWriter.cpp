@@ -1,6 +1,6 @@
-#include <draftwick/format/Writers.h>
-#include <draftwick/model/Access.h>
-#include <draftwick/structure/Writers.h>
+#include <draftwick/format/internal/Writers.h>
+#include <draftwick/model/internal/Access.h>
+#include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 

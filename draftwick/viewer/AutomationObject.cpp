@@ -1,5 +1,5 @@
 #include <draftwick/base/Error.h>
-#include <draftwick/model/ClassTable.h>
+#include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/viewer/AutomationObject.h>
 
 #include <string>

@@ -13,9 +13,9 @@ namespace draftwick {
 ///
 /// What the other program refuses is std::system_error with the system's code. A date, and an object that is not an
 /// AutomationObject, cannot be sent: error 13.
-class DRAFTWICK_API AutomationObject final : public Node {
+class DRAFTWICK_API AutomationObject final : public detail::Node {
 public:
-    AutomationObject(const Origin& origin, std::shared_ptr<platform::AutomationObject> object);
+    AutomationObject(const detail::Origin& origin, std::shared_ptr<platform::AutomationObject> object);
 
     /// Reads or sets a property of the object.
     Variant GetProperty(std::string_view name) const;

@@ -1,6 +1,6 @@
 #include <draftwick/base/Units.h>
 #include <draftwick/text/CaseFolding.h>
-#include <draftwick/viewer/Registry.h>
+#include <draftwick/viewer/internal/Registry.h>
 
 #include <algorithm>
 #include <array>
@@ -13,7 +13,6 @@ namespace draftwick {
 
 namespace {
 
-using platform::RegistryKey;
 using platform::RegistryType;
 
 constexpr std::size_t DoubleSize = 8;
@@ -41,16 +40,6 @@ std::optional<double> NumberOf(const std::variant<std::monostate, std::string, s
     return {};
 }
 
-std::vector<std::string> ReadNames(RegistryKey* key,
-                                   std::error_code (RegistryKey::*enumerate)(std::uint32_t, std::string&)) {
-    std::vector<std::string> names;
-    std::string name;
-    while (key != nullptr && !(key->*enumerate)(static_cast<std::uint32_t>(names.size()), name)) {
-        names.push_back(name);
-    }
-    return names;
-}
-
 }  // namespace
 
 std::string Registry::KeyPath(std::string_view section) const {
@@ -60,21 +49,10 @@ std::string Registry::KeyPath(std::string_view section) const {
     return path;
 }
 
-std::unique_ptr<RegistryKey> Registry::OpenKey(std::string_view section) const {
-    std::error_code ignored;
-    return store_.Open(root_, KeyPath(section), ignored);
-}
-
-std::unique_ptr<RegistryKey> Registry::CreateKey(std::string_view section) const {
-    std::error_code ignored;
-    return store_.Create(root_, KeyPath(section), ignored);
-}
-
 Registry::Value Registry::QueryValue(std::string_view section, std::string_view key) const {
-    const auto open = OpenKey(section);
     RegistryType type{};
     std::string bytes;
-    if (open == nullptr || open->QueryValue(std::string{key}, type, bytes)) return {};
+    if (store_.QueryValue(root_, KeyPath(section), std::string{key}, type, bytes)) return {};
     if (type == RegistryType::Text) {
         // The last character is taken to be the terminating zero, whatever it is, and all its bytes; what stands behind
         // an earlier zero is no text.
@@ -90,10 +68,11 @@ Registry::Value Registry::QueryValue(std::string_view section, std::string_view 
     return {};
 }
 
+/// A text is stored with its terminating zero when that stands behind it.
 void Registry::SetValue(std::string_view section, std::string_view key, RegistryType type, const char* data,
                         std::size_t size) const {
-    const auto open = CreateKey(section);
-    if (open != nullptr) open->SetValue(std::string{key}, type, data, size);
+    if (type == RegistryType::Text && size > 0 && data[size - 1] != '\0' && data[size] == '\0') ++size;
+    store_.SetValue(root_, KeyPath(section), std::string{key}, type, {data, size});
 }
 
 std::string Registry::ReadString(std::string_view section, std::string_view key,
@@ -150,22 +129,21 @@ void Registry::WriteBoolean(std::string_view section, std::string_view key, bool
 }
 
 std::vector<std::string> Registry::ReadAllSubKeys(std::string_view section) const {
-    return ReadNames(OpenKey(section).get(), &RegistryKey::EnumerateKey);
+    return store_.SubKeys(root_, KeyPath(section));
 }
 
 std::vector<std::string> Registry::ReadAllValueNames(std::string_view section) const {
-    return ReadNames(OpenKey(section).get(), &RegistryKey::EnumerateValue);
+    return store_.ValueNames(root_, KeyPath(section));
 }
 
 void Registry::DeleteSection(std::string_view section) const {
     if (KeyPath(section).find_first_not_of('\\') == std::string::npos) return;  // that would be all there is
-    const auto open = CreateKey({});
-    if (open == nullptr) return;
+    if (store_.CreateKey(root_, path_)) return;
     // A key that has subkeys cannot be deleted: the deepest go first.
     for (const std::string& name : ReadAllSubKeys(section)) {
         DeleteSection(section.empty() ? name : std::string{section} + "\\" + name);
     }
-    open->DeleteKey(std::string{section});
+    store_.DeleteKey(root_, path_.empty() ? std::string{section} : KeyPath(section));
 }
 
 }  // namespace draftwick

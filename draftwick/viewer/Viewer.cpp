@@ -1,7 +1,7 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
-#include <draftwick/viewer/Registry.h>
-#include <draftwick/viewer/Viewer.h>
+#include <draftwick/viewer/internal/Registry.h>
+#include <draftwick/viewer/internal/Viewer.h>
 
 #include <stdexcept>
 #include <string_view>

@@ -33,7 +33,6 @@ class DraftwickConan(ConanFile):
     def requirements(self):
         if self.settings.os != "Windows":
             self.requires("giflib/5.2.1")
-            self.requires("libjpeg-turbo/3.0.2")
 
     def validate(self):
         check_min_cppstd(self, 20)

@@ -2,8 +2,8 @@
 
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
-#include <draftwick/platform/CodePage.h>
 #include <draftwick/platform/Platform.h>
+#include <draftwick/platform/internal/CodePage.h>
 #include <draftwick/text/Escape.h>
 
 #include <gtest/gtest.h>

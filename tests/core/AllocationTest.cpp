@@ -36,7 +36,7 @@ std::ptrdiff_t OpenHandles() {
 TEST(Faults, OfEveryAllocationReachTheHost) {
     const TempFolder folder;
     const std::string bmp = folder / "a.bmp", jpg = folder / "a.jpg", file = folder / "out.rtf";
-    WriteFile(bmp, MakeBmp({3, 2, {0, 1, 2, 3, 4, 7}}, {}));
+    WriteFile(bmp, PictureFile("sample/4.bmp"));
     WriteFile(jpg, MakeJpeg(8, 8, 1, 96, 96));
     platform::Platform services = platform::SystemPlatform();
     const auto environment = std::make_shared<FakeEnvironment>();

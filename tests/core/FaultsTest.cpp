@@ -15,8 +15,7 @@ struct FaultyDocument {
     explicit FaultyDocument(const std::string& name) {
         document->SetFilename(name);
         if (!name.empty()) files->Put(name, "old");
-        const Indices pixels{3, 2, {0, 1, 2, 3, 4, 7}};
-        files->Put("a.bmp", MakeBmp(pixels, {}));
+        files->Put("a.bmp", PictureFile("sample/4.bmp"));
         files->Put("a.jpg", MakeJpeg(8, 8, 1, 96, 96));
     }
 

@@ -62,9 +62,9 @@ const std::set<std::string_view> Unescaped{"Add",     "AddBookmark", "AddRawText
 class CallSequence {
 public:
     explicit CallSequence(std::span<const std::uint8_t> bytes) : bytes_(bytes) {
-        const Indices pixels{3, 2, {0, 1, 2, 3, 4, 7}};
-        files_->Put("a.bmp", MakeBmp(pixels, {}));
-        files_->Put("a.gif", MakeGif(pixels, {}));
+        static const std::string bmp = PictureFile("sample/4.bmp"), gif = PictureFile("empty-screen.gif");
+        files_->Put("a.bmp", bmp);
+        files_->Put("a.gif", gif);
         files_->Put("a.jpg", MakeJpeg(8, 8, 1, 96, 96));
         files_->Put("a.emf", MakeEmf(0, 0, 2540, 2540));
         files_->Put("a.wmf", MakeWmf(0, 0, 10, 10, 96));

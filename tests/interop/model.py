@@ -7,76 +7,81 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 
 
-class Constants:
-    """The values of the library's enumerations, as its headers have them: dw.AlignCenter."""
+class Constant(str):
+    """The name of a value of an enumeration, whose number the library knows."""
 
-    def __init__(self):
-        for header in ROOT.glob("draftwick/*/*.h"):
-            for name, value in re.findall(r"\bdw([A-Z]\w*) = (\d+)", header.read_text()):
-                setattr(self, name, int(value))
+
+class Constants:
+    """dw.AlignCenter is the constant dwAlignCenter."""
+
+    def __getattr__(self, name):
+        return Constant("dw" + name)
 
 
 dw = Constants()
 
 
-def _field(value):
+def rows(file, title):
+    """The words of a block of tests/words, by the constant that each row sets: {"BSDouble": r"\brdrt\brdrdb"}."""
+    block = (ROOT / "tests/words" / file).read_text().partition(f"] {title}\n")[2].partition("\n[")[0]
+    return dict(re.findall(r"^\w+=dw(\w+) => (.+)$", block, re.M))
+
+
+def _value(value):
+    """A value as the steps spell it (tests/words/README.md)."""
+    if isinstance(value, Constant):
+        return value
     if value is None:
-        return "n"
+        return "nothing"
     if isinstance(value, bool):
-        return f"b{value:d}"
+        return str(value).lower()
     if isinstance(value, datetime.datetime):
-        return f"d{value}"
-    return {int: "i", float: "r", str: "s"}[type(value)] + str(value)
+        return value.isoformat()
+    if isinstance(value, str):
+        return "'" + re.sub(r"[%'\0-\x1f]", lambda c: f"%{ord(c[0]):02X}", value) + "'"
+    return repr(value)
 
 
 class Script:
-    """The steps that build documents."""
+    """The steps that build documents. Objects that methods give are named by number."""
 
     def __init__(self):
         self.steps = []
 
-    def step(self, *fields):
-        self.steps.append("\x1f".join([str(len(self.steps)), *map(str, fields)]) + "\x1e")
-        return len(self.steps) - 1
+    def step(self, *words):
+        self.steps.append(" ".join(words))
 
     def document(self, file):
-        document = Thing(self, number=self.step("new"))
+        self.step()
+        document = Thing(self, "document")
         document.Filename = str(file)
         return document
 
     def run(self, program):
-        subprocess.run([program], input="".join(self.steps).encode(), check=True)
+        subprocess.run([program], input="\n".join(self.steps).encode(), check=True)
 
 
 class Thing:
-    """An object of the library, or a member of one: a property's object is fetched once it is used."""
+    """An object of the library, or a member of one, by its path."""
 
-    def __init__(self, script, number=None, owner=None, name=None):
-        self.__dict__.update(_script=script, _number=number, _owner=owner, _name=name)
-
-    def _reference(self):
-        if self._number is None:
-            self.__dict__["_number"] = self._script.step("get", self._owner._reference(), self._name)
-        return self._number
+    def __init__(self, script, path):
+        self.__dict__.update(_script=script, _path=path)
 
     def __getattr__(self, name):
-        return Thing(self._script, owner=self, name=name)
+        return Thing(self._script, f"{self._path}.{name}")
 
     def __setattr__(self, name, value):
-        self._script.step("set", self._reference(), name, _field(value))
+        self.set(**{name: value})
 
     def __call__(self, *arguments, **settings):
         """Calls the method, then sets properties of what it gives."""
-        fields = map(_field, arguments)
-        number = self._script.step("call", self._owner._reference(), self._name, *fields)
-        return Thing(self._script, number).set(**settings)
+        name = f"o{len(self._script.steps)}"
+        self._script.step(name + ":", self._path, *map(_value, arguments))
+        return Thing(self._script, name).set(**settings)
 
     def set(self, **settings):
         """Sets properties, also those of parts: Format_Align=2, Borders_1_Style=2 for an item of a collection."""
-        for path, value in settings.items():
-            *parts, name = path.split("_")
-            thing = self
-            for part in parts:
-                thing = thing.Items(int(part)) if part.isdigit() else getattr(thing, part)
-            setattr(thing, name, value)
+        if settings:
+            self._script.step(self._path, *(f"{path.replace('_', '.')}={_value(value)}"
+                                            for path, value in settings.items()))
         return self

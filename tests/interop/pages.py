@@ -413,7 +413,7 @@ def properties(t):
         value = f"the {name}" if position <= 11 else when if position <= 15 else position * 3
         t.document.Properties.Items(position).Value = value
         shown = "2024-02-29T12:30:00" if 12 <= position <= 15 else str(value)
-        t.shows(f"Property {name}", f"{{\\{name}" if position <= 15 else f"\\{name}{value}",
+        t.shows(f"Property {name}", f"{{\\{name}" if position <= 15 else f"{{\\{name}{value}}}",
                 lambda name=name: meta(name),
                 "PT51M" if name == "edmins" else shown, instead="PT51S" if name == "edmins" else None,
                 partly=name == "edmins", why=whys.get(name, ""))

@@ -1,7 +1,7 @@
 """Text: looks, backgrounds and borders of runs and paragraphs, tabs, styles, lists."""
 import re
 
-from model import dw
+from model import dw, rows
 from readers import Node, local
 from topics import run, say, topic
 
@@ -47,17 +47,17 @@ def text(t):
     look("Font that is not there, with another in its place", "FontName", "Nowhere Serif",
          r"{\*\falt Courier New}", {"font-name": "Courier New"},
          instead={"font-name": "Nowhere Serif"}, why="it takes another font by rules of its own")
-    for value, written, style, kind in (
-            (2, "ul", "solid", None), (3, "uld", "dotted", None), (4, "uldb", "solid", "double"),
-            (5, "ulw", "solid", None), (6, "ulth", "solid", None), (7, "uldashd", "dot-dash", None),
-            (8, "uldashdd", "dot-dot-dash", None), (9, "ulwave", "wave", None)):
-        shown = {"text-underline-style": style, "text-underline-type": kind}
-        if value == 5:
+    lines = dict(UnderlineDotted="dotted", UnderlineDashDot="dot-dash", UnderlineDashDotDot="dot-dot-dash",
+                 UnderlineWave="wave")
+    for name, written in rows("text.txt", "Underlines").items():
+        shown = {"text-underline-style": lines.get(name, "solid"),
+                 "text-underline-type": "double" if name == "UnderlineDouble" else None}
+        if name == "UnderlineWord":
             shown["text-underline-mode"] = "skip-white-space"
-        if value == 6:
+        if name == "UnderlineThick":
             shown["text-underline-width"] = "bold"
-        look(f"Underline {written}", "Underline", value, "\\" + written, shown,
-             pandoc="<u>Underline ul</u>" if value == 2 else None)
+        look(f"Underline {written[1:]}", "Underline", getattr(dw, name), written, shown,
+             pandoc="<u>Underline ul</u>" if written == r"\ul" else None)
     look("Animation", "Animation", dw.TxAnimBlinking, r"\animtext2", {"text-blinking": "true"})
 
 
@@ -112,17 +112,16 @@ def paragraphs(t):
 @topic("Borders of paragraphs")
 def paragraph_borders(t):
     section = t.document.AddSection()
-    styles = ("brdrs brdrsh brdrdb brdrdot brdrdash brdrdashsm brdrdashd brdrdashdd brdrtriple brdrtnthsg brdrthtnsg "
-              "brdrtnthtnsg brdrtnthmg brdrthtnmg brdrtnthtnmg brdrtnthlg brdrthtnlg brdrtnthtnlg brdrwavy brdrwavydb "
-              "brdrdashdotstr brdremboss brdrengrave").split()
     drawn = dict(brdrs="solid", brdrdot="dotted", brdrdash="dashed", brdrdashsm="fine-dashed", brdrdashd="dash-dot",
                  brdrdashdd="dash-dot-dot", brdremboss="ridge", brdrengrave="groove")
     missing = dict(brdrsh="solid", brdrtriple="triple", brdrtnthtnsg="triple", brdrtnthtnmg="triple",
                    brdrtnthtnlg="triple", brdrwavy="wave", brdrwavydb="double-wave", brdrdashdotstr="dash-dot")
-    for value, word in enumerate(styles, 2):
+    for style, words in rows("borders.txt", "Line above a paragraph").items():
+        word = words.rpartition("\\")[2]
         name = "Line " + word
-        say(section, name, Format_SpaceAfter=12.0, Borders_1_Style=value, Borders_1_Width=3.0, Borders_1_Color=RED)
-        t.shows(name, rf"\brdrt\{word}\brsp20\brdrw60\brdrcf0",
+        say(section, name, Format_SpaceAfter=12.0, Borders_1_Style=getattr(dw, style), Borders_1_Width=3.0,
+            Borders_1_Color=RED)
+        t.shows(name, words + r"\brsp20\brdrw60\brdrcf0",
                 lambda name=name: t.odt.look(name).get("border-top", "no line no").split()[1],
                 missing.get(word) or drawn.get(word, "double"), instead="line",
                 why="no line is drawn" if word in missing else "")
@@ -239,7 +238,7 @@ def lists(t):
     numbers = ("One", "1", "A", "a", "I", "i", "1st", "First", "01", "•")
     for style, label in enumerate(numbers, 1):
         level = t.document.Lists.Add(f"Style {style}").Levels(1)
-        level.set(Style=style, Format="•" if style == dw.LNSBullet else "\\L1.")
+        level.set(Style=style, Format="•" if label == "•" else "\\L1.")
     for name, member, value in (("Right", "Align", dw.LNARight), ("Space", "Follow", dw.LNFSpace),
                                 ("Nothing", "Follow", dw.LNFNothing), ("From 5", "StartAt", 5),
                                 ("Long", "Format", "Paragraph \\L1.")):
@@ -263,13 +262,14 @@ def lists(t):
         found = re.search(rf"^(.*?)\s*{text}$", t.pdf.text, re.M)
         return found and found[1]
 
-    for style, number in enumerate(numbers, 1):
+    kinds = [words.partition(r"\leveljc")[0] for name, words in
+             rows("list.txt", "Kind, alignment and what follows a number").items() if name.startswith("LNS")]
+    for style, (number, written) in enumerate(zip(numbers, kinds), 1):
         item(f"style {style}", f"Style {style}")
         item(f"second {style}", f"Style {style}")
         expected = number if number == "•" else number + "."
-        nfc = (6, 0, 3, 4, 1, 2, 5, 7, 22, 23)[style - 1]
         kind = "<ul>" if number == "•" else f'type="{number}"' if number in "1AaIi" else None
-        t.shows(f"Numbers “{number}”", rf"\levelnfc{nfc}", lambda style=style: label(f"style {style}"), expected,
+        t.shows(f"Numbers “{number}”", written, lambda style=style: label(f"style {style}"), expected,
                 pandoc=kind)
     item("right", "Right")
     t.shows("Number right of its place", r"\leveljc2", lambda: level_of("right").get("text-align"), "end")

@@ -13,16 +13,16 @@
 namespace draftwick::test {
 
 inline std::unique_ptr<const platform::Picture> LoadBytes(const std::string& bytes,
-                                                          platform::PictureKind kind, std::error_code& error,
-                                                          double twipsPerPixel = 15) {
+                                                          platform::PictureKind kind,
+                                                          std::error_code& error) {
     const auto files = std::make_shared<MemoryFiles>();
     files->Put("picture", bytes);
-    auto picture = platform::SystemPictures(twipsPerPixel)->Load(*files, "picture", kind, error);
+    auto picture = platform::SystemPictures()->Load(*files, "picture", kind, error);
     EXPECT_EQ(picture == nullptr, static_cast<bool>(error));
     return picture;
 }
 
-inline std::string RecordWhole(const platform::Picture& picture, int width, int height) {
+inline std::string Recorded(const platform::Picture& picture, int width, int height) {
     const auto files = std::make_shared<MemoryFiles>();
     std::error_code error;
     platform::SystemPictures()->Record(picture, width, height, *files, "recorded", error);
@@ -31,13 +31,13 @@ inline std::string RecordWhole(const platform::Picture& picture, int width, int 
     return files->Bytes("recorded");
 }
 
-/// The pixels of a picture that must load, by way of the recorder.
-inline Image PixelsOf(const std::string& bytes, platform::PictureKind kind, int width, int height,
-                      int* bits = nullptr) {
+/// Whether a file of tests/pictures shows the image, by way of the recorder.
+inline void ExpectShown(const std::string& name, const Image& image) {
     std::error_code error;
-    const auto picture = LoadBytes(bytes, kind, error);
-    if (!picture) return {};
-    return ReadRecorded(RecordWhole(*picture, width, height), bits);
+    const auto kind = name.ends_with(".gif") ? platform::PictureKind::Gif : platform::PictureKind::Bmp;
+    const auto picture = LoadBytes(PictureFile(name), kind, error);
+    ASSERT_NE(picture, nullptr) << name;
+    EXPECT_EQ(ReadRecorded(Recorded(*picture, image.width, image.height)), image) << name;
 }
 
 }  // namespace draftwick::test

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <draftwick/base/Error.h>
+#include <draftwick/base/internal/Names.h>
 
 #include <gtest/gtest.h>
 

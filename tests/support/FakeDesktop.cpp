@@ -10,36 +10,6 @@ namespace {
     throw std::system_error(std::make_error_code(error), what);
 }
 
-/// Settings that can only be read.
-class FakeKey final : public platform::RegistryKey {
-public:
-    explicit FakeKey(std::map<std::string, std::string> texts) : texts_(std::move(texts)) {}
-
-    std::error_code QueryValue(const std::string& name, platform::RegistryType& type,
-                               std::string& bytes) override {
-        const auto found = texts_.find(name);
-        if (found == texts_.end()) return std::make_error_code(std::errc::no_such_file_or_directory);
-        type = platform::RegistryType::Text;
-        bytes = found->second + '\0';
-        return {};
-    }
-    std::error_code SetValue(const std::string&, platform::RegistryType, const char*, std::size_t) override {
-        return std::make_error_code(std::errc::permission_denied);
-    }
-    std::error_code EnumerateKey(std::uint32_t, std::string&) override {
-        return std::make_error_code(std::errc::permission_denied);
-    }
-    std::error_code EnumerateValue(std::uint32_t, std::string&) override {
-        return std::make_error_code(std::errc::permission_denied);
-    }
-    std::error_code DeleteKey(const std::string&) override {
-        return std::make_error_code(std::errc::permission_denied);
-    }
-
-private:
-    std::map<std::string, std::string> texts_;
-};
-
 }  // namespace
 
 /// The word processor, and its collection of documents.
@@ -81,33 +51,20 @@ std::string FakeDesktop::TakeLog() {
     return line;
 }
 
-std::unique_ptr<platform::RegistryKey> FakeDesktop::Open(platform::RegistryRoot root, const std::string& path,
-                                                         std::error_code& error) {
-    error.clear();
-    const auto found = settings.find({root, path});
-    if (found != settings.end()) return std::make_unique<FakeKey>(found->second);
-    error = std::make_error_code(std::errc::no_such_file_or_directory);
-    return nullptr;
+std::error_code FakeDesktop::QueryValue(platform::RegistryRoot root, const std::string& path,
+                                        const std::string& name, platform::RegistryType& type,
+                                        std::string& bytes) {
+    const auto found = settings.find({root, path, name});
+    if (found == settings.end()) return std::make_error_code(std::errc::no_such_file_or_directory);
+    type = platform::RegistryType::Text;
+    bytes = found->second + '\0';
+    return {};
 }
 
-std::unique_ptr<platform::RegistryKey> FakeDesktop::Create(platform::RegistryRoot, const std::string&,
-                                                           std::error_code& error) {
-    error = std::make_error_code(std::errc::permission_denied);
-    return nullptr;
-}
-
-std::shared_ptr<platform::AutomationObject> FakeDesktop::Attach(const std::string& className) {
-    log.emplace_back("attach");
-    return Offer(className, runningVersion);
-}
-
-std::shared_ptr<platform::AutomationObject> FakeDesktop::Create(const std::string& className) {
-    log.emplace_back("create");
-    return Offer(className, installedVersion);
-}
-
-std::shared_ptr<platform::AutomationObject> FakeDesktop::Offer(const std::string& className,
+std::shared_ptr<platform::AutomationObject> FakeDesktop::Offer(const std::string& how,
+                                                               const std::string& className,
                                                                const std::string& version) {
+    log.push_back(how);
     if (className != "Word.Application" || version.empty()) Fail(std::errc::not_supported, className);
     return std::make_shared<Word>(shared_from_this(), version);
 }

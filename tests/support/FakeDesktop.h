@@ -6,7 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 namespace draftwick::test {
@@ -24,12 +24,13 @@ public:
     /// The log in one line, and a new one begins.
     std::string TakeLog();
 
-    /// Texts by root, path of the key and name of the value. Keys exist by having one.
-    std::map<std::pair<platform::RegistryRoot, std::string>, std::map<std::string, std::string>> settings;
-    void SetText(platform::RegistryRoot root, const std::string& path, const std::string& name,
-                 const std::string& text) {
-        settings[{root, path}][name] = text;
-    }
+    /// Texts by root, path of the key and name of the value. They can only be read.
+    using Setting = std::tuple<platform::RegistryRoot, std::string, std::string>;
+    std::map<Setting, std::string> settings;
+    /// Where a viewer is looked for first.
+    static inline const Setting viewerCommand{platform::RegistryRoot::LocalMachine,
+                                              R"(SOFTWARE\Classes\Word.Document.8\shell\wordview\command)",
+                                              ""};
 
     std::string runningVersion;    ///< of the word processor that runs; empty: none does
     std::string installedVersion;  ///< of the word processor that can be started; empty: there is none
@@ -40,13 +41,23 @@ public:
     bool startFails = false;
     std::int32_t lastTask = 100;  // counted up before use
 
-    std::unique_ptr<platform::RegistryKey> Open(platform::RegistryRoot root, const std::string& path,
-                                                std::error_code& error) override;
-    std::unique_ptr<platform::RegistryKey> Create(platform::RegistryRoot root, const std::string& path,
-                                                  std::error_code& error) override;
+    std::error_code QueryValue(platform::RegistryRoot root, const std::string& path, const std::string& name,
+                               platform::RegistryType& type, std::string& bytes) override;
+    std::error_code SetValue(platform::RegistryRoot, const std::string&, const std::string&,
+                             platform::RegistryType, std::string_view) override {
+        return std::make_error_code(std::errc::permission_denied);
+    }
+    std::vector<std::string> SubKeys(platform::RegistryRoot, const std::string&) override { return {}; }
+    std::vector<std::string> ValueNames(platform::RegistryRoot, const std::string&) override { return {}; }
+    std::error_code CreateKey(platform::RegistryRoot, const std::string&) override { return {}; }
+    std::error_code DeleteKey(platform::RegistryRoot, const std::string&) override { return {}; }
 
-    std::shared_ptr<platform::AutomationObject> Attach(const std::string& className) override;
-    std::shared_ptr<platform::AutomationObject> Create(const std::string& className) override;
+    std::shared_ptr<platform::AutomationObject> Attach(const std::string& className) override {
+        return Offer("attach", className, runningVersion);
+    }
+    std::shared_ptr<platform::AutomationObject> Create(const std::string& className) override {
+        return Offer("create", className, installedVersion);
+    }
 
     std::int32_t Start(const std::string& commandLine, const std::string& file) override;
     std::string PrintCommand() override { return printCommand; }
@@ -57,7 +68,7 @@ public:
 
 private:
     class Word;
-    std::shared_ptr<platform::AutomationObject> Offer(const std::string& className,
+    std::shared_ptr<platform::AutomationObject> Offer(const std::string& how, const std::string& className,
                                                       const std::string& version);
 };
 

@@ -34,4 +34,11 @@ TEST(Rtf, SpellsWhatIsTheSameInOneWay) {
     EXPECT_EQ(Words("\\* a\\'e9 b\\{c"), "\\* a\\'e9 b\\{c");
 }
 
+TEST(Rtf, ShowsTheFirstWordThatDiffers) {
+    EXPECT_EQ(FirstDifference("\\a\\b12 x", "\\a\\b13 x"),
+              "alike:    \\a\nexpected: \\b12 x\nactual:   \\b13 x");
+    EXPECT_EQ(FirstDifference("\\a", "\\a\r\n\\b"), "alike:    \nexpected: \\a\nactual:   \\a<CRLF>\\b");
+    EXPECT_EQ(FirstDifference("", "x"), "alike:    \nexpected: \nactual:   x");
+}
+
 }  // namespace draftwick::test

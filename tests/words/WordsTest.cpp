@@ -2,11 +2,16 @@
 #include "tests/support/Script.h"
 #include "tests/support/TempFolder.h"
 
-#include <draftwick/platform/CodePage.h>
+#include <draftwick/platform/internal/CodePage.h>
 #include <draftwick/text/Utf8.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+#include <vector>
 
 /// Replays the rows of tests/words, which its README.md tells how to read.
 namespace draftwick::test {

@@ -23,7 +23,6 @@ protected:
     using Loaded = std::unique_ptr<const Picture>;
 
     // Each returns nothing when the file is unreadable.
-    virtual std::optional<Size> ReadJpegSize(PictureSource& source) const = 0;
     virtual Loaded ReadGif(PictureSource& source) const = 0;
     virtual Loaded Wrap(Bitmap bitmap) const = 0;
 

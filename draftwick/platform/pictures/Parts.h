@@ -43,6 +43,8 @@ inline constexpr std::int64_t MaxGifPixelsPerByte = 4096;
 // The readers that all systems share. Each starts at the beginning of the file and returns nothing when it is
 // unreadable.
 std::optional<Bitmap> ReadBmp(PictureSource& source);
+/// At the density that the headers give, or else at the screen's.
+std::optional<Size> ReadJpegSize(PictureSource& source, double twipsPerPixel);
 std::optional<Size> ReadEmfSize(PictureSource& source);
 std::optional<Size> ReadWmfSize(PictureSource& source);
 

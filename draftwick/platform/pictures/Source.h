@@ -10,8 +10,8 @@
 namespace draftwick::platform::pictures {
 
 /// Reads a picture file from front to back through a small buffer.
-/// A failure of the file ends the data, so that readers need to know only one kind of end; ThrowIfFailed and
-/// Error tell the two apart afterwards. Nothing else throws here: C libraries call it.
+/// A failure of the file ends the data, so that readers need to know only one kind of end; Outcome tells
+/// the two apart afterwards. Nothing else throws here: C libraries call it.
 class PictureSource {
 public:
     PictureSource(File& file, std::uint64_t length) : file_(file), length_(length) {}

@@ -1,4 +1,4 @@
-#include <draftwick/platform/posix/Posix.h>
+#include <draftwick/platform/internal/System.h>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -6,7 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace draftwick::platform::posix {
+namespace draftwick::platform {
 
 namespace {
 
@@ -145,4 +145,4 @@ private:
 
 std::shared_ptr<FileSystem> MakeFileSystem() { return std::make_shared<PosixFileSystem>(); }
 
-}  // namespace draftwick::platform::posix
+}  // namespace draftwick::platform

@@ -38,9 +38,6 @@ public:
     }
 
 private:
-    std::optional<Size> ReadJpegSize(PictureSource& source) const override {
-        return posix::ReadJpegSize(source, TwipsPerPixel());
-    }
     Loaded ReadGif(PictureSource& source) const override {
         std::optional<Bitmap> bitmap = posix::ReadGif(source);
         return bitmap ? Wrap(std::move(*bitmap)) : nullptr;

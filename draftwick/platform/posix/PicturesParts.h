@@ -1,6 +1,6 @@
 #pragma once
 
-// What the parts of the picture service know of each other: one reader per kind of file, and the recorder.
+// What the parts of the picture service know of each other.
 
 #include <draftwick/platform/Pictures.h>
 #include <draftwick/platform/pictures/Parts.h>
@@ -10,13 +10,11 @@
 namespace draftwick::platform::posix {
 
 using pictures::Bitmap;
-using pictures::HimetricFromPixels;
 using pictures::PictureSource;
 using pictures::Size;
 
-// The readers. Each starts at the beginning of the file and returns nothing when it is unreadable.
+/// Starts at the beginning of the file and returns nothing when it is unreadable.
 std::optional<Bitmap> ReadGif(PictureSource& source);
-std::optional<Size> ReadJpegSize(PictureSource& source, double twipsPerPixel);
 
 /// Writes the top left part of a bitmap as an enhanced metafile; `frame` is that part's size.
 void WriteMetafile(const Bitmap& bitmap, std::int32_t width, std::int32_t height, Size frame,

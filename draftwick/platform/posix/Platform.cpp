@@ -1,7 +1,5 @@
-#include <draftwick/platform/Platform.h>
-#include <draftwick/platform/posix/Posix.h>
+#include <draftwick/platform/internal/System.h>
 
-#include <atomic>
 #include <cstdlib>
 #include <syslog.h>
 
@@ -27,36 +25,19 @@ public:
     }
 };
 
-std::atomic<EventLog*> replacement{nullptr};
-
 }  // namespace
 
-Platform SystemPlatform() {
-    static const Platform system{
-        .files = posix::MakeFileSystem(),
-        .environment = std::make_shared<PosixEnvironment>(),
-        .pictures = SystemPictures(),
-        .registry = posix::MakeRegistryStore(),
-        .automation = posix::MakeAutomation(),
-        .programs = posix::MakePrograms(),
-    };
-    return system;
+std::shared_ptr<Environment> MakeEnvironment() { return std::make_shared<PosixEnvironment>(); }
+
+EventLog& SystemEventLog() {
+    static Syslog log;
+    return log;
 }
 
-EventLog& CurrentEventLog() {
-    static Syslog system;
-    EventLog* other = replacement.load();
-    return other != nullptr ? *other : system;
-}
-
-void SetEventLog(EventLog* log) noexcept { replacement = log; }
-
-std::string LocalTimeText(std::time_t time) {
+std::tm LocalTime(std::time_t time) {
     std::tm local{};
     ::localtime_r(&time, &local);
-    char text[32] = "";
-    (void)std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
-    return text;
+    return local;
 }
 
 }  // namespace draftwick::platform

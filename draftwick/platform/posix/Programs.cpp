@@ -1,4 +1,4 @@
-#include <draftwick/platform/posix/Posix.h>
+#include <draftwick/platform/internal/System.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -7,7 +7,6 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <spawn.h>
-#include <stdexcept>
 #include <string_view>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -18,7 +17,7 @@
 
 extern char** environ;  // NOLINT(readability-redundant-declaration): only some systems declare it
 
-namespace draftwick::platform::posix {
+namespace draftwick::platform {
 
 namespace {
 
@@ -180,22 +179,7 @@ public:
 
 }  // namespace
 
-bool IsProgram(const std::string& name) {
-    const char* value = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
-    std::string_view folders = value != nullptr ? value : "";
-    while (!folders.empty()) {
-        const std::string_view folder = folders.substr(0, folders.find(':'));
-        folders.remove_prefix(std::min(folder.size() + 1, folders.size()));
-        const std::string file = std::string{folder} + '/' + name;
-        struct stat status {};
-        if (!folder.empty() && ::access(file.c_str(), X_OK) == 0 && ::stat(file.c_str(), &status) == 0
-            && S_ISREG(status.st_mode))
-            return true;
-    }
-    return false;
-}
-
 std::shared_ptr<Automation> MakeAutomation() { return std::make_shared<PosixAutomation>(); }
 std::shared_ptr<Programs> MakePrograms() { return std::make_shared<PosixPrograms>(); }
 
-}  // namespace draftwick::platform::posix
+}  // namespace draftwick::platform

@@ -1,40 +1,147 @@
-#include <draftwick/platform/posix/Posix.h>
-#include <draftwick/platform/posix/RegistryTree.h>
+#include <draftwick/platform/internal/System.h>
+#include <draftwick/text/CaseFolding.h>
 
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
 #include <functional>
-#include <pwd.h>
-#include <sys/file.h>
+#include <map>
+#include <optional>
+#include <sstream>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
-namespace draftwick::platform::posix {
+namespace draftwick::platform {
 
 namespace {
 
-std::error_code LastError() { return {errno, std::generic_category()}; }
+/// How many names a path can have, as in a registry.
+constexpr int MaxDepth = 512;
+
 std::error_code Failure(std::errc error) { return std::make_error_code(error); }
 
-/// A file descriptor that closes itself.
-class Descriptor {
-public:
-    Descriptor(const std::string& name, int flags) : number_(::open(name.c_str(), flags | O_CLOEXEC, 0600)) {}
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    operator int() const { return number_; }
-
-private:
-    int number_;
+struct Value {
+    std::string name;
+    RegistryType type{};
+    std::string bytes{};
 };
 
-/// The folder for the user's settings, with a slash at its end; empty when there is none.
+/// A key with all that is under it. Names keep their spelling and are found by their folded form.
+struct Tree {
+    std::string name;
+    std::map<std::string, Value> values{};
+    std::map<std::string, Tree> subkeys{};
+};
+
+/// Takes the first name off a path; empty at its end. Backslashes in a row are one.
+std::string_view NextName(std::string_view& path) {
+    path.remove_prefix(std::min(path.find_first_not_of('\\'), path.size()));
+    const std::string_view name = path.substr(0, path.find('\\'));
+    path.remove_prefix(name.size());
+    return name;
+}
+
+/// The key of that path below `tree`, or nullptr.
+Tree* Find(Tree* tree, std::string_view path) {
+    for (std::string_view next = NextName(path); !next.empty() && tree != nullptr; next = NextName(path)) {
+        const auto found = tree->subkeys.find(FoldCase(next));
+        tree = found == tree->subkeys.end() ? nullptr : &found->second;
+    }
+    return tree;
+}
+
+/// As Find; keys that are not there are made. nullptr for a path that is too deep.
+Tree* Make(Tree* tree, std::string_view path) {
+    int depth = 0;
+    for (std::string_view next = NextName(path); !next.empty(); next = NextName(path)) {
+        if (++depth > MaxDepth) return nullptr;
+        tree = &tree->subkeys.try_emplace(FoldCase(next), Tree{std::string{next}}).first->second;
+    }
+    return tree;
+}
+
+/// Deletes the key of that path, which must not have subkeys; `tree` itself stays.
+std::error_code Remove(Tree* tree, std::string_view path) {
+    Tree* parent = nullptr;
+    for (std::string_view next = NextName(path); !next.empty() && tree != nullptr; next = NextName(path)) {
+        parent = std::exchange(tree, Find(tree, next));
+    }
+    if (tree == nullptr) return Failure(std::errc::no_such_file_or_directory);
+    if (parent == nullptr || !tree->subkeys.empty()) return Failure(std::errc::permission_denied);
+    parent->subkeys.erase(FoldCase(tree->name));
+    return {};
+}
+
+// The user's tree as text: the values of the root, then a line for each key, its path, with the values of the key. A
+// value is a line of a tab, its name, a tab, its type, a tab and its bytes. What is not printable ASCII is %HH, and so
+// is the percent sign.
+
+std::string Escaped(std::string_view plain) {
+    std::string text;
+    for (const char c : plain) {
+        char code[4] = {c, '\0'};
+        if (c < ' ' || c > '~' || c == '%')
+            std::snprintf(code, sizeof code, "%%%02x", static_cast<unsigned char>(c));
+        text += code;
+    }
+    return text;
+}
+
+std::optional<std::string> Unescaped(std::string_view text) {
+    std::string plain;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        plain += text[at];
+        if (text[at] != '%') continue;
+        if (text.size() - at < 3) return {};
+        const char* const end = text.data() + at + 3;
+        unsigned char byte = 0;
+        if (std::from_chars(end - 2, end, byte, 16).ptr != end) return {};
+        plain.back() = static_cast<char>(byte);
+        at += 2;
+    }
+    return plain;
+}
+
+void Write(std::ostream& file, const Tree& tree, const std::string& path) {
+    if (!path.empty()) file << path << '\n';
+    for (const auto& [folded, value] : tree.values) {
+        file << '\t' << Escaped(value.name) << '\t' << std::to_string(static_cast<std::uint32_t>(value.type))
+             << '\t' << Escaped(value.bytes) << '\n';
+    }
+    for (const auto& [folded, subkey] : tree.subkeys) {
+        Write(file, subkey, (path.empty() ? path : path + '\\') + Escaped(subkey.name));
+    }
+}
+
+/// False for what Write does not write.
+bool Read(std::istream& file, Tree& tree) {
+    Tree* key = &tree;
+    for (std::string line; std::getline(file, line);) {
+        if (!line.starts_with('\t')) {
+            const auto path = Unescaped(line);
+            key = path ? Make(&tree, *path) : nullptr;
+            if (key == nullptr) return false;
+            continue;
+        }
+        std::istringstream fields(line.substr(1));
+        std::string name, type, bytes;
+        std::getline(std::getline(std::getline(fields, name, '\t'), type, '\t'), bytes);
+        const auto plainName = Unescaped(name), plainBytes = Unescaped(bytes);
+        std::uint32_t number = 0;
+        const char* const end = type.data() + type.size();
+        if (type.empty() || std::from_chars(type.data(), end, number).ptr != end || !plainName || !plainBytes)
+            return false;
+        key->values[FoldCase(*plainName)] = {*plainName, static_cast<RegistryType>(number), *plainBytes};
+    }
+    return !file.bad();
+}
+
+/// The folder of the user's tree, with a slash at its end; empty when there is none.
 std::string SettingsFolder() {
     const char* folder = std::getenv("XDG_CONFIG_HOME");  // NOLINT(concurrency-mt-unsafe)
     if (folder != nullptr && *folder == '/') return std::string{folder} + "/draftwick/";
@@ -43,186 +150,132 @@ std::string SettingsFolder() {
     return std::string{home} + "/.config/draftwick/";
 }
 
-std::error_code MakeFolders(const std::string& path) {
-    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1)) {
-        if (::mkdir(path.substr(0, end).c_str(), 0700) != 0 && errno != EEXIST) return LastError();
+/// Whether a program of that name can be started.
+bool IsProgram(const std::string& name) {
+    const char* value = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
+    std::string_view folders = value != nullptr ? value : "";
+    while (!folders.empty()) {
+        const std::string_view folder = folders.substr(0, folders.find(':'));
+        folders.remove_prefix(std::min(folder.size() + 1, folders.size()));
+        const std::string file = std::string{folder} + '/' + name;
+        struct stat status {};
+        if (!folder.empty() && ::access(file.c_str(), X_OK) == 0 && ::stat(file.c_str(), &status) == 0
+            && S_ISREG(status.st_mode))
+            return true;
     }
-    return {};
-}
-
-/// The whole file; no file reads as an empty one.
-std::error_code ReadAll(const std::string& name, std::string& bytes) {
-    const Descriptor file(name, O_RDONLY);
-    if (file < 0) return errno == ENOENT ? std::error_code{} : LastError();
-    char block[4096];
-    for (;;) {
-        const ssize_t n = ::read(file, block, sizeof block);
-        if (n == 0) return {};
-        if (n > 0) {
-            bytes.append(block, static_cast<std::size_t>(n));
-        } else if (errno != EINTR) {
-            return LastError();
-        }
-    }
-}
-
-/// Puts a file in the place of another, so that readers see the old one or the new one.
-std::error_code ReplaceFile(const std::string& name, std::string_view bytes) {
-    const std::string next = name + ".new";
-    const Descriptor file(next, O_WRONLY | O_CREAT | O_TRUNC);
-    if (file < 0) return LastError();
-    while (!bytes.empty()) {
-        const ssize_t n = ::write(file, bytes.data(), bytes.size());
-        if (n > 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(n));
-        } else if (n == 0 || errno != EINTR) {
-            return n == 0 ? Failure(std::errc::io_error) : LastError();
-        }
-    }
-    if (::fsync(file) != 0 || std::rename(next.c_str(), name.c_str()) != 0) return LastError();
-    return {};
-}
-
-std::error_code ReadUserTree(const std::string& folder, RegistryTree& tree) {
-    if (folder.empty()) return Failure(std::errc::no_such_file_or_directory);
-    std::string text;
-    if (const std::error_code error = ReadAll(folder + "registry", text)) return error;
-    return tree.Parse(text) ? std::error_code{} : Failure(std::errc::bad_message);
-}
-
-/// Changes the user's settings: reads them, lets `change` at them and writes them, with all others locked out.
-/// Nothing is written when the change fails.
-std::error_code ChangeUserTree(const std::function<std::error_code(RegistryTree&)>& change) {
-    const std::string folder = SettingsFolder();
-    if (const std::error_code error = MakeFolders(folder)) return error;
-    const Descriptor lock(folder.empty() ? folder : folder + "registry.lock", O_RDWR | O_CREAT);
-    if (lock < 0) return LastError();
-    while (::flock(lock, LOCK_EX) != 0) {
-        if (errno != EINTR) return LastError();
-    }
-    RegistryTree tree;
-    if (const std::error_code error = ReadUserTree(folder, tree)) return error;
-    const std::string before = tree.Text();
-    if (const std::error_code error = change(tree)) return error;
-    const std::string after = tree.Text();
-    if (after == before) return {};
-    return ReplaceFile(folder + "registry", "# Settings that programs leave for each other.\n" + after);
+    return false;
 }
 
 /// What a desktop has in place of a machine's registry: the program that shows documents.
-RegistryTree MachineTree() {
-    RegistryTree tree;
-    std::string command;
-    if (IsProgram("soffice")) {
-        command = "soffice --view \"%1\"";
-    } else if (IsProgram("xdg-open")) {
-        command = "xdg-open \"%1\"";
-    } else {
-        return tree;
+Tree MachineTree() {
+    Tree tree;
+    const std::string program = IsProgram("soffice")    ? "soffice --view"
+                                : IsProgram("xdg-open") ? "xdg-open"
+                                                        : "";
+    if (!program.empty()) {
+        Make(&tree, "SOFTWARE\\Classes\\Word.Document.8\\shell\\wordview\\command")->values[""] = {
+            "", RegistryType::Text, program + " \"%1\"" + std::string(1, '\0')};
     }
-    command += '\0';
-    tree.Make("SOFTWARE\\Classes\\Word.Document.8\\shell\\wordview\\command").values = {
-        {"", RegistryType::Text, command}};
     return tree;
 }
 
-/// A key holds what was there when it was opened, so that no list changes while it is read. Changes are made to what
-/// is there when they are made.
-class Key final : public RegistryKey {
-public:
-    Key(RegistryRoot root, std::string path, RegistryTree content)
-        : root_(root), path_(std::move(path)), content_(std::move(content)) {}
+/// No file is as good as an empty one.
+std::error_code LoadUserTree(Tree& tree) {
+    const std::string folder = SettingsFolder();
+    if (folder.empty()) return Failure(std::errc::no_such_file_or_directory);
+    std::error_code error;
+    if (!std::filesystem::exists(folder + "registry", error)) return error;
+    std::ifstream file(folder + "registry", std::ios::binary);
+    return file.is_open() && Read(file, tree) ? std::error_code{} : Failure(std::errc::bad_message);
+}
 
-    std::error_code QueryValue(const std::string& name, RegistryType& type, std::string& bytes) override {
-        const RegistryTree::Value* value = content_.FindValue(name);
-        if (value == nullptr) return Failure(std::errc::no_such_file_or_directory);
-        type = value->type;
-        bytes = value->bytes;
-        return {};
+/// Puts a new file in the place of the old one, at once.
+std::error_code SaveUserTree(const Tree& tree) {
+    const std::string folder = SettingsFolder();
+    for (std::size_t end = folder.find('/', 1); end != folder.npos; end = folder.find('/', end + 1)) {
+        if (::mkdir(folder.substr(0, end).c_str(), 0700) != 0 && errno != EEXIST)
+            return {errno, std::generic_category()};
     }
-
-    std::error_code SetValue(const std::string& name, RegistryType type, const char* data,
-                             std::size_t size) override {
-        std::string bytes{data, size};
-        if (type == RegistryType::Text && size > 0 && data[size - 1] != '\0' && data[size] == '\0')
-            bytes += '\0';
-        return Change([&](RegistryTree& tree) {
-            RegistryTree* key = tree.Find(path_);
-            if (key == nullptr) return Failure(std::errc::no_such_file_or_directory);
-            RegistryTree::Value* value = key->FindValue(name);
-            if (value == nullptr) value = &key->values.emplace_back(RegistryTree::Value{name, type, {}});
-            value->type = type;
-            value->bytes = bytes;
-            return std::error_code{};
-        });
-    }
-
-    std::error_code EnumerateKey(std::uint32_t index, std::string& name) override {
-        if (index >= content_.subkeys.size()) return Failure(std::errc::no_such_file_or_directory);
-        return GiveName(std::next(content_.subkeys.begin(), index)->second.name, name);
-    }
-
-    std::error_code EnumerateValue(std::uint32_t index, std::string& name) override {
-        if (index >= content_.values.size()) return Failure(std::errc::no_such_file_or_directory);
-        return GiveName(content_.values[index].name, name);
-    }
-
-    std::error_code DeleteKey(const std::string& path) override {
-        return Change([&](RegistryTree& tree) { return tree.Remove(path_ + '\\' + path); });
-    }
-
-private:
-    static std::error_code GiveName(const std::string& from, std::string& to) {
-        if (from.size() >= RegistryNameRoom) return Failure(std::errc::value_too_large);
-        to = from;
-        return {};
-    }
-
-    std::error_code Change(const std::function<std::error_code(RegistryTree&)>& change) const {
-        if (root_ != RegistryRoot::CurrentUser) return Failure(std::errc::permission_denied);
-        return ChangeUserTree(change);
-    }
-
-    RegistryRoot root_;
-    std::string path_;
-    RegistryTree content_;
-};
+    std::string next = folder + "registry.XXXXXX";
+    const int created = ::mkstemp(next.data());  // for the user alone
+    if (created < 0) return {errno, std::generic_category()};
+    ::close(created);
+    std::ofstream file(next, std::ios::binary);
+    Write(file, tree, {});
+    file.close();
+    if (file && std::rename(next.c_str(), (folder + "registry").c_str()) == 0) return {};
+    ::unlink(next.c_str());
+    return Failure(std::errc::io_error);
+}
 
 class Store final : public RegistryStore {
 public:
-    std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::string& path,
-                                      std::error_code& error) override {
-        error.clear();
-        RegistryTree tree;
-        if (root == RegistryRoot::CurrentUser) {
-            error = ReadUserTree(SettingsFolder(), tree);
-        } else {
-            tree = MachineTree();
-        }
-        if (error) return nullptr;
-        RegistryTree* key = tree.Find(path);
-        if (key == nullptr) {
-            error = Failure(std::errc::no_such_file_or_directory);
-            return nullptr;
-        }
-        return std::make_unique<Key>(root, path, std::move(*key));
+    std::error_code QueryValue(RegistryRoot root, const std::string& path, const std::string& name,
+                               RegistryType& type, std::string& bytes) override {
+        const Tree key = Open(root, path);
+        const auto found = key.values.find(FoldCase(name));
+        if (found == key.values.end()) return Failure(std::errc::no_such_file_or_directory);
+        type = found->second.type;
+        bytes = found->second.bytes;
+        return {};
     }
 
-    std::unique_ptr<RegistryKey> Create(RegistryRoot root, const std::string& path,
-                                        std::error_code& error) override {
-        if (root != RegistryRoot::CurrentUser) {
-            error = Failure(std::errc::permission_denied);
-            return nullptr;
-        }
-        if (RegistryTree::IsTooDeep(path)) {
-            error = Failure(std::errc::invalid_argument);
-            return nullptr;
-        }
-        error = ChangeUserTree([&](RegistryTree& tree) {
-            tree.Make(path);
+    std::error_code SetValue(RegistryRoot root, const std::string& path, const std::string& name,
+                             RegistryType type, std::string_view bytes) override {
+        return Change(root, [&](Tree& tree) {
+            Tree* const key = Make(&tree, path);
+            if (key == nullptr) return Failure(std::errc::invalid_argument);
+            Value& value = key->values.try_emplace(FoldCase(name), Value{name}).first->second;
+            value.type = type;
+            value.bytes = bytes;
             return std::error_code{};
         });
-        return error ? nullptr : Open(root, path, error);
+    }
+
+    std::vector<std::string> SubKeys(RegistryRoot root, const std::string& path) override {
+        return Names(Open(root, path).subkeys);
+    }
+    std::vector<std::string> ValueNames(RegistryRoot root, const std::string& path) override {
+        return Names(Open(root, path).values);
+    }
+
+    std::error_code CreateKey(RegistryRoot root, const std::string& path) override {
+        return Change(root, [&](Tree& tree) {
+            return Make(&tree, path) != nullptr ? std::error_code{} : Failure(std::errc::invalid_argument);
+        });
+    }
+
+    std::error_code DeleteKey(RegistryRoot root, const std::string& path) override {
+        return Change(root, [&](Tree& tree) { return Remove(&tree, path); });
+    }
+
+private:
+    /// The key of that path; an empty one where there is none.
+    static Tree Open(RegistryRoot root, const std::string& path) {
+        Tree tree;
+        if (root == RegistryRoot::LocalMachine) tree = MachineTree();
+        if (root == RegistryRoot::CurrentUser && LoadUserTree(tree)) return {};
+        Tree* const key = Find(&tree, path);
+        return key != nullptr ? std::move(*key) : Tree{};
+    }
+
+    /// Lets `change` at the tree. What cannot be read is left alone.
+    static std::error_code Change(RegistryRoot root, const std::function<std::error_code(Tree&)>& change) {
+        if (root != RegistryRoot::CurrentUser) return Failure(std::errc::permission_denied);
+        Tree tree;
+        std::error_code error = LoadUserTree(tree);
+        if (!error) error = change(tree);
+        return error ? error : SaveUserTree(tree);
+    }
+
+    template <class Named>
+    static std::vector<std::string> Names(const Named& named) {
+        std::vector<std::string> names;
+        for (const auto& [folded, each] : named) {
+            if (each.name.size() >= RegistryNameRoom) break;
+            names.push_back(each.name);
+        }
+        return names;
     }
 };
 
@@ -230,4 +283,4 @@ public:
 
 std::shared_ptr<RegistryStore> MakeRegistryStore() { return std::make_shared<Store>(); }
 
-}  // namespace draftwick::platform::posix
+}  // namespace draftwick::platform

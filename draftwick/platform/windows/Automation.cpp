@@ -4,9 +4,11 @@
 #include <utility>
 #include <vector>
 
-namespace draftwick::platform::windows {
+namespace draftwick::platform {
 
 namespace {
+
+using namespace windows;
 
 [[noreturn]] void Fail(HRESULT result, const std::string& what) {
     throw std::system_error(static_cast<int>(result), std::system_category(), what);
@@ -180,4 +182,4 @@ private:
 
 std::shared_ptr<Automation> MakeAutomation() { return std::make_shared<OleAutomation>(); }
 
-}  // namespace draftwick::platform::windows
+}  // namespace draftwick::platform

@@ -1,4 +1,4 @@
-#include <draftwick/platform/CodePage.h>
+#include <draftwick/platform/internal/CodePage.h>
 #include <draftwick/platform/windows/Windows.h>
 
 #include <algorithm>

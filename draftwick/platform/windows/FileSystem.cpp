@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <sddl.h>
 
-namespace draftwick::platform::windows {
+namespace draftwick::platform {
 
 namespace {
+
+using namespace windows;
 
 constexpr std::size_t LargestTransfer = std::size_t{1} << 30;
 
@@ -184,4 +186,4 @@ private:
 
 std::shared_ptr<FileSystem> MakeFileSystem() { return std::make_shared<WindowsFileSystem>(); }
 
-}  // namespace draftwick::platform::windows
+}  // namespace draftwick::platform

@@ -175,9 +175,6 @@ public:
     }
 
 private:
-    std::optional<Size> ReadJpegSize(PictureSource& source) const override {
-        return windows::ReadJpegSize(source, TwipsPerPixel());
-    }
     Loaded ReadGif(PictureSource& source) const override {
         if (source.Length() > LongestGif) return nullptr;
         std::string bytes(static_cast<std::size_t>(source.Length()), '\0');

@@ -7,9 +7,6 @@
 
 namespace draftwick::platform::windows {
 
-/// The size of a JPEG from its headers, at the density that these give or else at the screen's.
-std::optional<pictures::Size> ReadJpegSize(pictures::PictureSource& source, double twipsPerPixel);
-
 /// The pixels of a GIF's screen, and the place of the first frame on it.
 struct GifLayout {
     std::int32_t width = 0;

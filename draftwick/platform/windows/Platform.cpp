@@ -1,7 +1,5 @@
-#include <draftwick/platform/Platform.h>
+#include <draftwick/platform/internal/System.h>
 #include <draftwick/platform/windows/Windows.h>
-
-#include <atomic>
 
 namespace draftwick::platform {
 
@@ -38,7 +36,7 @@ public:
     }
 };
 
-class SystemEventLog final : public EventLog {
+class EventLogOfSystem final : public EventLog {
 public:
     void Report(std::string_view text) noexcept override try {
         const HANDLE source = ::RegisterEventSourceW(nullptr, L"Draftwick");
@@ -51,38 +49,21 @@ public:
     }
 };
 
-std::atomic<EventLog*> replacement{nullptr};
-
 }  // namespace
 
 }  // namespace windows
 
-Platform SystemPlatform() {
-    static const Platform system{
-        .files = windows::MakeFileSystem(),
-        .environment = std::make_shared<windows::WindowsEnvironment>(),
-        .pictures = SystemPictures(),
-        .registry = windows::MakeRegistryStore(),
-        .automation = windows::MakeAutomation(),
-        .programs = windows::MakePrograms(),
-    };
-    return system;
+std::shared_ptr<Environment> MakeEnvironment() { return std::make_shared<windows::WindowsEnvironment>(); }
+
+EventLog& SystemEventLog() {
+    static windows::EventLogOfSystem log;
+    return log;
 }
 
-EventLog& CurrentEventLog() {
-    static windows::SystemEventLog system;
-    EventLog* other = windows::replacement.load();
-    return other != nullptr ? *other : system;
-}
-
-void SetEventLog(EventLog* log) noexcept { windows::replacement = log; }
-
-std::string LocalTimeText(std::time_t time) {
+std::tm LocalTime(std::time_t time) {
     std::tm local{};
     ::localtime_s(&local, &time);
-    char text[32] = "";
-    std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
-    return text;
+    return local;
 }
 
 }  // namespace draftwick::platform

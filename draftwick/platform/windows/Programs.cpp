@@ -2,9 +2,11 @@
 
 #include <vector>
 
-namespace draftwick::platform::windows {
+namespace draftwick::platform {
 
 namespace {
+
+using namespace windows;
 
 constexpr DWORD LongestWait = 10000;  // milliseconds until a program must have a window
 
@@ -146,4 +148,4 @@ public:
 
 std::shared_ptr<Programs> MakePrograms() { return std::make_shared<WindowsPrograms>(); }
 
-}  // namespace draftwick::platform::windows
+}  // namespace draftwick::platform

@@ -3,9 +3,11 @@
 #include <cstring>
 #include <utility>
 
-namespace draftwick::platform::windows {
+namespace draftwick::platform {
 
 namespace {
+
+using namespace windows;
 
 std::error_code Outcome(LSTATUS status) {
     return status == ERROR_SUCCESS ? std::error_code{} : SystemError(static_cast<unsigned long>(status));
@@ -15,24 +17,38 @@ HKEY RootKey(RegistryRoot root) {
     return reinterpret_cast<HKEY>(static_cast<std::intptr_t>(static_cast<std::int32_t>(root)));
 }
 
-class Key final : public RegistryKey {
-public:
-    Key(HKEY key, RegistryRoot root, std::wstring path) : key_(key), root_(root), path_(std::move(path)) {}
-    ~Key() override { ::RegCloseKey(key_); }
+/// An open key; `status` says why it is none.
+struct Key {
+    Key(RegistryRoot root, const std::string& path, bool create)
+        : status(create ? ::RegCreateKeyExW(RootKey(root), ToWide(path).c_str(), 0, nullptr, 0, KEY_WRITE,
+                                            nullptr, &key, nullptr)
+                        : ::RegOpenKeyExW(RootKey(root), ToWide(path).c_str(), 0, KEY_READ, &key)) {}
+    ~Key() {
+        if (key != nullptr) ::RegCloseKey(key);
+    }
     Key(const Key&) = delete;
     Key& operator=(const Key&) = delete;
 
-    std::error_code QueryValue(const std::string& name, RegistryType& type, std::string& bytes) override {
+    HKEY key = nullptr;
+    LSTATUS status;
+};
+
+class Store final : public RegistryStore {
+public:
+    std::error_code QueryValue(RegistryRoot root, const std::string& path, const std::string& name,
+                               RegistryType& type, std::string& bytes) override {
+        const Key open(root, path, false);
+        if (open.status != ERROR_SUCCESS) return Outcome(open.status);
         const std::wstring wide = ToWide(name);
         DWORD kind = 0;
         DWORD size = 0;
-        LSTATUS status = ::RegQueryValueExW(key_, wide.c_str(), nullptr, &kind, nullptr, &size);
+        LSTATUS status = ::RegQueryValueExW(open.key, wide.c_str(), nullptr, &kind, nullptr, &size);
         std::string data;
         // Somebody else can make the value longer between the two questions.
         do {
             data.resize(size);
             if (status == ERROR_SUCCESS || status == ERROR_MORE_DATA)
-                status = ::RegQueryValueExW(key_, wide.c_str(), nullptr, &kind,
+                status = ::RegQueryValueExW(open.key, wide.c_str(), nullptr, &kind,
                                             reinterpret_cast<BYTE*>(data.data()), &size);
         } while (status == ERROR_MORE_DATA);
         if (status != ERROR_SUCCESS) return Outcome(status);
@@ -47,69 +63,52 @@ public:
         return {};
     }
 
-    std::error_code SetValue(const std::string& name, RegistryType type, const char* data,
-                             std::size_t size) override {
-        std::string bytes{data, size};
+    std::error_code SetValue(RegistryRoot root, const std::string& path, const std::string& name,
+                             RegistryType type, std::string_view bytes) override {
+        const Key open(root, path, true);
+        if (open.status != ERROR_SUCCESS) return Outcome(open.status);
+        std::wstring text;
         if (type == RegistryType::Text) {
-            if (size > 0 && data[size - 1] != '\0' && data[size] == '\0') bytes += '\0';
-            std::wstring text = ToWide(bytes);
-            size = text.size() * sizeof(wchar_t);
-            text += L'.';  // a zero here would be stored, too
-            bytes.assign(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t));
+            text = ToWide(bytes) + L'.';  // a zero behind the end would be stored, too
+            bytes = {reinterpret_cast<const char*>(text.data()), (text.size() - 1) * sizeof(wchar_t)};
         }
-        return Outcome(::RegSetValueExW(key_, ToWide(name).c_str(), 0, static_cast<DWORD>(type),
+        return Outcome(::RegSetValueExW(open.key, ToWide(name).c_str(), 0, static_cast<DWORD>(type),
                                         reinterpret_cast<const BYTE*>(bytes.data()),
-                                        static_cast<DWORD>(size)));
+                                        static_cast<DWORD>(bytes.size())));
     }
 
-    std::error_code EnumerateKey(std::uint32_t index, std::string& name) override {
-        wchar_t buffer[RegistryNameRoom];
-        DWORD length = RegistryNameRoom;
-        const LSTATUS status =
-            ::RegEnumKeyExW(key_, index, buffer, &length, nullptr, nullptr, nullptr, nullptr);
-        return GiveName(status, {buffer, length}, name);
+    std::vector<std::string> SubKeys(RegistryRoot root, const std::string& path) override {
+        return Names(root, path, [](HKEY key, DWORD index, wchar_t* name, DWORD* length) {
+            return ::RegEnumKeyExW(key, index, name, length, nullptr, nullptr, nullptr, nullptr);
+        });
+    }
+    std::vector<std::string> ValueNames(RegistryRoot root, const std::string& path) override {
+        return Names(root, path, [](HKEY key, DWORD index, wchar_t* name, DWORD* length) {
+            return ::RegEnumValueW(key, index, name, length, nullptr, nullptr, nullptr, nullptr);
+        });
     }
 
-    std::error_code EnumerateValue(std::uint32_t index, std::string& name) override {
-        wchar_t buffer[RegistryNameRoom];
-        DWORD length = RegistryNameRoom;
-        const LSTATUS status =
-            ::RegEnumValueW(key_, index, buffer, &length, nullptr, nullptr, nullptr, nullptr);
-        return GiveName(status, {buffer, length}, name);
+    std::error_code CreateKey(RegistryRoot root, const std::string& path) override {
+        return Outcome(Key(root, path, true).status);
     }
 
-    std::error_code DeleteKey(const std::string& path) override {
-        // A key that is open for writing need not be open for its own deletion.
-        if (path.empty()) return Outcome(::RegDeleteKeyW(RootKey(root_), path_.c_str()));
-        return Outcome(::RegDeleteKeyW(key_, ToWide(path).c_str()));
+    std::error_code DeleteKey(RegistryRoot root, const std::string& path) override {
+        return Outcome(::RegDeleteKeyW(RootKey(root), ToWide(path).c_str()));
     }
 
 private:
-    static std::error_code GiveName(LSTATUS status, std::wstring_view from, std::string& to) {
-        if (status == ERROR_SUCCESS) to = FromWide(from);
-        return Outcome(status);
-    }
-
-    HKEY key_;
-    RegistryRoot root_;
-    std::wstring path_;
-};
-
-class Store final : public RegistryStore {
-public:
-    std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::string& path,
-                                      std::error_code& error) override {
-        HKEY key = nullptr;
-        error = Outcome(::RegOpenKeyExW(RootKey(root), ToWide(path).c_str(), 0, KEY_READ, &key));
-        return error ? nullptr : std::make_unique<Key>(key, root, ToWide(path));
-    }
-
-    std::unique_ptr<RegistryKey> Create(RegistryRoot root, const std::string& path,
-                                        std::error_code& error) override {
-        HKEY key = nullptr;
-        error = Outcome(::RegCreateKeyExW(RootKey(root), ToWide(path).c_str(), 0, nullptr, 0, KEY_WRITE,
-                                          nullptr, &key, nullptr));
-        return error ? nullptr : std::make_unique<Key>(key, root, ToWide(path));
+    template <class Enumerate>
+    static std::vector<std::string> Names(RegistryRoot root, const std::string& path, Enumerate enumerate) {
+        const Key open(root, path, false);
+        std::vector<std::string> names;
+        wchar_t name[RegistryNameRoom];
+        for (DWORD length = RegistryNameRoom;
+             open.status == ERROR_SUCCESS
+             && enumerate(open.key, static_cast<DWORD>(names.size()), name, &length) == ERROR_SUCCESS;
+             length = RegistryNameRoom) {
+            names.push_back(FromWide({name, length}));
+        }
+        return names;
     }
 };
 
@@ -117,4 +116,4 @@ public:
 
 std::shared_ptr<RegistryStore> MakeRegistryStore() { return std::make_shared<Store>(); }
 
-}  // namespace draftwick::platform::windows
+}  // namespace draftwick::platform

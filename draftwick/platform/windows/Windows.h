@@ -2,10 +2,7 @@
 
 // What the parts for Windows share. Names and texts are UTF-8 outside and UTF-16 inside.
 
-#include <draftwick/platform/Automation.h>
-#include <draftwick/platform/FileSystem.h>
-#include <draftwick/platform/Programs.h>
-#include <draftwick/platform/RegistryStore.h>
+#include <draftwick/platform/internal/System.h>
 
 #include <memory>
 #include <string>
@@ -23,11 +20,6 @@
 #include <objbase.h>
 
 namespace draftwick::platform::windows {
-
-std::shared_ptr<FileSystem> MakeFileSystem();
-std::shared_ptr<RegistryStore> MakeRegistryStore();
-std::shared_ptr<Automation> MakeAutomation();
-std::shared_ptr<Programs> MakePrograms();
 
 /// What is not UTF-8, or not UTF-16, becomes U+FFFD.
 std::wstring ToWide(std::string_view text);

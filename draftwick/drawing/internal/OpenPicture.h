@@ -1,0 +1,44 @@
+#pragma once
+
+#include <draftwick/base/internal/Names.h>
+#include <draftwick/platform/Platform.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace draftwick::detail {
+
+/// A picture that was found, understood, converted if it must be, and read: everything that can fail before a byte of
+/// it is written.
+class OpenPicture {
+public:
+    /// dwErrPictureFileNotFound when there is no such file, dwErrUnsupportedFileType for a name without one of the
+    /// known extensions, error 481 when the content is not what the name says; std::system_error.
+    OpenPicture(const platform::Platform& platform, const std::string& fileName);
+
+    struct Scale {
+        std::int32_t x = 100;  ///< percent
+        std::int32_t y = 100;
+    };
+    /// What makes the picture as large as that, in twips; nothing unless both are above 0. Error 11 when the picture
+    /// itself has no size, error 6 when the percentage does not fit 32 bits.
+    std::optional<Scale> ScaleTo(std::int32_t width, std::int32_t height) const;
+
+    platform::PictureKind Kind() const noexcept { return kind_; }
+    /// The bytes of the picture's file, or of what it was converted to.
+    const std::vector<unsigned char>& Bytes() const noexcept { return bytes_; }
+
+private:
+    void Convert(const platform::Platform& platform, const platform::Picture& picture);
+    void Read(platform::FileSystem& files, const std::string& name);
+
+    platform::PictureKind kind_{};
+    std::int32_t width_ = 0;  // HIMETRIC
+    std::int32_t height_ = 0;
+    std::vector<unsigned char> bytes_;
+};
+
+}  // namespace draftwick::detail
