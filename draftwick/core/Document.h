@@ -31,9 +31,10 @@ class TextStyles;
 /// as its next sibling arrives; Finish puts the tables of fonts, colours, styles and lists in front. The first
 /// section writes the document's own settings: from then on its setters refuse ("Document"), except ScaleMode.
 ///
-/// The host's reference keeps the document alive; once it is let go, everything that belonged to it refuses with
-/// error 91. A document that is let go without Finish leaves its temporary file behind, with the lines that were
-/// written so far. One document is for one thread; different documents can be used in different threads at the same time.
+/// The host's reference keeps the document alive; once it is let go, everything that belonged to it refuses
+/// with error 91. A document that is let go without Finish leaves its temporary file behind, with the lines
+/// that were written so far. One document is for one thread; different documents can be used in different
+/// threads at the same time.
 class DRAFTWICK_API Document final : public detail::Content {
 public:
     /// A new document with the system's services.

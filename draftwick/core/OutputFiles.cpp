@@ -43,7 +43,7 @@ std::string FolderOf(platform::FileSystem& files, const std::string& name) {
     return end == full.npos ? "." : full.substr(0, end);
 }
 
-/// The file that is going to be `name`, under a temporary name in its folder. The host knows no other name than its own.
+/// A file that is going to be `name`, in its folder. The host knows its own name only, so failures have that.
 UniqueFile CreateTemporary(platform::FileSystem& files, const std::string& folder, const std::string& name) {
     try {
         return CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);

@@ -107,17 +107,20 @@ DRAFTWICK_API std::span<const ClassProperty> CommonProperties();
 /// The value of a property. dwErrItemNotFound ("Section.MarginTop") when the class has no such property, error 5
 /// when it cannot be read and for too few or too many arguments.
 DRAFTWICK_API Variant Get(Object& object, std::string_view property, std::span<const Variant> arguments);
+/// The same with the arguments in braces.
 DRAFTWICK_API Variant Get(Object& object, std::string_view property,
                           std::initializer_list<Variant> arguments = {});
 /// Sets a property. As Get; error 13 when the value is of the wrong kind; and what the property itself refuses.
 DRAFTWICK_API void Set(Object& object, std::string_view property, const Variant& value,
                        std::span<const Variant> arguments);
+/// The same with the arguments in braces.
 DRAFTWICK_API void Set(Object& object, std::string_view property, const Variant& value,
                        std::initializer_list<Variant> arguments = {});
 /// Calls a method. Arguments with a default can be left out at the end; error 5 for too few or too many.
 /// dwErrItemNotFound ("Section.AddCell") when the class has no such method; error 13 as in Set; and what the method
 /// itself refuses. A property with arguments can be called, too: "AdjustValues" and "SetAdjustValues".
 DRAFTWICK_API Variant Call(Object& object, std::string_view method, std::span<const Variant> arguments);
+/// The same with the arguments in braces.
 DRAFTWICK_API Variant Call(Object& object, std::string_view method,
                            std::initializer_list<Variant> arguments = {});
 

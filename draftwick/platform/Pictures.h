@@ -89,8 +89,8 @@ public:
     virtual void Record(const Picture& picture, std::int32_t width, std::int32_t height, FileSystem& files,
                         const std::string& name, std::error_code& error) = 0;
 
-    /// How many twips (1/1440 inch) a pixel of the screen is wide, not always a whole number of them; the same figure
-    /// serves for its height.
+    /// How many twips (1/1440 inch) a pixel of the screen is wide, not always a whole number of them; the
+    /// same figure serves for its height.
     virtual double TwipsPerPixel() const = 0;
 };
 

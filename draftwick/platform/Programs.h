@@ -32,8 +32,9 @@ public:
     /// Sends keystrokes to the window in front, without waiting: "^p" is Ctrl+P, "~" is Enter.
     virtual void SendKeys(const std::string& keys) = 0;
 
-    /// The program of a command line for Start: `start`, a folder with its separator, and behind it the name of the first
-    /// file that `start` and "*.exe" match. Without such a file it is `start` alone, which cannot be started.
+    /// The program of a command line for Start: `start`, a folder with its separator, and behind it the name
+    /// of the first file that `start` and "*.exe" match. Without such a file it is `start` alone, which
+    /// cannot be started.
     virtual std::string FirstProgram(const std::string& start) = 0;
 };
 

@@ -23,14 +23,15 @@ enum class RegistryType : std::uint32_t {
 /// How long a name can be to be listed, in characters, with a terminating zero.
 inline constexpr std::size_t RegistryNameRoom = 255;
 
-/// Settings that programs leave for each other: keys in a tree, joined by backslashes to paths, that hold named values.
-/// Names are UTF-8 and told apart without regard to case; the empty name is a key's default value. An operation that
-/// fails gives the system's result code and changes nothing; a key or value that is not there is
-/// std::errc::no_such_file_or_directory.
+/// Settings that programs leave for each other: keys in a tree, joined by backslashes to paths, that hold
+/// named values. Names are UTF-8 and told apart without regard to case; the empty name is a key's default
+/// value. An operation that fails gives the system's result code and changes nothing; a key or value that is
+/// not there is std::errc::no_such_file_or_directory.
 ///
-/// The registry on Windows. On POSIX the user's are a text file, draftwick/registry in the folder for settings
-/// (XDG_CONFIG_HOME, ~/.config), which each change replaces as a whole; of changes at the same moment the last one is
-/// kept. The machine's cannot be changed: they name the desktop's program for documents.
+/// The registry on Windows. On POSIX the user's are a text file, draftwick/registry in the folder for
+/// settings (XDG_CONFIG_HOME, ~/.config), which each change replaces as a whole; of changes at the same
+/// moment the last one is kept. The machine's cannot be changed: they name the desktop's program for
+/// documents.
 class DRAFTWICK_API RegistryStore {
 public:
     virtual ~RegistryStore() = default;

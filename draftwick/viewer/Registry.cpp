@@ -54,8 +54,8 @@ Registry::Value Registry::QueryValue(std::string_view section, std::string_view 
     std::string bytes;
     if (store_.QueryValue(root_, KeyPath(section), std::string{key}, type, bytes)) return {};
     if (type == RegistryType::Text) {
-        // The last character is taken to be the terminating zero, whatever it is, and all its bytes; what stands behind
-        // an earlier zero is no text.
+        // The last character is taken to be the terminating zero, whatever it is, and all its bytes; what
+        // stands behind an earlier zero is no text.
         while (!bytes.empty() && (static_cast<unsigned char>(bytes.back()) & 0xC0) == 0x80) bytes.pop_back();
         if (!bytes.empty()) bytes.pop_back();
         return bytes.substr(0, bytes.find('\0'));

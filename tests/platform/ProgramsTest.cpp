@@ -28,7 +28,7 @@ TEST_F(Recorder, MustBeThere) {
     }
 }
 
-// From Preview to the program, with the user's real settings: the first program of the folder that these name.
+// From Preview to the first program of the folder that the user's real settings name.
 TEST_F(Recorder, IsFoundThroughTheRegistry) {
     const EnvironmentValue configuration{"XDG_CONFIG_HOME", folder.Path()};
     const EnvironmentValue path{"PATH", folder.Path()};

@@ -17,8 +17,8 @@ namespace draftwick::test {
 
 using Words = std::vector<std::string>;
 
-/// The name of a program that writes the words it is started with, each with a zero behind it, to a file that is named
-/// like its task in the folder DRAFTWICK_RECORDS. It is in the folder, or beside the tests.
+/// The name of a program that writes the words it is started with, each with a zero behind it, to a file that
+/// is named like its task in the folder DRAFTWICK_RECORDS. It is in the folder, or beside the tests.
 std::string RecorderIn(const TempFolder& folder);
 
 class Recorder : public testing::Test {

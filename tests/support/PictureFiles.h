@@ -19,7 +19,7 @@ struct Image {
 /// The bytes of a file of tests/pictures. It has the colours of Coloured.
 std::string PictureFile(const std::string& name);
 
-/// Black, red, green, blue, yellow, magenta, cyan and white by their digits from 0 on, a blank after each row.
+/// Black, red, green, blue, yellow, magenta, cyan and white by their digits from 0 on; rows end at blanks.
 Image Coloured(std::string_view digits);
 /// What the files in tests/pictures/sample show.
 inline const Image sample = Coloured("01234 55567 76500");

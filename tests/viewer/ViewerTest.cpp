@@ -149,7 +149,8 @@ TEST_F(Viewers, AreFoundWhereTheyLeaveATrace) {
     EXPECT_EQ(desktop->TakeLog(), R"(start /mnt/ "%1" of /docs/a.rtf)");
 }
 
-// It stays the same file when the current folder changes afterwards, and the temporary one is found while it is written.
+// It stays the same file when the current folder changes afterwards, and the temporary one is found while it
+// is written.
 TEST_F(Viewers, GetTheFileThatWasFinished) {
     const TempFolder there, elsewhere;
     InstallViewer();

@@ -15,7 +15,7 @@ class Session;
 class OutputFiles {
 public:
     OutputFiles() = default;
-    /// Closes the body file of a document that was let go, with the lines that were written so far. Nothing fails.
+    /// Closes the body file of a document that was let go, with the lines that it had written. Nothing fails.
     ~OutputFiles();
     OutputFiles(const OutputFiles&) = delete;
     OutputFiles& operator=(const OutputFiles&) = delete;

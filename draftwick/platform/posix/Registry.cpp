@@ -77,9 +77,9 @@ std::error_code Remove(Tree* tree, std::string_view path) {
     return {};
 }
 
-// The user's tree as text: the values of the root, then a line for each key, its path, with the values of the key. A
-// value is a line of a tab, its name, a tab, its type, a tab and its bytes. What is not printable ASCII is %HH, and so
-// is the percent sign.
+// The user's tree as text: the values of the root, then a line for each key, its path, with the values of the
+// key. A value is a line of a tab, its name, a tab, its type, a tab and its bytes. What is not printable
+// ASCII is %HH, and so is the percent sign.
 
 std::string Escaped(std::string_view plain) {
     std::string text;

@@ -10,9 +10,9 @@
 
 namespace draftwick {
 
-/// Reads and writes the values under one key of the system's settings, or in a section (a subkey) of it. No key stays
-/// open between two operations. Nothing here fails: what cannot be read is the
-/// caller's default, what cannot be written is not written.
+/// Reads and writes the values under one key of the system's settings, or in a section (a subkey) of it. No
+/// key stays open between two operations. Nothing here fails: what cannot be read is the caller's default,
+/// what cannot be written is not written.
 class Registry {
 public:
     explicit Registry(platform::RegistryStore& store) : store_(store) {}
