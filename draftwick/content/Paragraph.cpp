@@ -62,6 +62,7 @@ void Paragraph::CheckCanAddShape() const {
 
 void Paragraph::CheckCanAddPicture() const {
     CheckCanAddShape();
+    if (Session().settings.spelling == dwSpellingStandard) return;
     RaiseRuntimeError(
         dwRunInvalidCall, "the classic spelling has no pictures in the line",
         "Paragraph.AddPicture: readers show the data of such a picture as text; set Document.Spelling "
@@ -70,21 +71,18 @@ void Paragraph::CheckCanAddPicture() const {
 
 std::shared_ptr<Shape> Paragraph::AddPicture(std::string_view file, Measure width, Measure height) {
     CheckCanAddPicture();
-    const auto& session = Session();
-    return AddInLine(std::make_shared<const OpenPicture>(session.platform, std::string{file},
-                                                         session.settings.bodyInMemory),
-                     file, width, height);
+    return AddInLine(std::make_shared<const OpenPicture>(Session(), std::string{file}), file, width, height);
 }
 
 std::shared_ptr<Shape> Paragraph::AddPictureData(std::string_view bytes, Measure width, Measure height) {
     CheckCanAddPicture();
-    return AddInLine(OpenPicture::FromBytes(Session().platform, bytes), {}, width, height);
+    return AddInLine(OpenPicture::FromBytes(Session(), bytes), {}, width, height);
 }
 
 std::shared_ptr<Shape> Paragraph::AddInLine(std::shared_ptr<const OpenPicture> picture, std::string_view file,
                                             Measure width, Measure height) {
     const dwScaleMode scale = Session().settings.scaleMode;
-    const std::int32_t ownWidth = picture->Width(), ownHeight = picture->Height();
+    const auto [ownWidth, ownHeight] = picture->SizeOr({0, 0});
     Length wide{0}, high{0};
     wide.Set(width, scale);
     high.Set(height, scale);

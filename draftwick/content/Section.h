@@ -77,7 +77,7 @@ public:
     void SetPageWidth(Measure length) { Change(values_.page.pageWidth, length); }
     double PageHeight() const { return Read(values_.page.pageHeight); }
     void SetPageHeight(Measure length) { Change(values_.page.pageHeight, length); }
-    /// Room for binding, on the inner side of the page.
+    /// Room for binding, on the inner side of the page. Default: the document's when the section was added.
     double Gutter() const { return Read(values_.page.gutter); }
     void SetGutter(Measure length) { Change(values_.page.gutter, length); }
 
@@ -86,7 +86,7 @@ public:
     /// dwPaperOther.
     dwPaperSize PaperSize() const { return values_.page.Paper(); }
     void SetPaperSize(dwPaperSize paper);
-    /// A change swaps PageWidth and PageHeight.
+    /// A change swaps PageWidth and PageHeight. Default: the document's when the section was added.
     dwOrientation Orientation() const { return values_.orientation; }
     void SetOrientation(dwOrientation orientation);
 

@@ -134,6 +134,7 @@ std::int32_t Document::LostCharacters() const {
 
 void Document::WriteStart() {
     files_->OpenBody(Session());
+    if (settings_.spelling == dwSpellingStandard) Writer().UseStandardSpelling();
     WriteDocumentFormatting(Writer(), settings_);
 }
 
@@ -222,6 +223,7 @@ const Class& Document::Describe() {
             PropertyOf<&D::DiscardOnRelease, &D::SetDiscardOnRelease, &V::discardOnRelease>(
                 "DiscardOnRelease"),
             PropertyOf<&D::ScaleMode, &D::SetScaleMode, &V::scaleMode>("ScaleMode"),
+            PropertyOf<&D::Spelling, &D::SetSpelling, &V::spelling>("Spelling"),
             PropertyOf<&D::MarginTop, &D::SetMarginTop, &P::marginTop>("MarginTop"),
             PropertyOf<&D::MarginLeft, &D::SetMarginLeft, &P::marginLeft>("MarginLeft"),
             PropertyOf<&D::MarginRight, &D::SetMarginRight, &P::marginRight>("MarginRight"),

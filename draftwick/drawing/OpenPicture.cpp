@@ -2,10 +2,14 @@
 #include <draftwick/base/Units.h>
 #include <draftwick/base/internal/Required.h>
 #include <draftwick/drawing/internal/OpenPicture.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/rtf/BlockWriter.h>
 #include <draftwick/rtf/FileInMemory.h>
 #include <draftwick/rtf/UniqueFile.h>
 
+#include <algorithm>
+#include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace draftwick {
@@ -14,13 +18,65 @@ namespace {
 
 using platform::PictureKind;
 
-std::int32_t Percent(std::int32_t twips, std::int32_t himetric) {
+bool IsStandard(const Session& session) { return session.settings.spelling == dwSpellingStandard; }
+
+std::int32_t PercentOf(std::int32_t twips, std::int32_t himetric) {
     if (himetric == 0) RaiseRuntimeError(dwRunDivisionByZero, "the picture has no size that could be scaled");
     return RoundDown(static_cast<double>(TwipsToHimetric(twips)) / himetric * 100);
 }
 
-/// What a file holds according to the end of its name, in small letters; nothing when no picture has such a name.
-std::optional<PictureKind> PictureTypeFromName(std::string_view fileName) {
+std::int32_t HimetricToTwips(std::int32_t himetric) {
+    return static_cast<std::int32_t>(std::min(std::lround(himetric * 1440.0 / 2540), 0x7FFFFFFFL));
+}
+
+bool StartsWith(std::string_view head, std::string_view signature, std::size_t at = 0) {
+    return head.size() >= at && head.substr(at).starts_with(signature);
+}
+
+/// What bytes are according to the first of them; nothing for a metafile without a size, which has no signature.
+std::optional<PictureKind> PictureTypeFromHead(std::string_view head) {
+    if (StartsWith(head, "\xFF\xD8\xFF")) return PictureKind::Jpeg;
+    if (StartsWith(head, "\x89PNG\r\n\x1A\n")) return PictureKind::Png;
+    if (StartsWith(head, "GIF8")) return PictureKind::Gif;
+    if (StartsWith(head, "BM")) return PictureKind::Bmp;
+    if (StartsWith(head, std::string_view{"\x01\0\0\0", 4}) && StartsWith(head, " EMF", 40))
+        return PictureKind::Emf;
+    if (IsPlaceable({reinterpret_cast<const unsigned char*>(head.data()), head.size()}))
+        return PictureKind::Wmf;
+    return {};
+}
+
+std::optional<PictureKind> PictureTypeFromContent(platform::FileSystem& files, const std::string& fileName) {
+    std::error_code error;
+    const auto file = files.OpenForReading(fileName, error);
+    char bytes[44];
+    std::size_t size = 0;
+    while (file != nullptr && !error && size < sizeof bytes) {
+        const std::size_t more = file->Read(bytes + size, sizeof bytes - size, error);
+        if (more == 0) break;
+        size += more;
+    }
+    return PictureTypeFromHead({bytes, error ? 0 : size});
+}
+
+/// What bytes without a name are. Metafiles without a size begin with their type, in memory or on disk, and the length
+/// of their header.
+std::optional<PictureKind> PictureTypeFromBytes(std::string_view bytes, bool standard) {
+    for (const char type : {'\1', '\2'}) {
+        if (StartsWith(bytes, std::string{type, '\0', '\x09', '\0'})) return PictureKind::Wmf;
+    }
+    const std::optional<PictureKind> kind = PictureTypeFromHead(bytes);
+    return kind == PictureKind::Png && !standard ? std::nullopt : kind;
+}
+
+/// What a file holds according to the end of its name; nothing when no picture has such a name. Classic knows small
+/// letters alone, and no PNG.
+std::optional<PictureKind> PictureTypeFromName(std::string fileName, bool standard) {
+    if (standard) {
+        std::transform(fileName.begin(), fileName.end(), fileName.begin(),
+                       [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+        if (fileName.ends_with(".png")) return PictureKind::Png;
+    }
     static constexpr std::pair<std::string_view, PictureKind> Endings[] = {
         {".jpg", PictureKind::Jpeg}, {".jpeg", PictureKind::Jpeg}, {".bmp", PictureKind::Bmp},
         {".emf", PictureKind::Emf},  {".wmf", PictureKind::Wmf},   {".gif", PictureKind::Gif},
@@ -31,53 +87,35 @@ std::optional<PictureKind> PictureTypeFromName(std::string_view fileName) {
     return {};
 }
 
-/// What bytes hold according to the first of them; nothing when no picture begins so.
-std::optional<PictureKind> PictureTypeFromBytes(std::string_view bytes) {
-    using namespace std::string_view_literals;
-    static constexpr std::pair<std::string_view, PictureKind> Beginnings[] = {
-        {"\xFF\xD8\xFF"sv, PictureKind::Jpeg},
-        {"GIF8"sv, PictureKind::Gif},
-        {"BM"sv, PictureKind::Bmp},
-        {"\xD7\xCD\xC6\x9A"sv, PictureKind::Wmf},
-        {"\1\0\x09\0"sv, PictureKind::Wmf},
-        {"\2\0\x09\0"sv, PictureKind::Wmf},
-    };
-    for (const auto& [beginning, kind] : Beginnings) {
-        if (bytes.starts_with(beginning)) return kind;
-    }
-    constexpr std::size_t EmfSignature = 40;
-    if (bytes.size() > EmfSignature && bytes.substr(EmfSignature).starts_with(" EMF"))
-        return PictureKind::Emf;
-    return {};
-}
-
-std::int32_t HimetricToTwips(std::int32_t himetric) { return RoundHalfEven(himetric * 1440.0 / 2540); }
-
 }  // namespace
 
-OpenPicture::OpenPicture(const platform::Platform& platform, const std::string& fileName, bool inMemory) {
-    platform::FileSystem& files = Required(platform.files, "files");
-    if (!files.Exists(fileName)) RaiseError(dwErrPictureFileNotFound, {fileName});
-    const std::optional<PictureKind> kind = PictureTypeFromName(fileName);
-    if (!kind) RaiseError(dwErrUnsupportedFileType, {fileName});
-    kind_ = *kind;
-    Load(platform, files, fileName, inMemory);
+bool detail::IsPlaceable(std::span<const unsigned char> bytes) {
+    static constexpr unsigned char Key[] = {0xD7, 0xCD, 0xC6, 0x9A};
+    return bytes.size() >= sizeof Key && std::equal(std::begin(Key), std::end(Key), bytes.begin());
 }
 
-std::shared_ptr<const OpenPicture> OpenPicture::FromBytes(const platform::Platform& platform,
-                                                          std::string_view bytes) {
+OpenPicture::OpenPicture(const Session& session, const std::string& fileName) {
+    platform::FileSystem& files = Required(session.platform.files, "files");
+    if (!files.Exists(fileName)) RaiseError(dwErrPictureFileNotFound, {fileName});
+    const bool standard = IsStandard(session);
+    std::optional<PictureKind> kind;
+    if (standard) kind = PictureTypeFromContent(files, fileName);
+    if (!kind) kind = PictureTypeFromName(fileName, standard);
+    if (!kind) RaiseError(dwErrUnsupportedFileType, {fileName});
+    kind_ = *kind;
+    Load(session.platform, files, fileName, session.settings.bodyInMemory);
+}
+
+std::shared_ptr<const OpenPicture> OpenPicture::FromBytes(const Session& session, std::string_view bytes) {
     const std::string name = "(bytes)";
-    const std::optional<PictureKind> kind = PictureTypeFromBytes(bytes);
+    const std::optional<PictureKind> kind = PictureTypeFromBytes(bytes, IsStandard(session));
     if (!kind) RaiseError(dwErrUnsupportedFileType, {name});
     const std::shared_ptr<OpenPicture> picture(new OpenPicture);
     picture->kind_ = *kind;
     FileInMemory file{std::string{bytes}};
-    picture->Load(platform, file, name, true);
+    picture->Load(session.platform, file, name, true);
     return picture;
 }
-
-std::int32_t OpenPicture::Width() const { return HimetricToTwips(width_); }
-std::int32_t OpenPicture::Height() const { return HimetricToTwips(height_); }
 
 void OpenPicture::Load(const platform::Platform& platform, platform::FileSystem& files,
                        const std::string& name, bool inMemory) {
@@ -145,9 +183,14 @@ void OpenPicture::Read(platform::FileSystem& files, const std::string& name) {
     if (error) RaiseFileError(error, "read", name);
 }
 
+PictureSize OpenPicture::SizeOr(const PictureSize& other) const noexcept {
+    if (width_ == 0 || height_ == 0) return other;
+    return {HimetricToTwips(width_), HimetricToTwips(height_)};
+}
+
 std::optional<OpenPicture::Scale> OpenPicture::ScaleTo(std::int32_t width, std::int32_t height) const {
     if (width <= 0 || height <= 0) return {};
-    return Scale{Percent(width, width_), Percent(height, height_)};
+    return Scale{PercentOf(width, width_), PercentOf(height, height_)};
 }
 
 }  // namespace draftwick

@@ -21,7 +21,7 @@ void ShapeFill::SetPicture(std::string_view fileName) {
 
 void ShapeFill::SetPictureData(std::string_view bytes) {
     OpenForChange();
-    values_.pictureData = bytes.empty() ? nullptr : OpenPicture::FromBytes(Session().platform, bytes);
+    values_.pictureData = bytes.empty() ? nullptr : OpenPicture::FromBytes(Session(), bytes);
     values_.picture.clear();
 }
 

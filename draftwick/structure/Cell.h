@@ -6,6 +6,10 @@
 
 namespace draftwick {
 
+namespace detail {
+struct CellSettings;
+}  // namespace detail
+
 /// Which cells are one to the reader (RTF \clmgf and its siblings).
 enum dwCellMerge : std::int32_t {
     dwMergeNone = 1,
@@ -71,6 +75,7 @@ private:
     friend class Table;
 
     void BeginLike(const Cell& other);
+    detail::CellSettings Settings() const;
 
     Values values_;
     detail::Lazy<draftwick::Background> background_;
