@@ -66,12 +66,15 @@ std::shared_ptr<draftwick::Properties> Document::Properties() const { return col
 
 std::shared_ptr<Section> Document::AddSection() {
     // Once the file's last brace is written nothing can follow it, even if Finish failed after that.
-    if (files_->Ended()) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
+    if (files_->Ended()) {
+        RaiseError(dwErrTargetEmitted, {std::string{Description().name}},
+                   "Document.AddSection: Finish has ended the text already; call it again");
+    }
     return Add(currentSection_);
 }
 
 void Document::Finish() {
-    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    CheckNotDelivering();
     Close();
 }
 
@@ -98,10 +101,16 @@ void Document::FinishTo(const Sink& sink) {
     FinishInto({.write = sink, .end = {}});
 }
 
+void Document::CheckNotDelivering(const char* method) const {
+    if (sink_ == nullptr) return;
+    RaiseError(dwErrTargetEmitted, {"Document"},
+               std::string{"Document."} + method + ": FinishTo is at work; call it after that has returned");
+}
+
 void Document::FinishInto(const detail::Sink& sink) {
     Session();
     CheckNotFinished();
-    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    CheckNotDelivering();
     const auto self = Self();  // the sink may let the document go
     struct Scope {
         const detail::Sink*& sink;
@@ -113,7 +122,7 @@ void Document::FinishInto(const detail::Sink& sink) {
 void Document::Discard() {
     detail::Session& session = *SharedSession();
     if (Finished() || session.discarded) return;
-    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    CheckNotDelivering();
     session.discarded = true;
     session.writer.output.SetStream(nullptr);
     const std::error_code error = files_->Discard();
@@ -182,8 +191,8 @@ void Document::SetOrientation(dwOrientation orientation) {
 }
 
 /// File names are the system's bytes, not necessarily UTF-8.
-void Document::SetPath(std::string& field, std::string_view path) {
-    OpenForChange();
+void Document::SetPath(std::string& field, std::string_view path, const char* setter) {
+    OpenForChange(setter);
     field = path;
 }
 

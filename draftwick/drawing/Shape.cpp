@@ -37,7 +37,7 @@ void Shape::SetAdjustValues(std::int32_t index, std::int32_t value) {
 }
 
 void Shape::Remove() {
-    Session();
+    OpenForChange();
     Withdraw();
     const auto self = Self();
     Holder().currentShape_.reset();

@@ -28,7 +28,8 @@ Variant AutomationObject::Receive(const platform::AutomationValue& value) const 
 namespace {
 
 [[noreturn]] void RaiseCannotSend() {
-    RaiseRuntimeError(dwRunTypeMismatch, "this cannot be sent to another program");
+    RaiseRuntimeError(dwRunTypeMismatch, "this cannot be sent to another program",
+                      "give a Boolean, a number, a text or an AutomationObject");
 }
 
 }  // namespace
