@@ -6,6 +6,9 @@
 
 namespace draftwick {
 
+std::shared_ptr<draftwick::Background> Cell::Background() { return Share(background_.Get(AsOwner())); }
+std::shared_ptr<CellBorders> Cell::Borders() { return Share(borders_.Get(AsOwner())); }
+
 void Cell::WriteStart() { EmitCellDefinition(Writer(), values_, background_.Find(), borders_.Find()); }
 void Cell::WriteEnd() { EmitCellEnd(Writer(), CurrentParagraph() == nullptr); }
 void Cell::WriteParagraphMark() { EmitCellParagraphMark(Writer()); }

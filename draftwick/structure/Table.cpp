@@ -4,6 +4,9 @@
 
 namespace draftwick {
 
+std::shared_ptr<TableBorders> Table::Borders() { return Share(borders_.Get(AsOwner())); }
+std::shared_ptr<draftwick::Frame> Table::Frame() { return Share(frame_.Get(AsOwner())); }
+
 std::shared_ptr<Cell> Table::AddCell() { return Add(currentCell_); }
 
 void Table::WriteStart() {
