@@ -9,7 +9,11 @@ namespace draftwick {
 std::shared_ptr<draftwick::Background> Cell::Background() { return Share(background_.Get(AsOwner())); }
 std::shared_ptr<CellBorders> Cell::Borders() { return Share(borders_.Get(AsOwner())); }
 
-void Cell::WriteStart() { EmitCellDefinition(Writer(), values_, background_.Find(), borders_.Find()); }
+CellSettings Cell::Settings() const {
+    return {.values = values_, .background = background_.Find(), .borders = borders_.Find()};
+}
+
+void Cell::WriteStart() { EmitCellStart(Writer(), Settings()); }
 void Cell::WriteEnd() { EmitCellEnd(Writer(), CurrentParagraph() == nullptr); }
 void Cell::WriteParagraphMark() { EmitCellParagraphMark(Writer()); }
 void Cell::WriteParagraphPlace(const Frame*) { EmitCellParagraphPlace(Writer(), Holder().frame_.Find()); }

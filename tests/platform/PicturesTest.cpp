@@ -104,6 +104,7 @@ TEST(Pictures, UnreadableOnes) {
     const std::string runs = PictureFile("sample/rle8.bmp"), fields = PictureFile("sample/16-565.bmp");
     const std::pair<PictureKind, std::string> cases[] = {
         {PictureKind::Emf, emf.substr(0, 87)},
+        {PictureKind::Emf, Patched(emf, 40, " WMF")},
         {PictureKind::Emf, MakeEmf(INT32_MIN, 0, INT32_MAX, 9)},
         {PictureKind::Emf, MakeEmf(9, 0, 0, 9)},
         {PictureKind::Bmp, Patched(bmp, 14, Le32(0xFFFFFFFF))},  // size of the header

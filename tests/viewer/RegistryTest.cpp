@@ -102,6 +102,8 @@ TEST_F(Settings, GiveTheDefaultForWhatIsNotThereOrOfAnotherType) {
     EXPECT_EQ(registry.ReadString("Section", "Name", "other"), "other");
     registry.WriteString("Section", "Other", "x");
     EXPECT_EQ(registry.ReadString("Section", "Name", "other"), "other");
+    registry.WriteLong("Section", "other", 7);
+    EXPECT_EQ(registry.ReadString("Section", "Other", "other"), "7");
     Store("Binary", static_cast<RegistryType>(3), "12\0"s);
     EXPECT_EQ(registry.ReadString("", "Binary", "other"), "other");
     EXPECT_EQ(registry.ReadLong("", "Binary", 7), 7);
@@ -140,6 +142,7 @@ TEST_F(Settings, ListAndDeleteWhatTheyHold) {
     EXPECT_EQ(registry.ReadAllSubKeys("Section"), (Names{"a", "b", "C"}));
     EXPECT_EQ(registry.ReadAllSubKeys("SECTION\\B"), Names{"deep"});
     EXPECT_EQ(registry.ReadAllSubKeys("Section\\a"), Names{});
+    registry.WriteLong("Section\\a", std::string(255, 'z'), 1);  // its name is too long to be listed
     EXPECT_EQ(registry.ReadAllValueNames("Section\\a"), (Names{"Second", "Third \xE2\x82\xAC"}));
     // A key with subkeys does not go by itself.
     EXPECT_EQ(store->DeleteKey(registry.Root(), registry.Path() + "\\Section"), std::errc::permission_denied);

@@ -100,6 +100,7 @@ TEST_F(Viewers, ThatAreAskedForByNameMustWork) {
     EXPECT_EQ(RefusalOf(dwViewerWord2000), "429 There is no message for this error");
     EXPECT_EQ(RefusalOf(dwViewerWordView97), "X106 No viewer program could be found.");
     InstallViewer();
+    document->Preview(dwViewerWordView97);
     desktop->startFails = true;
     EXPECT_THROW(document->Preview(dwViewerWordView97), std::system_error);
     EXPECT_EQ(document->ViewerTaskID(), 0);

@@ -1,4 +1,5 @@
 #include "tests/support/Documents.h"
+#include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
 
 #include <set>
@@ -52,12 +53,23 @@ TEST(OutputFile, ReplacesFilesAndLinksAndWritesToEverythingElse) {
     reader.join();
     EXPECT_EQ(CheckFile(received), "");
     EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+    ASSERT_EQ(::symlink((folder / "nowhere").c_str(), (folder / "loose.rtf").c_str()), 0);
+    Write(folder, folder / "loose.rtf", "d");
+    EXPECT_EQ(CheckFile(ReadFile(folder / "nowhere")), "");
     const std::string full = FullDevice(folder);
     EXPECT_THROW(Write(folder, full, "d"), std::system_error);
     EXPECT_THROW(Write(folder, folder.Path(), "d"), std::system_error);
     EXPECT_THROW(Write(folder, old + std::string(1, '\0') + ".rtf", "d"), std::system_error);
     EXPECT_TRUE(std::filesystem::is_character_file(full));
     EXPECT_EQ(CheckFile(ReadFile(old)), "");
+}
+
+TEST(OutputFile, IsPreparedWhereOnlyTheOwnerCanRead) {
+    const TempFolder folder, other;
+    const EnvironmentValue first{"TEMP", folder.Path()}, second{"TMPDIR", other.Path()};
+    const auto document = Document::Create();
+    document->AddSection();
+    EXPECT_EQ(std::filesystem::status(folder / "~dw1.tmp").permissions(), std::filesystem::perms{0600});
 }
 
 TEST(OutputFile, IsNeverSharedByThreadsOrProcesses) {

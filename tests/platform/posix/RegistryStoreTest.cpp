@@ -98,6 +98,8 @@ TEST_F(Store, AnswersForTheMachineWithTheDesktopsViewer) {
     put("xdg-open");
     EXPECT_EQ(command(), "xdg-open \"%1\"");
     std::filesystem::remove(folder / "soffice");
+    WriteFile(folder / "soffice", "");
+    EXPECT_EQ(command(), "xdg-open \"%1\"");
     put("soffice");
     EXPECT_EQ(registry.ReadAllSubKeys(""), std::vector<std::string>{"command"});
     EXPECT_EQ(platform::SystemPlatform().programs->PrintCommand(), "soffice -p \"%1\"");
