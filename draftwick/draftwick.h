@@ -1,6 +1,6 @@
 #pragma once
 
-/// All of Draftwick: what a host includes.
+/// All of Draftwick: what a host includes. Services of its own in place of the system's need platform/Platform.h, too.
 #include <draftwick/base/Color.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Version.h>
@@ -17,7 +17,6 @@
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/platform/Platform.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Columns.h>

@@ -19,6 +19,12 @@
 
 namespace draftwick {
 
+struct Document::Inside {
+    Collections collections;
+    OutputFiles files;
+    Viewer viewer;
+};
+
 std::shared_ptr<Document> Document::Create() { return Create(platform::SystemPlatform()); }
 
 std::shared_ptr<Document> Document::Create(platform::Platform services) {
@@ -29,44 +35,49 @@ std::shared_ptr<Document> Document::Create(platform::Platform services) {
 }
 
 Document::Document(const Origin& origin, DocumentSettings& settings)
-    : Content(origin), settings_(settings), collections_(std::make_unique<Collections>()),
-      files_(std::make_unique<OutputFiles>()), viewer_(std::make_unique<Viewer>(SharedSession()->platform)) {}
+    : Content(origin), settings_(settings),
+      inside_(new Inside{.collections = {}, .files = {}, .viewer = Viewer(SharedSession()->platform)}) {}
 
 /// Children need a reference to their parent, so they come after the constructor.
 void Document::Open() {
     const Origin origin = OriginOfChild();
-    collections_->fonts = std::make_shared<draftwick::Fonts>(origin);
-    collections_->lists = std::make_shared<draftwick::Lists>(origin);
-    collections_->paragraphStyles = std::make_shared<draftwick::ParagraphStyles>(origin);
-    collections_->textStyles = std::make_shared<draftwick::TextStyles>(origin);
-    collections_->properties = std::make_shared<draftwick::Properties>(origin);
+    Collections& collections = inside_->collections;
+    collections.fonts = std::make_shared<draftwick::Fonts>(origin);
+    collections.lists = std::make_shared<draftwick::Lists>(origin);
+    collections.paragraphStyles = std::make_shared<draftwick::ParagraphStyles>(origin);
+    collections.textStyles = std::make_shared<draftwick::TextStyles>(origin);
+    collections.properties = std::make_shared<draftwick::Properties>(origin);
     detail::Session& session = *SharedSession();
     session.document = this;
     session.documentLink = weak_from_this();
-    session.collections = collections_.get();
-    session.writer.names = collections_.get();
+    session.collections = &collections;
+    session.writer.names = &collections;
 }
 
 Document::~Document() {
     detail::Session& session = *SharedSession();
-    if (settings_.discardOnRelease && !Finished()) files_->Discard();
+    if (settings_.discardOnRelease && !Finished()) inside_->files.Discard();
     session.writer.output.SetStream(nullptr);
     session.writer.names = nullptr;
     session.document = nullptr;
     session.collections = nullptr;
 }
 
-std::shared_ptr<draftwick::Fonts> Document::Fonts() const { return collections_->fonts; }
-std::shared_ptr<draftwick::Lists> Document::Lists() const { return collections_->lists; }
+std::shared_ptr<draftwick::Fonts> Document::Fonts() const { return inside_->collections.fonts; }
+std::shared_ptr<draftwick::Lists> Document::Lists() const { return inside_->collections.lists; }
 std::shared_ptr<draftwick::ParagraphStyles> Document::ParagraphStyles() const {
-    return collections_->paragraphStyles;
+    return inside_->collections.paragraphStyles;
 }
-std::shared_ptr<draftwick::TextStyles> Document::TextStyles() const { return collections_->textStyles; }
-std::shared_ptr<draftwick::Properties> Document::Properties() const { return collections_->properties; }
+std::shared_ptr<draftwick::TextStyles> Document::TextStyles() const {
+    return inside_->collections.textStyles;
+}
+std::shared_ptr<draftwick::Properties> Document::Properties() const {
+    return inside_->collections.properties;
+}
 
 std::shared_ptr<Section> Document::AddSection() {
     // Once the file's last brace is written nothing can follow it, even if Finish failed after that.
-    if (files_->Ended()) {
+    if (inside_->files.Ended()) {
         RaiseError(dwErrTargetEmitted, {std::string{Description().name}},
                    "Document.AddSection: Finish has ended the text already; call it again");
     }
@@ -125,8 +136,8 @@ void Document::Discard() {
     CheckNotDelivering();
     session.discarded = true;
     session.writer.output.SetStream(nullptr);
-    const std::error_code error = files_->Discard();
-    if (error) RaiseFileError(error, "delete", files_->BodyFileName());
+    const std::error_code error = inside_->files.Discard();
+    if (error) RaiseFileError(error, "delete", inside_->files.BodyFileName());
 }
 
 void Document::SetDiscardOnRelease(bool on) {
@@ -136,22 +147,22 @@ void Document::SetDiscardOnRelease(bool on) {
 }
 
 std::int32_t Document::LostCharacters() const {
-    const std::uint64_t lost = SharedSession()->writer.output.Lost() + files_->LostInHeader();
+    const std::uint64_t lost = SharedSession()->writer.output.Lost() + inside_->files.LostInHeader();
     constexpr std::int32_t Most = std::numeric_limits<std::int32_t>::max();
     return lost < Most ? static_cast<std::int32_t>(lost) : Most;
 }
 
 void Document::WriteStart() {
-    files_->OpenBody(Session());
+    inside_->files.OpenBody(Session());
     if (settings_.spelling == dwSpellingStandard) Writer().UseStandardSpelling();
     WriteDocumentFormatting(Writer(), settings_);
 }
 
 void Document::WriteEnd() {
     if (sink_ != nullptr) {
-        files_->AssembleInto(Session(), *sink_);
+        inside_->files.AssembleInto(Session(), *sink_);
     } else {
-        files_->AssembleOutputFile(Session());
+        inside_->files.AssembleOutputFile(Session());
     }
 }
 
@@ -160,23 +171,25 @@ dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true);
 
 dwViewer Document::RunViewer(dwViewer program, bool printIt) {
     Finish();
-    if (files_->FullFileName().empty()) {
+    if (inside_->files.FullFileName().empty()) {
         RaiseRuntimeError(dwRunInvalidCall, "the document was finished into a stream",
                           "Document.Preview: there is no file to show; call Finish in place of FinishTo");
     }
     // Other programs have a current folder of their own.
-    return viewer_->RunViewer(OriginOfChild(), files_->FullFileName(), program, printIt);
+    return inside_->viewer.RunViewer(OriginOfChild(), inside_->files.FullFileName(), program, printIt);
 }
 
-std::shared_ptr<AutomationObject> Document::ViewerApp() const { return viewer_->App(); }
-std::int32_t Document::ViewerTaskID() const { return viewer_->TaskID(); }
-const std::string& Document::ActualFileName() const { return files_->ActualFileName(); }
+std::shared_ptr<AutomationObject> Document::ViewerApp() const { return inside_->viewer.App(); }
+std::int32_t Document::ViewerTaskID() const { return inside_->viewer.TaskID(); }
+const std::string& Document::ActualFileName() const { return inside_->files.ActualFileName(); }
 
-std::string Document::DefaultFontName() const { return settings_.defaultFont.Name(*collections_->fonts); }
+std::string Document::DefaultFontName() const {
+    return settings_.defaultFont.Name(*inside_->collections.fonts);
+}
 
 void Document::SetDefaultFontName(std::string_view name) {
     OpenForChange();
-    settings_.defaultFont.Set(*collections_->fonts, name);
+    settings_.defaultFont.Set(*inside_->collections.fonts, name);
 }
 
 void Document::SetPaperSize(dwPaperSize paper) {

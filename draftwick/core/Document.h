@@ -2,7 +2,6 @@
 
 #include <draftwick/model/Content.h>
 #include <draftwick/model/DocumentSettings.h>
-#include <draftwick/platform/Platform.h>
 #include <draftwick/viewer/ViewerKind.h>
 
 #include <functional>
@@ -15,10 +14,11 @@ namespace draftwick {
 
 namespace detail {
 struct Sink;
-class OutputFiles;
-class Viewer;
-struct Collections;
 }  // namespace detail
+
+namespace platform {
+struct Platform;
+}  // namespace platform
 
 class AutomationObject;
 class Fonts;
@@ -42,8 +42,8 @@ class DRAFTWICK_API Document final : public detail::Content {
 public:
     /// A new document with the system's services.
     static std::shared_ptr<Document> Create();
-    /// A new document with the host's own services in place of the system's. A service that is empty is refused with
-    /// error 5 by the call that needs it.
+    /// A new document with the host's own services in place of the system's (draftwick/platform/Platform.h). A service
+    /// that is empty is refused with error 5 by the call that needs it.
     static std::shared_ptr<Document> Create(platform::Platform services);
     ~Document() override;
 
@@ -264,10 +264,10 @@ private:
     dwViewer RunViewer(dwViewer program, bool printIt);
     void SetPath(std::string& field, std::string_view path, const char* setter = __builtin_FUNCTION());
 
+    struct Inside;
+
     detail::DocumentSettings& settings_;  // the session's
-    std::unique_ptr<detail::Collections> collections_;
-    std::unique_ptr<detail::OutputFiles> files_;
-    std::unique_ptr<detail::Viewer> viewer_;
+    std::unique_ptr<Inside> inside_;      // collections, files and viewer
     std::shared_ptr<Section> currentSection_;
     const detail::Sink* sink_ = nullptr;  // while FinishTo runs
 };

@@ -5,6 +5,9 @@
 
 namespace draftwick {
 
+std::shared_ptr<TableBorders> Table::Borders() { return Share(borders_.Get(AsOwner())); }
+std::shared_ptr<draftwick::Frame> Table::Frame() { return Share(frame_.Get(AsOwner())); }
+
 std::shared_ptr<Cell> Table::AddCell(const std::shared_ptr<Cell>& like) {
     const std::shared_ptr<Cell> kept = like;  // it can be CurrentCell
     const bool standard = Session().settings.spelling == dwSpellingStandard;
