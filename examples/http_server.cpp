@@ -57,6 +57,7 @@ constexpr int Clients = 4, Requests = 250;
 std::string Ask(int port, int client) {
     httplib::Client server("127.0.0.1", port);
     server.set_keep_alive(true);
+    server.set_tcp_nodelay(true);
     std::string last;
     for (int i = 0; i < Requests; ++i) {
         const int order = client * Requests + i;
@@ -71,6 +72,7 @@ std::string Ask(int port, int client) {
 void Serve(const std::string& filename) {
     httplib::Server server;
     server.set_keep_alive_timeout(1);  // so that it ends soon
+    server.set_tcp_nodelay(true);
     server.Get(R"(/receipt/(\d+))", Answer);
     const int port = server.bind_to_any_port("127.0.0.1");
     std::thread listening([&] { server.listen_after_bind(); });
