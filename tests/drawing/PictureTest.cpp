@@ -208,9 +208,10 @@ TEST(InlinePicture, HasTheSizeOfItsShapeInTheStandardSpelling) {
         built.shape->Fill()->SetPicture("a.emf");
         AddText(*built.shape, "a");
         AddText(*built.section, "z");
-        EXPECT_EQ(built.Body(),
-                  R"(\pard\s0~{\pict{\*\picprop\shplid1{\sp{\sn shapeType}{\sv 75}}{\sp{\sn fFlipV}{\sv 1}}}\emfblip)"
-                      + (size + Hex(Emf)) + R"({\shptxt\pard\s0~{a}}}\par\pard\s0~{z})");
+        EXPECT_EQ(
+            built.Body(),
+            R"(\pard\s0~{\pict{\*\picprop\shplid1{\sp{\sn shapeType}{\sv 75}}{\sp{\sn fFlipV}{\sv 1}}}\emfblip)"
+                + (size + Hex(Emf)) + R"({\shptxt\pard\s0~{a}}}\par\pard\s0~{z})");
     }
 }
 
@@ -305,6 +306,40 @@ TEST(Picture, FromBytesIsThatFromAFile) {
     without.shape->Fill()->SetPictureData(Emf);
     without.shape->Fill()->SetPictureData({});
     EXPECT_EQ(RefusalNumber([&] { without->Finish(); }), dwErrPictureFileNotFound);
+}
+
+// 8 pixels at 96 to the inch are 120 twips; the metafile is two inches by one.
+TEST(Picture, InTheLineHasTheSizeThatIsAskedForOrItsOwn) {
+    const struct {
+        std::string bytes;
+        Measure width, height;
+        std::string size;
+    } cases[] = {
+        {Jpeg, 0, 0, R"(\picwgoal120\pichgoal120 )"},
+        {Jpeg, 1_in, 0, R"(\picwgoal1440\pichgoal1440 )"},
+        {Emf, 0, 2.54_cm, R"(\picwgoal2880\pichgoal1440 )"},
+        {Emf, 720, 36_pt, R"(\picwgoal720\pichgoal720 )"},
+        {MakeWmf(0, 0, 0, 0, 96).substr(22), 1_in, 1_in, R"(\picwgoal1440\pichgoal1440 )"},
+    };
+    for (const auto& [bytes, width, height, size] : cases) {
+        TestDocument built(dwTwips);
+        built->SetSpelling(dwSpellingStandard);
+        const auto paragraph = built.AddParagraph();
+        paragraph->AddPictureData(bytes, width, height);
+        EXPECT_NE(built.Finish().find(size + Hex(bytes).substr(0, 8)), std::string::npos) << size;
+    }
+    TestDocument built(dwTwips);
+    built->SetSpelling(dwSpellingStandard);
+    built.files->Put("a.jpg", Jpeg);
+    const auto paragraph = built.AddParagraph();
+    EXPECT_EQ(RefusalNumber([&] { paragraph->AddPicture("none.jpg"); }), dwErrPictureFileNotFound);
+    EXPECT_EQ(RefusalNumber([&] { paragraph->AddPicture("a.jpg", 32768); }), dwRunOverflow);
+    EXPECT_EQ(RefusalNumber([&] { paragraph->AddPictureData(MakeWmf(0, 0, 0, 0, 96).substr(22), 5); }),
+              dwRunDivisionByZero);
+    EXPECT_EQ(paragraph->CurrentShape(), nullptr);
+    EXPECT_EQ(paragraph->AddPicture("a.jpg", 5)->Fill()->Picture(), "a.jpg");
+    EXPECT_EQ(RefusalNumber([&] { WithShape(dwSKRectangle).section->AddParagraph()->AddPicture("a.jpeg"); }),
+              dwRunInvalidCall);
 }
 
 TEST(Picture, WithTheLineRefusedLeavesNoFileOfTheFill) {
