@@ -1,5 +1,6 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
+#include <draftwick/content/internal/Members.h>
 #include <draftwick/content/internal/Writers.h>
 #include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Session.h>
@@ -13,6 +14,11 @@ Section::Section(const Origin& origin) : RowContainer(origin), columns_(AsOwner(
     const DocumentSettings& document = Session().settings;
     values_.page = document.page;
     values_.orientation = dwOrientation{document.orientation};
+}
+
+void Section::SetPaperSize(dwPaperSize paper) {
+    OpenForChange();
+    values_.page.SetPaper(paper, values_.orientation, "Section.PaperSize");
 }
 
 void Section::SetOrientation(dwOrientation orientation) {
@@ -33,13 +39,25 @@ std::shared_ptr<Header> Section::AddHeader(dwHeaderKind kind) {
     const bool oneSide = kind >= dwHeaderLeft && kind <= dwFooterRight;
     const bool firstPage = kind == dwHeaderFirst || kind == dwFooterFirst;
     if ((facing && everyPage) || (!facing && oneSide) || (!values_.titlePage && firstPage)) {
-        RaiseError(dwErrInvalidHeaderKind);
+        RaiseError(
+            dwErrInvalidHeaderKind, {},
+            firstPage ? "Section.AddHeader: set Section.TitlePage first, for the first page's own header"
+            : oneSide ? "Section.AddHeader: set Document.FacingPage before the first section, for "
+                        "headers of left and right pages"
+                      : "Section.AddHeader: Document.FacingPage is set; add the headers of left and of "
+                        "right pages");
     }
     if (!InRange(kind, dwHeader, dwFooterFirst)) {
-        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(kind));
+        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(kind),
+                          "Section.AddHeader " + std::to_string(kind) + ": give a dwHeaderKind, 1 to 8");
     }
     bool& exists = hasHeader_[static_cast<std::size_t>(kind)];
-    if (exists) RaiseError(dwErrHeaderExists);
+    if (exists) {
+        RaiseError(
+            dwErrHeaderExists, {},
+            "Section.AddHeader: the section has this header already; add to it what is missing, or add "
+            "another section");
+    }
     auto header = Add(currentHeader_, kind);
     exists = true;
     return header;
@@ -72,6 +90,7 @@ const Class& Section::Describe() {
             PropertyOf<&S::PageWidth, &S::SetPageWidth, &P::pageWidth>("PageWidth").DefaultDepends(),
             PropertyOf<&S::PageHeight, &S::SetPageHeight, &P::pageHeight>("PageHeight").DefaultDepends(),
             PropertyOf<&S::Gutter, &S::SetGutter, &P::gutter>("Gutter").DefaultDepends(),
+            PropertyOf<&S::PaperSize, &S::SetPaperSize>("PaperSize"),
             PropertyOf<&S::Orientation, &S::SetOrientation, &V::orientation>("Orientation").DefaultDepends(),
             PropertyOf<&S::Break, &S::SetBreak, &V::sectionBreak>("Break"),
             PropertyOf<&S::HeaderY, &S::SetHeaderY, &V::headerY>("HeaderY"),
@@ -99,7 +118,7 @@ const Class& Section::Describe() {
         },
         {
             MethodOf<&S::AddHeader>("AddHeader", {{"Kind"}}),
-            MethodOf<&S::AddParagraph>("AddParagraph"),
+            AddParagraphOf<S>(),
             MethodOf<&S::AddTable>("AddTable"),
         }};
     return description;

@@ -1,5 +1,6 @@
 #include <draftwick/format/TabStops.h>
 #include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/Advice.h>
 #include <draftwick/model/internal/ClassTable.h>
 
 #include <cmath>
@@ -7,14 +8,20 @@
 
 namespace draftwick {
 
-std::shared_ptr<TabStop> TabStops::Add(double position, dwTabAlign align, dwTabLeader leader) {
+std::shared_ptr<TabStop> TabStops::Add(Measure position, dwTabAlign align, dwTabLeader leader) {
     const dwScaleMode scale = OpenForChange();
     CheckRange(align, dwTabLeft, dwTabBar, "TabStops.Add.Align");
+    if (leader == 0) {
+        RaiseError(
+            dwErrPropertyOutOfRange, {"TabStops.Add.Leader"},
+            "TabStops.Add: the leader has no default; give dwTabLeaderNone for a tab stop without one");
+    }
     CheckRange(leader, dwTabLeaderNone, dwTabLeaderUnderline, "TabStops.Add.Leader");
     TabStop::Values values{.align = align, .leader = leader};
     // What is too large for single precision has no defined value there; it fits no length either.
-    const bool fits = std::abs(position) <= std::numeric_limits<float>::max();
-    values.position.Set(fits ? static_cast<float>(position) : position, scale);
+    const double number = position.Value();
+    const bool fits = std::abs(number) <= std::numeric_limits<float>::max();
+    values.position.Set({fits ? static_cast<float>(number) : number, position.TwipsPerUnit()}, scale);
     stops_.push_back(MakeStop(values));
     return stops_.back();
 }
@@ -25,8 +32,11 @@ void TabStops::Clear() {
 }
 
 std::shared_ptr<TabStop> TabStops::Items(std::int32_t index) const {
-    if (!InRange(index, 0, 255)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
-    if (index < 1 || index > Count()) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
+    CheckByte(index);
+    if (index < 1 || index > Count()) {
+        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index),
+                          AdviceOnPosition(*this, index, Count()));
+    }
     return ItemAt(index);
 }
 
@@ -63,8 +73,7 @@ const Class& TabStops::Describe() {
          {PropertyOf<&T::Count>("Count")},
          {
              MethodOf<&T::Items>("Items", {{"Index"}}),
-             MethodOf<&T::Add>(
-                 "Add", {{"Position", Kind::Length}, {"Align", Variant{dwTabLeft}}, {"Leader", Variant{0}}}),
+             MethodOf<&T::Add>("Add", {{"Position"}, {"Align", Variant{dwTabLeft}}, {"Leader", Variant{0}}}),
              MethodOf<&T::Clear>("Clear"),
          }});
     return description;

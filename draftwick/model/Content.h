@@ -42,27 +42,42 @@ protected:
     /// Finishes the object, once: writes what is still open of it, then its end.
     void Close();
     void CloseCurrentChild();
-    /// dwErrTargetEmitted with the class's name once the object is finished.
-    void CheckNotFinished() const;
+    /// Takes the object out of what it was added to, as long as nothing of it is written: it is closed without a trace.
+    void Withdraw();
+    /// dwErrTargetEmitted with the class's name once the object is finished. The name of the method is for the advice.
+    void CheckNotFinished(const char* method = __builtin_FUNCTION()) const;
 
     /// Every Add method: refuses once finished and beyond MaxDepth, writes the start, finishes the child before, creates
     /// the child and keeps it in the slot of its kind. A failure of the file is reported here, before there is a new
     /// child.
     template <class Child, class... Arguments>
     std::shared_ptr<Child> Add(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
-        PrepareAdd();
+        PrepareAdd(Child::Describe);
+        return Hold(slot, std::forward<Arguments>(arguments)...);
+    }
+    /// The first child of an object that was added just now, in the same call: a failure of the file is reported by the
+    /// next.
+    template <class Child, class... Arguments>
+    std::shared_ptr<Child> AddFirst(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
+        Emit();
+        return Hold(slot, std::forward<Arguments>(arguments)...);
+    }
+    /// Refuses an addition that would bring objects that many levels deeper than this one.
+    void CheckDepth(int levels) const;
+
+private:
+    template <class HolderType, class Base>
+    friend class HeldBy;
+
+    template <class Child, class... Arguments>
+    std::shared_ptr<Child> Hold(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
         slot = std::make_shared<Child>(Node::OriginOfChild(), std::forward<Arguments>(arguments)...);
         open_ = slot.get();
         open_->holder_ = this;
         open_->depth_ = depth_ + 1;
         return slot;
     }
-
-private:
-    template <class HolderType, class Base>
-    friend class HeldBy;
-
-    void PrepareAdd();
+    void PrepareAdd(const Class& (*child)());
 
     Content* holder_ = nullptr;
     Content* open_ = nullptr;  // the child that is not finished yet; its slot keeps it

@@ -1,5 +1,6 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
+#include <draftwick/base/internal/Required.h>
 #include <draftwick/viewer/internal/Registry.h>
 #include <draftwick/viewer/internal/Viewer.h>
 
@@ -12,6 +13,9 @@ namespace draftwick {
 namespace {
 
 constexpr const char* WordClass = "Word.Application";
+constexpr const char* NoViewerAdvice = "install a program that shows RTF; the file itself is written";
+constexpr const char* NoWordAdvice =
+    "Word of the version that was asked for is not there; give dwViewerAuto for any viewer";
 
 /// Makes the word processor's window visible and brings it to the front.
 void Show(platform::AutomationObject& word) {
@@ -67,7 +71,7 @@ dwViewer Viewer::ViewWithAnyViewer(const Request& request) {
     if (works(&Viewer::ViewWithWord2000)) return dwViewerWord2000;
     if (works(&Viewer::ViewWithWord97)) return dwViewerWord97;
     if (works(&Viewer::ViewWithWordViewer97)) return dwViewerWordView97;
-    RaiseError(dwErrNoViewer);
+    RaiseError(dwErrNoViewer, {}, NoViewerAdvice);
 }
 
 void Viewer::ViewWithWord(const Request& request, char majorVersion) {
@@ -88,9 +92,9 @@ void Viewer::ViewWithWord(const Request& request, char majorVersion) {
 Viewer::Word Viewer::GetWordApplication(bool forceNew, char majorVersion) {
     const auto create = [this] {
         try {
-            return platform_.automation->Create(WordClass);
+            return Required(platform_.automation, "automation").Create(WordClass);
         } catch (const std::system_error& failure) {
-            RaiseRuntimeError(dwRunCannotCreateObject, failure.what());
+            RaiseRuntimeError(dwRunCannotCreateObject, failure.what(), NoWordAdvice);
         }
     };
     Word app;
@@ -99,7 +103,7 @@ Viewer::Word Viewer::GetWordApplication(bool forceNew, char majorVersion) {
         wordStartedHere_ = true;
     } else {
         try {
-            app = platform_.automation->Attach(WordClass);
+            app = Required(platform_.automation, "automation").Attach(WordClass);
         } catch (const std::system_error&) {
             wordStartedHere_ = true;
             app = create();
@@ -108,14 +112,15 @@ Viewer::Word Viewer::GetWordApplication(bool forceNew, char majorVersion) {
     }
     const platform::AutomationValue version = app->Get("Version");
     const auto* text = std::get_if<std::string>(&version);
-    if (text == nullptr || !text->starts_with(majorVersion)) RaiseError(dwRunCannotCreateObject);
+    if (text == nullptr || !text->starts_with(majorVersion))
+        RaiseError(dwRunCannotCreateObject, {}, NoWordAdvice);
     return app;
 }
 
 void Viewer::ViewWithWordViewer97(const Request& request) {
     const std::string command = FindViewerCommand();
-    if (command.empty()) RaiseError(dwErrNoViewer);
-    platform::Programs& programs = *platform_.programs;
+    if (command.empty()) RaiseError(dwErrNoViewer, {}, NoViewerAdvice);
+    platform::Programs& programs = Required(platform_.programs, "programs");
     const std::string printCommand = request.printIt ? programs.PrintCommand() : std::string{};
     taskId_ = programs.Start(printCommand.empty() ? command : printCommand, request.file);
     if (!request.printIt || !printCommand.empty()) return;
@@ -127,7 +132,7 @@ void Viewer::ViewWithWordViewer97(const Request& request) {
 
 /// The command line of the viewer, from the first of the places where it or its setup program leaves one.
 std::string Viewer::FindViewerCommand() const {
-    Registry registry(*platform_.registry);
+    Registry registry(Required(platform_.registry, "registry"));
     registry.SetRoot(platform::RegistryRoot::LocalMachine);
     registry.SetPath("SOFTWARE\\Classes\\Word.Document.8\\shell\\wordview");
     if (std::string command = registry.ReadString("command", "", ""); !command.empty()) return command;
@@ -136,7 +141,7 @@ std::string Viewer::FindViewerCommand() const {
     registry.SetPath("Software\\Microsoft\\Word Viewer\\8.0");
     if (std::string folder = registry.ReadString("Options", "PROGRAMDIR", ""); !folder.empty()) {
         if (folder.ends_with('/') || folder.ends_with('\\')) folder.pop_back();
-        return ProgramIn(folder + platform_.files->Separator());
+        return ProgramIn(folder + Required(platform_.files, "files").Separator());
     }
 
     registry.SetRoot(platform::RegistryRoot::LocalMachine);
@@ -158,7 +163,7 @@ std::string Viewer::FindViewerCommand() const {
 
 /// The command line for the first program in a folder; without a program it cannot be started, and that says so.
 std::string Viewer::ProgramIn(const std::string& folder) const {
-    return platform_.programs->FirstProgram(folder) + " \"%1\"";
+    return Required(platform_.programs, "programs").FirstProgram(folder) + " \"%1\"";
 }
 
 }  // namespace draftwick

@@ -1,5 +1,6 @@
 #include "tests/support/Errors.h"
 
+#include <draftwick/base/Color.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
 #include <draftwick/platform/Platform.h>
@@ -8,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cfenv>
 #include <clocale>
 #include <cmath>
@@ -62,6 +64,23 @@ TEST(Units, GoThereAndBack) {
     EXPECT_EQ(FromTwips(1440, static_cast<dwScaleMode>(9)), 0);
 }
 
+TEST(Units, OfALengthCountWhateverTheScaleModeIs) {
+    for (const dwScaleMode scale : {dwInches, dwTwips, dwPoints}) {
+        EXPECT_EQ(ToTwips(1_in, scale), 1440);
+        EXPECT_EQ(ToTwips(2.54_cm, scale), 1440);
+        EXPECT_EQ(ToTwips(127_mm, scale), 7200);
+        EXPECT_EQ(ToTwips(-12_pt, scale), -240);
+        EXPECT_EQ(ToTwips(3 * 0.5_in / 2, scale), 1080);
+    }
+    EXPECT_EQ(ToTwips(2 * Measure(1.5), dwPoints), 60);
+}
+
+TEST(Colors, AreMadeOfThreeBytes) {
+    static_assert(Rgb(1, 2, 3) == 0x030201);
+    for (const auto& wrong : {std::array{256, 0, 0}, std::array{0, -1, 0}, std::array{0, 0, 1000}})
+        EXPECT_EQ(RefusalNumber([&] { Rgb(wrong[0], wrong[1], wrong[2]); }), dwRunOverflow);
+}
+
 TEST(Units, ConvertPictureSizes) {
     EXPECT_EQ(TwipsToHimetric(1440), 2540);
     EXPECT_EQ(TwipsToHimetric(72), 127);
@@ -100,10 +119,12 @@ TEST(Errors, SayWhatTheTableSays) {
         {[] { RaiseRuntimeError(dwRunOverflow, "why"); }, "6 Overflow: why", ""},
     };
     for (const auto& [raise, expected, source] : cases) {
-        EXPECT_EQ(Refusal(raise), expected);
         try {
             raise();
+            ADD_FAILURE() << expected;
         } catch (const Error& error) {
+            EXPECT_EQ(ErrorNumberText(error.Number()) + " " + error.what(), expected);
+            EXPECT_EQ(Error(error).Advice(), error.Number() == dwRunOverflow ? "why" : error.what());
             EXPECT_EQ(error.Source(), source);
             EXPECT_EQ(error.HelpFile(), source.empty() ? "" : "Draftwick.chm");
         }
@@ -120,10 +141,10 @@ TEST(Errors, AreLoggedWhenLoggingIsOn) {
         void Report(std::string_view entry) noexcept override { text = entry; }
     } log;
     platform::SetEventLog(&log);
-    RefusalNumber([] { RaiseError(dwErrNoViewer); });
+    RefusalNumber([] { RaiseError(dwErrNoViewer, {}, "advice"); });
     EXPECT_EQ(log.text, "");
     SetErrorLogging(true);
-    RefusalNumber([] { RaiseError(dwErrNoViewer); });
+    RefusalNumber([] { RaiseError(dwErrNoViewer, {}, "advice"); });
     SetErrorLogging(false);
     platform::SetEventLog(nullptr);
     ASSERT_GT(log.text.size(), 19U);
