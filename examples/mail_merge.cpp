@@ -21,37 +21,37 @@ struct Letter {
 };
 constexpr Letter English{"Hello, {name}!",
                          "The Lantern Theatre opens again on 3 May. The tram to “{town}” stops at the door.",
-                         "Row 1, seats {seats}", "See you soon! 😀🎈"};
+                         "Row 1, seats {seats}", "See you soon! 🎈🎵"};
 constexpr Letter German{
     "Guten Tag, {name}!",
     "Das Laternentheater öffnet am 3. Mai wieder. Die Straßenbahn nach „{town}“ hält vor der Tür.",
-    "Reihe 1, Plätze {seats}", "Bis bald! 😀🎈"};
+    "Reihe 1, Plätze {seats}", "Bis bald! 🎈🎵"};
 constexpr Letter French{
     "Bonjour, {name} !",
     "Le théâtre de la Lanterne rouvre le 3 mai. Le tramway « {town} » s’arrête à la porte.",
-    "Rang 1, places {seats}", "À bientôt ! 😀🎈"};
+    "Rang 1, places {seats}", "À bientôt ! 🎈🎵"};
 constexpr Letter Polish{
     "Dzień dobry, {name}!",
     "Teatr Latarnia znów otwiera drzwi 3 maja. Tramwaj „{town}” zatrzymuje się przed wejściem.",
-    "Rząd 1, miejsca {seats}", "Do zobaczenia! 😀🎈"};
+    "Rząd 1, miejsca {seats}", "Do zobaczenia! 🎈🎵"};
 constexpr Letter Greek{
     "Καλημέρα, {name}!",
     "Το θέατρο «Φανάρι» ανοίγει ξανά στις 3 Μαΐου. Το τραμ «{town}» σταματά μπροστά στην πόρτα.",
-    "Σειρά 1, θέσεις {seats}", "Τα λέμε σύντομα! 😀🎈"};
+    "Σειρά 1, θέσεις {seats}", "Τα λέμε σύντομα! 🎈🎵"};
 constexpr Letter Russian{"Здравствуйте, {name}!",
                          "Театр «Фонарь» снова открывается 3 мая. Трамвай «{town}» останавливается у входа.",
-                         "Ряд 1, места {seats}", "До скорой встречи! 😀🎈"};
+                         "Ряд 1, места {seats}", "До скорой встречи! 🎈🎵"};
 constexpr Letter Hebrew{"שלום, {name}!", "תיאטרון הפנס נפתח מחדש ב־3 במאי. החשמלית „{town}” עוצרת ליד הדלת.",
-                        "שורה 1, מושבים {seats}", "להתראות! 😀🎈"};
+                        "שורה 1, מושבים {seats}", "להתראות! 🎈🎵"};
 constexpr Letter Arabic{"مرحبًا، {name}!",
                         "يعيد مسرح الفانوس فتح أبوابه في 3 مايو. يتوقف ترام «{town}» أمام الباب.",
-                        "الصف 1، المقاعد {seats}", "إلى اللقاء! 😀🎈"};
+                        "الصف 1، المقاعد {seats}", "إلى اللقاء! 🎈🎵"};
 constexpr Letter Hindi{"नमस्ते, {name}!",
                        "लालटेन थिएटर 3 मई को फिर खुल रहा है। “{town}” वाली ट्राम दरवाज़े पर रुकती है।",
-                       "पंक्ति 1, सीटें {seats}", "जल्दी मिलेंगे! 😀🎈"};
+                       "पंक्ति 1, सीटें {seats}", "जल्दी मिलेंगे! 🎈🎵"};
 constexpr Letter Japanese{
     "{name}様", "「ランタン劇場」は5月3日に再開します。路面電車「{town}」線は劇場の前に停まります。",
-    "1列目、座席 {seats}", "またお会いしましょう! 😀🎈"};
+    "1列目、座席 {seats}", "またお会いしましょう! 🎈🎵"};
 
 struct Guest {
     const char* name;
