@@ -20,6 +20,11 @@ bool RunsToTheLeft(char32_t character) {
            || InBlock(character, 0x1E800, 0x1EFFF);
 }
 
+/// Devanagari to Myanmar, and Khmer.
+bool IsComplex(char32_t character) {
+    return InBlock(character, 0x0900, 0x109F) || InBlock(character, 0x1780, 0x17FF);
+}
+
 /// Hangul Jamo, radicals to the last Hangul syllable, compatibility and wide forms, ideographs beyond 16 bits.
 bool IsEastAsian(char32_t character) {
     return InBlock(character, 0x1100, 0x11FF) || InBlock(character, 0x2E80, 0xD7FF)
@@ -37,6 +42,7 @@ bool HasNoDirection(char32_t character) {
 
 void Note(char32_t character, Scripts& scripts) {
     scripts.rightToLeft |= RunsToTheLeft(character);
+    scripts.complex |= IsComplex(character);
     scripts.eastAsian |= IsEastAsian(character);
 }
 

@@ -11,6 +11,7 @@ enum class Direction : unsigned char { None, LeftToRight, RightToLeft };
 struct Scripts {
     Direction direction = Direction::None;
     bool rightToLeft = false;  ///< has Hebrew, Arabic or another script that runs to the left
+    bool complex = false;      ///< has Devanagari, Thai or another script of India and South-East Asia
     bool eastAsian = false;    ///< has Chinese, Japanese or Korean
 };
 
