@@ -1,0 +1,92 @@
+#include <hosts/python/Errors.h>
+
+#include <hosts/model/Names.h>
+#include <hosts/python/Values.h>
+
+#include <new>
+#include <system_error>
+
+namespace draftwick::python {
+
+namespace {
+
+/// The built-in exception that a refusal is, too; nullptr for none.
+PyObject* RelativeOf(std::int32_t number) {
+    switch (number) {
+    case dwErrPropertyOutOfRange:
+    case dwRunInvalidCall:
+    case dwRunOverflow: return PyExc_ValueError;
+    case dwErrItemNotFound:
+    case dwRunSubscriptOutOfRange: return PyExc_LookupError;
+    case dwRunTypeMismatch: return PyExc_TypeError;
+    case dwRunDivisionByZero: return PyExc_ZeroDivisionError;
+    default: return nullptr;
+    }
+}
+
+/// The message, as it is in all hosts, is `message`; what str() shows says what to do, too.
+void SetError(const Error& error) {
+    const auto found = Module().errors.find(error.Number());
+    PyObject* type = found == Module().errors.end() ? Module().error : found->second;
+    const Owned text(PythonText(error.what()));
+    const Owned value = Take(PyObject_CallFunctionObjArgs(type, text.get(), nullptr));
+    const Owned number = Take(PyLong_FromLong(error.Number()));
+    Check(PyObject_SetAttrString(value.get(), "number", number.get()));
+    PyErr_SetObject(type, value.get());
+}
+
+/// OSError makes itself one of its own kinds by the number: FileNotFoundError, PermissionError.
+void SetSystemError(const std::system_error& error) {
+    const Owned text(PythonText(error.what()));
+    const Owned arguments = Take(Py_BuildValue("(iO)", error.code().value(), text.get()));
+    PyErr_SetObject(PyExc_OSError, arguments.get());
+}
+
+}  // namespace
+
+void RaisePython(PyObject* type, const std::string& text) {
+    PyErr_SetString(type, text.c_str());
+    throw PythonError{};
+}
+
+void AddErrors(PyObject* module) {
+    State& state = Module();
+    state.error = Checked(PyErr_NewExceptionWithDoc(
+        "draftwick.Error", "What Draftwick refuses. Nothing has changed.", PyExc_Exception, nullptr));
+    Check(PyModule_AddObjectRef(module, "Error", state.error));
+    for (const draftwick::Type* type : Enumerations()) {
+        if (!hosts::AreErrorNumbers(*type)) continue;
+        for (const EnumerationValue& value : type->values) {
+            const std::string name{hosts::PlainValueName(*type, value)};
+            PyObject* relative = RelativeOf(value.value);
+            const Owned bases = relative == nullptr ? Take(Py_BuildValue("(O)", state.error))
+                                                    : Take(Py_BuildValue("(OO)", state.error, relative));
+            PyObject* error =
+                Checked(PyErr_NewException(("draftwick." + name).c_str(), bases.get(), nullptr));
+            state.errors[value.value] = error;
+            Check(PyModule_AddObjectRef(module, name.c_str(), error));
+        }
+    }
+}
+
+void SetErrorFromException() noexcept {
+    try {
+        try {
+            throw;
+        } catch (const PythonError&) {
+        } catch (const Error& error) {
+            SetError(error);
+        } catch (const std::system_error& error) {
+            SetSystemError(error);
+        } catch (const std::bad_alloc&) {
+            PyErr_NoMemory();
+        } catch (const std::exception& error) {
+            PyErr_SetString(PyExc_RuntimeError, error.what());
+        }
+    } catch (const PythonError&) {
+    } catch (const std::exception&) {
+        PyErr_NoMemory();
+    }
+}
+
+}  // namespace draftwick::python
