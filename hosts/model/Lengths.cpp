@@ -11,7 +11,7 @@ struct Unit {
     std::string_view name;
     double inches;
 };
-constexpr Unit Units[] = {{"in", 1},         {"\"", 1},       {"cm", 1 / 2.54}, {"mm", 1 / 25.4},
+constexpr Unit Units[] = {{"in", 1},        {"\"", 1},       {"cm", 1 / 2.54},  {"mm", 1 / 25.4},
                           {"pt", 1.0 / 72}, {"pc", 1.0 / 6}, {"tw", 1.0 / 1440}};
 constexpr std::int32_t TwipsOfInch = 1440;
 
@@ -39,7 +39,8 @@ std::int32_t ColorFrom(std::string_view text) {
     std::uint32_t rgb = 0;
     const auto digits = text.substr(std::min<std::size_t>(text.size(), 1));
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), rgb, 16);
-    const bool isWhole = text.starts_with('#') && read.ec == std::errc{} && read.ptr == digits.data() + digits.size();
+    const bool isWhole =
+        text.starts_with('#') && read.ec == std::errc{} && read.ptr == digits.data() + digits.size();
     if (!isWhole || (digits.size() != 6 && digits.size() != 3))
         Refuse(text, "colour: '#' and two hexadecimal digits each for red, green and blue, as in '#ff8000'");
     // "#f80" is "#ff8800".

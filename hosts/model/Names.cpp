@@ -43,7 +43,8 @@ struct Vocabulary {
         for (const Class* one : Classes()) members.erase(one->name);
         for (const Type* type : Enumerations()) {
             enumerations.emplace(type->name, type);
-            for (const EnumerationValue& value : type->values) values.emplace(value.name, std::pair{type, &value});
+            for (const EnumerationValue& value : type->values)
+                values.emplace(value.name, std::pair{type, &value});
         }
     }
 };
@@ -85,9 +86,10 @@ std::string ConstantName(const Type& enumeration, const EnumerationValue& value)
 }
 
 bool AreErrorNumbers(const Type& enumeration) {
-    return std::any_of(enumeration.values.begin(), enumeration.values.end(), [](const EnumerationValue& value) {
-        return value.value == dwErrItemNotFound || value.value == dwRunInvalidPicture;
-    });
+    return std::any_of(enumeration.values.begin(), enumeration.values.end(),
+                       [](const EnumerationValue& value) {
+                           return value.value == dwErrItemNotFound || value.value == dwRunInvalidPicture;
+                       });
 }
 
 const Class* FindClass(std::string_view name) {
@@ -106,7 +108,8 @@ std::string Respelled(std::string_view text, const Spelling& spelling) {
         const bool ofFile = start > 0 && text[start - 1] == '\\';
         if (const auto value = vocabulary.values.find(word); value != vocabulary.values.end()) {
             result += spelling.constant(*value->second.first, *value->second.second);
-        } else if (const auto type = vocabulary.enumerations.find(word); type != vocabulary.enumerations.end()) {
+        } else if (const auto type = vocabulary.enumerations.find(word);
+                   type != vocabulary.enumerations.end()) {
             result += spelling.enumeration(*type->second);
         } else if (!ofFile && !word.empty() && IsUpper(word[0])) {
             const std::string_view plain = word.starts_with("Set") ? word.substr(3) : word;

@@ -30,7 +30,7 @@ const Class* FindClass(std::string_view name);
 /// A text of the library as a host's users read it: each identifier in it that is one of the object model's is replaced
 /// by what the host calls it. `SetAlign` is spelled as the property, `dwAlignLeft` as the constant.
 struct Spelling {
-    std::string (*member)(std::string_view name);                                       ///< of a property or method
+    std::string (*member)(std::string_view name);  ///< of a property or method
     std::string (*constant)(const Type& enumeration, const EnumerationValue& value);  ///< of a value
     std::string (*enumeration)(const Type& enumeration);
 };

@@ -23,7 +23,8 @@ std::int32_t PositionFrom(PyObject* self, std::int32_t index) {
     const std::int32_t count = CountOf(self);
     const std::int32_t position = index < 0 ? index + count : index;
     if (position >= 0 && position < count) return position + 1;
-    RaisePython(PyExc_IndexError, "there is no item " + std::to_string(index) + " among " + std::to_string(count));
+    RaisePython(PyExc_IndexError,
+                "there is no item " + std::to_string(index) + " among " + std::to_string(count));
 }
 
 Py_ssize_t Length(PyObject* self) {
@@ -38,7 +39,8 @@ PyObject* Subscript(PyObject* self, PyObject* key) {
         Variant index = FromPython(key, &wanted, Use(self));
         auto* position = std::get_if<std::int32_t>(&index);
         if (position == nullptr && !(std::holds_alternative<std::string>(index) && wanted.kind == Kind::Key))
-            RaisePython(PyExc_TypeError, "an item is found by its position from 0 or, where it has one, by its name");
+            RaisePython(PyExc_TypeError,
+                        "an item is found by its position from 0 or, where it has one, by its name");
         if (position != nullptr && wanted.values.empty()) *position = PositionFrom(self, *position);
         return Item(self, std::move(index));
     });
@@ -57,7 +59,8 @@ PyObject* Iterate(PyObject* self) {
 /// A name is in it, or an object.
 int Contains(PyObject* self, PyObject* wanted) {
     return Guarded(-1, [&] {
-        const bool byName = PyUnicode_Check(wanted) != 0 && ItemsOf(self).row->arguments[0].type->kind == Kind::Key;
+        const bool byName =
+            PyUnicode_Check(wanted) != 0 && ItemsOf(self).row->arguments[0].type->kind == Kind::Key;
         if (!byName) {
             const Owned items = Take(PySequence_List(self));
             return PySequence_Contains(items.get(), wanted);

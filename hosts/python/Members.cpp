@@ -13,8 +13,7 @@ namespace {
 
 /// What a property with an argument gives: shape.adjust_values[1] = 5400.
 struct Indexed {
-    PyObject_HEAD
-    PyObject* owner;
+    PyObject_HEAD PyObject* owner;
     const PythonProperty* property;
 };
 Indexed& AsIndexed(PyObject* object) { return *reinterpret_cast<Indexed*>(object); }
@@ -91,7 +90,8 @@ PyObject* Settings(const PythonMethod& method, PyObject* settings, PyObject* nam
     // Refused before anything is added.
     PyTypeObject* type = method.result == nullptr ? nullptr : method.result->objects;
     if (type == nullptr || PyObject_HasAttr(reinterpret_cast<PyObject*>(type), name) == 0)
-        RaisePython(PyExc_TypeError, method.name + "() got an unexpected keyword argument '" + TextOf(name) + "'");
+        RaisePython(PyExc_TypeError,
+                    method.name + "() got an unexpected keyword argument '" + TextOf(name) + "'");
     if (settings == nullptr) settings = Checked(PyDict_New());
     Check(PyDict_SetItem(settings, name, value));
     return settings;
@@ -105,8 +105,8 @@ PyObject* CallWith(const PythonMethod& method, PyObject* self, PyObject* const* 
     std::array<Variant, Most> values;
     std::array<bool, Most> has{};
     if (static_cast<std::size_t>(positional) > count) {
-        RaisePython(PyExc_TypeError, method.name + "() takes at most " + std::to_string(count) + " arguments, not "
-                                         + std::to_string(positional));
+        RaisePython(PyExc_TypeError, method.name + "() takes at most " + std::to_string(count)
+                                         + " arguments, not " + std::to_string(positional));
     }
     for (std::size_t i = 0; i < static_cast<std::size_t>(positional); ++i) {
         values[i] = FromPython(given[i], method.arguments[i].row->type, object);
@@ -131,10 +131,12 @@ PyObject* CallWith(const PythonMethod& method, PyObject* self, PyObject* const* 
         const PythonArgument& argument = method.arguments[at];
         if (has[at]) continue;
         if (!argument.row->initial)
-            RaisePython(PyExc_TypeError, method.name + "() misses the argument '" + TextOf(argument.name.get()) + "'");
+            RaisePython(PyExc_TypeError,
+                        method.name + "() misses the argument '" + TextOf(argument.name.get()) + "'");
         values[at] = *argument.row->initial;
     }
-    Owned result(ToPython(method.row->call(Use(self), {values.data(), count}), method.result, AsWrapper(self).keeper));
+    Owned result(
+        ToPython(method.row->call(Use(self), {values.data(), count}), method.result, AsWrapper(self).keeper));
     if (settings.get() != nullptr) SetAttributes(result.get(), settings.get());
     return result.release();
 }
@@ -187,7 +189,9 @@ std::string Documentation(const PythonClass& owner, const PythonMethod& method) 
         // inspect knows no constants of enumerations here.
         if (argument.row->initial) {
             const auto* number = std::get_if<std::int32_t>(&*argument.row->initial);
-            text += "=" + (number != nullptr ? std::to_string(*number) : Literal(*argument.row->initial, nullptr));
+            text +=
+                "="
+                + (number != nullptr ? std::to_string(*number) : Literal(*argument.row->initial, nullptr));
         }
     }
     if (method.result != nullptr && method.result->type->description != nullptr) text += ", **properties";
@@ -206,11 +210,13 @@ void SetAttributes(PyObject* object, PyObject* keywords) {
 void AddAttributes(PythonClass& to) {
     if (Module().indexed == nullptr) Module().indexed = IndexedType();
     const auto add = [&](const ClassProperty& row) {
-        PythonProperty& property = to.properties.emplace_back(PythonProperty{&row, TypeOf(row.type), MemberName(row.name)});
+        PythonProperty& property =
+            to.properties.emplace_back(PythonProperty{&row, TypeOf(row.type), MemberName(row.name)});
         const bool isIndexed = !row.arguments.empty();
         const auto get = row.get == nullptr ? nullptr : isIndexed ? GetIndexed : GetAttribute;
         const auto set = row.set == nullptr || isIndexed ? nullptr : SetAttribute;
-        to.attributes.push_back({property.name.c_str(), get, set, Comment(to.row->name, row.name), &property});
+        to.attributes.push_back(
+            {property.name.c_str(), get, set, Comment(to.row->name, row.name), &property});
     };
     for (const ClassProperty& row : to.row->properties) add(row);
     for (const ClassProperty& row : CommonProperties()) add(row);

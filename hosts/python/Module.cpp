@@ -14,7 +14,8 @@ State& Module() {
 
 std::string TextOf(PyObject* text) {
     Py_ssize_t size = 0;
-    if (const char* plain = PyUnicode_AsUTF8AndSize(text, &size)) return {plain, static_cast<std::size_t>(size)};
+    if (const char* plain = PyUnicode_AsUTF8AndSize(text, &size))
+        return {plain, static_cast<std::size_t>(size)};
     PyErr_Clear();
     const Owned bytes = Take(PyUnicode_AsEncodedString(text, "utf-8", "surrogatepass"));
     return {PyBytes_AsString(bytes.get()), static_cast<std::size_t>(PyBytes_Size(bytes.get()))};
@@ -68,7 +69,8 @@ int Execute(PyObject* module) {
     return Guarded(-1, [&] {
         State& state = Module();
         if (PyInterpreterState_GetID(PyInterpreterState_Get()) != 0 || state.object != nullptr)
-            RaisePython(PyExc_ImportError, "draftwick can be imported once in a process, by its main interpreter");
+            RaisePython(PyExc_ImportError,
+                        "draftwick can be imported once in a process, by its main interpreter");
         state.datetime = Import("datetime", "datetime");
         state.date = Import("datetime", "date");
         state.intEnum = Import("enum", "IntEnum");
@@ -82,8 +84,8 @@ int Execute(PyObject* module) {
 }
 
 PyModuleDef_Slot slots[] = {{Py_mod_exec, Slot(Execute)}, {0, nullptr}};
-PyModuleDef definition{PyModuleDef_HEAD_INIT, "draftwick._draftwick", nullptr, 0,      functions, slots,
-                       nullptr,               nullptr,                nullptr};
+PyModuleDef definition{
+    PyModuleDef_HEAD_INIT, "draftwick._draftwick", nullptr, 0, functions, slots, nullptr, nullptr, nullptr};
 
 }  // namespace
 

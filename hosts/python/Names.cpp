@@ -7,9 +7,10 @@ namespace draftwick::python {
 
 std::string MemberName(std::string_view name) {
     static constexpr std::string_view Keywords[] = {
-        "and",  "as",     "assert", "async",  "await", "break",    "class", "continue", "def",  "del",   "elif",
-        "else", "except", "finally", "for",   "from",  "global",   "if",    "import",   "in",   "is",    "lambda",
-        "not",  "nonlocal", "or",   "pass",   "raise", "return",   "try",   "while",    "with", "yield"};
+        "and",    "as",   "assert", "async",  "await",  "break",   "class", "continue",
+        "def",    "del",  "elif",   "else",   "except", "finally", "for",   "from",
+        "global", "if",   "import", "in",     "is",     "lambda",  "not",   "nonlocal",
+        "or",     "pass", "raise",  "return", "try",    "while",   "with",  "yield"};
     std::string plain = hosts::SnakeCase(name);
     if (std::find(std::begin(Keywords), std::end(Keywords), plain) != std::end(Keywords)) plain += '_';
     return plain;

@@ -20,8 +20,7 @@ struct Keeper {
 
 /// An object of the library as Python has it.
 struct Wrapper {
-    PyObject_HEAD
-    ObjectPointer object;
+    PyObject_HEAD ObjectPointer object;
     Keeper* keeper;
 };
 
@@ -29,7 +28,8 @@ struct Wrapper {
 struct PythonType {
     const draftwick::Type* type = nullptr;
     PyTypeObject* objects = nullptr;  ///< of a class
-    std::vector<PyObject*> values{};  ///< of an enumeration, in the order of the description; made when first used
+    std::vector<PyObject*>
+        values{};  ///< of an enumeration, in the order of the description; made when first used
     Owned enumeration{};
 };
 

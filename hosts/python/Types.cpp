@@ -20,8 +20,8 @@ PyObject* New(PyTypeObject* type, PyObject*, PyObject*) {
     return Guarded([&]() -> PyObject* {
         const Class& row = ClassOf(type);
         if (row.create == nullptr) {
-            RaisePython(PyExc_TypeError,
-                        "objects of " + std::string{row.name} + " are not made by themselves: other objects give them");
+            RaisePython(PyExc_TypeError, "objects of " + std::string{row.name}
+                                             + " are not made by themselves: other objects give them");
         }
         ObjectPointer object = row.create();
         PrepareNew(*object);
@@ -37,10 +37,12 @@ int Initialise(PyObject* self, PyObject* arguments, PyObject* keywords) {
     return Guarded(-1, [&] {
         const Py_ssize_t given = PyTuple_Size(arguments);
         const auto& properties = Use(self).Description().properties;
-        const auto path = std::find_if(properties.begin(), properties.end(), [](const ClassProperty& property) {
-            return property.set != nullptr && property.type->kind == Kind::Path;
-        });
-        if (given > (path == properties.end() ? 0 : 1)) RaisePython(PyExc_TypeError, "too many arguments without a name");
+        const auto path =
+            std::find_if(properties.begin(), properties.end(), [](const ClassProperty& property) {
+                return property.set != nullptr && property.type->kind == Kind::Path;
+            });
+        if (given > (path == properties.end() ? 0 : 1))
+            RaisePython(PyExc_TypeError, "too many arguments without a name");
         if (given == 1 && PyTuple_GetItem(arguments, 0) != Py_None) {
             const Variant value = FromPython(PyTuple_GetItem(arguments, 0), path->type, Use(self));
             path->set(Use(self), {&value, 1});
@@ -77,7 +79,8 @@ PyObject* Represent(PyObject* self) {
         const Class& row = object.Description();
         std::string text = "<draftwick." + std::string{row.name};
         for (const ClassProperty& property : row.properties) {
-            const bool isName = property.set == nullptr && property.type->kind == Kind::Text && row.create == nullptr;
+            const bool isName =
+                property.set == nullptr && property.type->kind == Kind::Text && row.create == nullptr;
             if (!isName || AsWrapper(self).keeper->busy) continue;
             text += " '" + std::get<std::string>(property.get(object, {})) + "'";
             break;
@@ -90,8 +93,8 @@ PyObject* Represent(PyObject* self) {
 
 const char* Keep(std::string text) { return Module().texts.emplace_back(std::move(text)).c_str(); }
 
-PyTypeObject* MakeType(const std::string& name, std::size_t size, unsigned flags, std::vector<PyType_Slot> slots,
-                       PyTypeObject* base) {
+PyTypeObject* MakeType(const std::string& name, std::size_t size, unsigned flags,
+                       std::vector<PyType_Slot> slots, PyTypeObject* base) {
     slots.push_back({0, nullptr});
     PyType_Spec spec{Keep("draftwick." + name), static_cast<int>(size), 0,
                      static_cast<unsigned>(Py_TPFLAGS_DEFAULT) | flags, slots.data()};
@@ -124,7 +127,8 @@ void AddTypes(PyObject* module) {
         one.type = MakeType(std::string{row->name}, sizeof(Wrapper),
                             row->create != nullptr ? static_cast<unsigned>(Py_TPFLAGS_BASETYPE) : 0,
                             std::move(slots), state.object);
-        Check(PyModule_AddObjectRef(module, std::string{row->name}.c_str(), reinterpret_cast<PyObject*>(one.type)));
+        Check(PyModule_AddObjectRef(module, std::string{row->name}.c_str(),
+                                    reinterpret_cast<PyObject*>(one.type)));
     }
     for (auto& [type, made] : state.types) {
         if (type->description != nullptr) made.objects = state.classes.at(&type->description()).type;

@@ -10,8 +10,8 @@ namespace draftwick::python {
 void AddTypes(PyObject* module);
 
 /// A type with these slots and no others of its own.
-PyTypeObject* MakeType(const std::string& name, std::size_t size, unsigned flags, std::vector<PyType_Slot> slots,
-                       PyTypeObject* base = nullptr);
+PyTypeObject* MakeType(const std::string& name, std::size_t size, unsigned flags,
+                       std::vector<PyType_Slot> slots, PyTypeObject* base = nullptr);
 
 /// A text that lives as long as the module.
 const char* Keep(std::string text);

@@ -13,8 +13,9 @@ namespace {
 PyObject* Constant(std::int32_t number, PythonType& type) {
     EnumerationOf(type);
     const auto& values = type.type->values;
-    const auto found = std::lower_bound(values.begin(), values.end(), number,
-                                        [](const EnumerationValue& one, std::int32_t of) { return one.value < of; });
+    const auto found =
+        std::lower_bound(values.begin(), values.end(), number,
+                         [](const EnumerationValue& one, std::int32_t of) { return one.value < of; });
     if (found == values.end() || found->value != number) return PyLong_FromLong(number);
     return Py_NewRef(type.values[static_cast<std::size_t>(found - values.begin())]);
 }
@@ -40,11 +41,13 @@ bool IsInstance(PyObject* value, PyObject* type) {
 
 /// (255, 128, 0)
 std::int32_t ColorFromTuple(PyObject* tuple) {
-    if (PyTuple_Size(tuple) != 3) RaisePython(PyExc_TypeError, "a colour has three parts: red, green and blue");
+    if (PyTuple_Size(tuple) != 3)
+        RaisePython(PyExc_TypeError, "a colour has three parts: red, green and blue");
     std::int32_t color = 0;
     for (Py_ssize_t i = 0; i < 3; ++i) {
         const std::int32_t part = Whole(PyTuple_GetItem(tuple, i));
-        if (part < 0 || part > 255) RaisePython(PyExc_ValueError, "red, green and blue are numbers from 0 to 255");
+        if (part < 0 || part > 255)
+            RaisePython(PyExc_ValueError, "red, green and blue are numbers from 0 to 255");
         color |= part << (8 * i);
     }
     return color;
@@ -76,7 +79,8 @@ PyObject* EnumerationOf(PythonType& type) {
     const Owned members = Take(PyDict_New());
     for (const EnumerationValue& value : type.type->values) {
         const Owned number = Take(PyLong_FromLong(value.value));
-        Check(PyDict_SetItemString(members.get(), hosts::ConstantName(*type.type, value).c_str(), number.get()));
+        Check(PyDict_SetItemString(members.get(), hosts::ConstantName(*type.type, value).c_str(),
+                                   number.get()));
     }
     const Owned arguments = Take(Py_BuildValue("(sO)", hosts::PlainName(*type.type).c_str(), members.get()));
     const Owned keywords = Take(Py_BuildValue("{ss}", "module", "draftwick"));
