@@ -48,7 +48,8 @@ inline void Check(int status) {
 
 [[noreturn]] void RaisePython(PyObject* type, const std::string& text);
 
-/// UTF-8. What has no place in it (half a surrogate pair) becomes what the library reads as U+FFFD.
+/// UTF-8. Half a surrogate pair has no place in it: one that Python has for a byte of a file name gives that byte, which the
+/// library reads as U+FFFD; any other gives "?".
 std::string TextOf(PyObject* text);
 
 }  // namespace draftwick::python

@@ -17,7 +17,11 @@ std::string TextOf(PyObject* text) {
     if (const char* plain = PyUnicode_AsUTF8AndSize(text, &size))
         return {plain, static_cast<std::size_t>(size)};
     PyErr_Clear();
-    const Owned bytes = Take(PyUnicode_AsEncodedString(text, "utf-8", "surrogatepass"));
+    Owned bytes(PyUnicode_AsEncodedString(text, "utf-8", "surrogateescape"));
+    if (bytes.get() == nullptr) {
+        PyErr_Clear();
+        bytes = Take(PyUnicode_AsEncodedString(text, "utf-8", "replace"));
+    }
     return {PyBytes_AsString(bytes.get()), static_cast<std::size_t>(PyBytes_Size(bytes.get()))};
 }
 
