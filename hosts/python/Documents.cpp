@@ -26,6 +26,9 @@ void AddDocumentMethods(PythonClass& to) {
     to.functions.push_back({"__exit__", Exit, METH_VARARGS, nullptr});
 }
 
-void PrepareNew(Object&) {}
+/// Python has no programs that want the classic spelling.
+void PrepareNew(Object& object) {
+    if (auto* document = dynamic_cast<Document*>(&object)) document->SetSpelling(dwSpellingStandard);
+}
 
 }  // namespace draftwick::python

@@ -1,6 +1,7 @@
 #include <hosts/python/Errors.h>
 
-#include <hosts/model/Names.h>
+#include <hosts/python/Comments.h>
+#include <hosts/python/Names.h>
 #include <hosts/python/Values.h>
 
 #include <new>
@@ -9,20 +10,6 @@
 namespace draftwick::python {
 
 namespace {
-
-/// The built-in exception that a refusal is, too; nullptr for none.
-PyObject* RelativeOf(std::int32_t number) {
-    switch (number) {
-    case dwErrPropertyOutOfRange:
-    case dwRunInvalidCall:
-    case dwRunOverflow: return PyExc_ValueError;
-    case dwErrItemNotFound:
-    case dwRunSubscriptOutOfRange: return PyExc_LookupError;
-    case dwRunTypeMismatch: return PyExc_TypeError;
-    case dwRunDivisionByZero: return PyExc_ZeroDivisionError;
-    default: return nullptr;
-    }
-}
 
 /// The message, as it is in all hosts, is `message`; what str() shows says what to do, too.
 void SetError(const Error& error) {
@@ -42,6 +29,10 @@ void SetSystemError(const std::system_error& error) {
     PyErr_SetObject(PyExc_OSError, arguments.get());
 }
 
+PyObject* BuiltIn(const char* name) {
+    return Checked(PyObject_GetAttrString(Take(PyImport_ImportModule("builtins")).get(), name));
+}
+
 }  // namespace
 
 void RaisePython(PyObject* type, const std::string& text) {
@@ -58,11 +49,12 @@ void AddErrors(PyObject* module) {
         if (!hosts::AreErrorNumbers(*type)) continue;
         for (const EnumerationValue& value : type->values) {
             const std::string name{hosts::PlainValueName(*type, value)};
-            PyObject* relative = RelativeOf(value.value);
-            const Owned bases = relative == nullptr ? Take(Py_BuildValue("(O)", state.error))
-                                                    : Take(Py_BuildValue("(OO)", state.error, relative));
-            PyObject* error =
-                Checked(PyErr_NewException(("draftwick." + name).c_str(), bases.get(), nullptr));
+            const std::string relative{RelativeOf(value.value)};
+            const Owned bases = relative.empty()
+                                    ? Take(Py_BuildValue("(O)", state.error))
+                                    : Take(Py_BuildValue("(ON)", state.error, BuiltIn(relative.c_str())));
+            PyObject* error = Checked(PyErr_NewExceptionWithDoc(
+                ("draftwick." + name).c_str(), Comment(type->name, value.name), bases.get(), nullptr));
             state.errors[value.value] = error;
             Check(PyModule_AddObjectRef(module, name.c_str(), error));
         }

@@ -3,6 +3,7 @@
 #include <hosts/python/Types.h>
 #include <hosts/python/Values.h>
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
@@ -73,13 +74,17 @@ void DeallocateIndexed(PyObject* self) {
     Py_DECREF(reinterpret_cast<PyObject*>(type));
 }
 
-PyTypeObject* IndexedType() {
+}  // namespace
+
+PyTypeObject* MakeIndexedType() {
     return MakeType("IndexedProperty", sizeof(Indexed), Py_TPFLAGS_DISALLOW_INSTANTIATION,
                     {{Py_tp_dealloc, Slot(DeallocateIndexed)},
                      {Py_mp_subscript, Slot(GetAt)},
                      {Py_mp_ass_subscript, Slot(SetAt)},
                      {Py_tp_doc, const_cast<char*>("A property with several values, by their numbers.")}});
 }
+
+namespace {
 
 bool IsName(PyObject* name, const Owned& interned) {
     return name == interned.get() || PyUnicode_Compare(name, interned.get()) == 0;
@@ -207,19 +212,16 @@ void SetAttributes(PyObject* object, PyObject* keywords) {
         Check(PyObject_SetAttr(object, name, value));
 }
 
-void AddAttributes(PythonClass& to) {
-    if (Module().indexed == nullptr) Module().indexed = IndexedType();
-    const auto add = [&](const ClassProperty& row) {
+void AddAttributes(PythonClass& to, std::string_view owner, std::span<const ClassProperty> rows) {
+    for (const ClassProperty& row : rows) {
         PythonProperty& property =
             to.properties.emplace_back(PythonProperty{&row, TypeOf(row.type), MemberName(row.name)});
         const bool isIndexed = !row.arguments.empty();
         const auto get = row.get == nullptr ? nullptr : isIndexed ? GetIndexed : GetAttribute;
         const auto set = row.set == nullptr || isIndexed ? nullptr : SetAttribute;
-        to.attributes.push_back(
-            {property.name.c_str(), get, set, Comment(to.row->name, row.name), &property});
-    };
-    for (const ClassProperty& row : to.row->properties) add(row);
-    for (const ClassProperty& row : CommonProperties()) add(row);
+        to.attributes.push_back({property.name.c_str(), get, set, Comment(owner, row.name), &property});
+    }
+    to.attributes.push_back({});
 }
 
 void AddMethods(PythonClass& to) {
@@ -232,6 +234,9 @@ void AddMethods(PythonClass& to) {
             to.items = &method;  // Python has [] for it
             continue;
         }
+        // What Python has of its own takes the place of what is described.
+        const auto isSame = [&](const PyMethodDef& own) { return own.ml_name == method.name; };
+        if (std::any_of(to.functions.begin(), to.functions.end(), isSame)) continue;
         const auto function = reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(Methods[place]));
         to.functions.push_back(
             {method.name.c_str(), function, METH_FASTCALL | METH_KEYWORDS, Keep(Documentation(to, method))});

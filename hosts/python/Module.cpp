@@ -25,8 +25,6 @@ std::string TextOf(PyObject* text) {
     return {PyBytes_AsString(bytes.get()), static_cast<std::size_t>(PyBytes_Size(bytes.get()))};
 }
 
-const char* Comment(std::string_view, std::string_view) { return ""; }
-
 namespace {
 
 PyObject* Describe(PyObject*, PyObject*) {

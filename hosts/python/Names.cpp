@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <regex>
 
 namespace draftwick::python {
 
@@ -22,7 +23,34 @@ std::string InPython(std::string_view text) {
         if (hosts::AreErrorNumbers(type)) return std::string{hosts::PlainValueName(type, value)};
         return hosts::PlainName(type) + "." + hosts::ConstantName(type, value);
     };
-    return hosts::Respelled(text, {MemberName, constant, hosts::PlainName});
+    std::string result = hosts::Respelled(text, {MemberName, constant, hosts::PlainName});
+    for (const draftwick::Type* type : Enumerations()) {
+        for (const EnumerationValue& value :
+             hosts::AreErrorNumbers(*type) ? type->values : decltype(type->values){}) {
+            const std::regex number("\\b([Rr]un-time )?[Ee]rror " + std::to_string(value.value) + "\\b");
+            result = std::regex_replace(result, number, std::string{hosts::PlainValueName(*type, value)});
+        }
+    }
+    static const std::pair<std::regex, const char*> words[] = {
+        {std::regex("\\btrue\\b"), "True"},
+        {std::regex("\\bfalse\\b"), "False"},
+        {std::regex("\\bstd::system_error\\b|\\bFileError\\b"), "OSError"},
+        {std::regex("::"), "."}};
+    for (const auto& [word, meant] : words) result = std::regex_replace(result, word, meant);
+    return result;
+}
+
+std::string_view RelativeOf(std::int32_t number) {
+    switch (number) {
+    case dwErrPropertyOutOfRange:
+    case dwRunInvalidCall:
+    case dwRunOverflow: return "ValueError";
+    case dwErrItemNotFound:
+    case dwRunSubscriptOutOfRange: return "LookupError";
+    case dwRunTypeMismatch: return "TypeError";
+    case dwRunDivisionByZero: return "ZeroDivisionError";
+    default: return {};
+    }
 }
 
 std::string Literal(const Variant& value, const draftwick::Type* type) {

@@ -10,11 +10,14 @@ namespace draftwick::python {
 /// "break_" of "Break": a word that Python keeps for itself gets an underscore.
 std::string MemberName(std::string_view name);
 
-/// A text of the library in Python's words: "add_section" for "AddSection", "Align.CENTER" for "dwAlignCenter", "True" for
-/// "true". `collection` says "item" of a position from 1 as it does in the library: only names are replaced.
+/// A text of the library in Python's words: "add_section" for "AddSection", "Align.CENTER" for "dwAlignCenter", "Overflow"
+/// for "error 6", "True" for "true".
 std::string InPython(std::string_view text);
 
 /// A value as Python writes it: "None", "True", "'text'", "2.5"; a constant of an enumeration with `type`.
 std::string Literal(const Variant& value, const draftwick::Type* type);
+
+/// The built-in exception that a refusal of that number is, too, like "ValueError"; empty for none.
+std::string_view RelativeOf(std::int32_t number);
 
 }  // namespace draftwick::python

@@ -55,7 +55,7 @@ struct PythonMethod {
 };
 
 struct PythonClass {
-    const Class* row;
+    const Class* row = nullptr;
     PyTypeObject* type = nullptr;
     std::deque<PythonProperty> properties{};
     std::deque<PythonMethod> methods{};
@@ -70,6 +70,7 @@ struct State {
     std::map<const draftwick::Type*, PythonType> types{};
     std::map<std::int32_t, PyObject*> errors{};  ///< the types of exceptions by number
     std::deque<std::string> texts{};             ///< what Python's tables point to
+    PythonClass common{};                        ///< what all classes have
     PyObject* error = nullptr;
     PyTypeObject* object = nullptr;   ///< the base of all types
     PyTypeObject* indexed = nullptr;  ///< what a property with an argument gives

@@ -104,6 +104,12 @@ PyTypeObject* MakeType(const std::string& name, std::size_t size, unsigned flags
 
 void AddTypes(PyObject* module) {
     State& state = Module();
+    const auto add = [&](const std::string& name, PyTypeObject* type) {
+        Check(PyModule_AddObjectRef(module, name.c_str(), reinterpret_cast<PyObject*>(type)));
+    };
+    state.indexed = MakeIndexedType();
+    add("IndexedProperty", state.indexed);
+    AddAttributes(state.common, "Object", CommonProperties());
     state.object = MakeType("Object", sizeof(Wrapper), Py_TPFLAGS_BASETYPE,
                             {{Py_tp_new, Slot(New)},
                              {Py_tp_init, Slot(Initialise)},
@@ -111,14 +117,14 @@ void AddTypes(PyObject* module) {
                              {Py_tp_richcompare, Slot(Compare)},
                              {Py_tp_hash, Slot(Hash)},
                              {Py_tp_repr, Slot(Represent)},
+                             {Py_tp_getset, state.common.attributes.data()},
                              {Py_tp_doc, const_cast<char*>("What all objects of the model are.")}});
-    Check(PyModule_AddObjectRef(module, "Object", reinterpret_cast<PyObject*>(state.object)));
+    add("Object", state.object);
     for (const Class* row : Classes()) {
         PythonClass& one = state.classes.try_emplace(row, PythonClass{row}).first->second;
-        AddAttributes(one);
-        AddMethods(one);
+        AddAttributes(one, row->name, row->properties);
         AddDocumentMethods(one);
-        one.attributes.push_back({});
+        AddMethods(one);
         one.functions.push_back({});
         std::vector<PyType_Slot> slots{{Py_tp_getset, one.attributes.data()},
                                        {Py_tp_methods, one.functions.data()},
@@ -127,8 +133,7 @@ void AddTypes(PyObject* module) {
         one.type = MakeType(std::string{row->name}, sizeof(Wrapper),
                             row->create != nullptr ? static_cast<unsigned>(Py_TPFLAGS_BASETYPE) : 0,
                             std::move(slots), state.object);
-        Check(PyModule_AddObjectRef(module, std::string{row->name}.c_str(),
-                                    reinterpret_cast<PyObject*>(one.type)));
+        add(std::string{row->name}, one.type);
     }
     for (auto& [type, made] : state.types) {
         if (type->description != nullptr) made.objects = state.classes.at(&type->description()).type;

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <hosts/python/Comments.h>
 #include <hosts/python/State.h>
 
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace draftwick::python {
 
@@ -16,12 +19,10 @@ PyTypeObject* MakeType(const std::string& name, std::size_t size, unsigned flags
 /// A text that lives as long as the module.
 const char* Keep(std::string text);
 
-/// The comment of a member in its header, in Python's words; empty where there is none. Without a member that of the class.
-const char* Comment(std::string_view owner, std::string_view member = {});
-
 // What the types are made of.
 
-void AddAttributes(PythonClass& to);
+void AddAttributes(PythonClass& to, std::string_view owner, std::span<const ClassProperty> rows);
+PyTypeObject* MakeIndexedType();
 void AddMethods(PythonClass& to);
 /// [], len, for, in.
 void AddItems(const PythonClass& to, std::vector<PyType_Slot>& slots);

@@ -2,6 +2,7 @@
 
 #include <hosts/model/Lengths.h>
 #include <hosts/model/Names.h>
+#include <hosts/python/Comments.h>
 
 #include <algorithm>
 
@@ -85,6 +86,8 @@ PyObject* EnumerationOf(PythonType& type) {
     const Owned arguments = Take(Py_BuildValue("(sO)", hosts::PlainName(*type.type).c_str(), members.get()));
     const Owned keywords = Take(Py_BuildValue("{ss}", "module", "draftwick"));
     Owned made = Take(PyObject_Call(Module().intEnum, arguments.get(), keywords.get()));
+    const Owned comment(PythonText(Comment(type.type->name)));
+    Check(PyObject_SetAttrString(made.get(), "__doc__", comment.get()));
     std::vector<PyObject*> values;
     for (const EnumerationValue& value : type.type->values) {
         values.push_back(

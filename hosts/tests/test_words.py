@@ -17,7 +17,7 @@ def replay(host, steps):
 
 
 def to_file(steps, spelling, path):
-    return [f"document Filename='{path}'", *steps, "document.Finish"]
+    return [f"document Spelling={spelling} Filename='{path}'", *steps, "document.Finish"]
 
 
 @pytest.mark.parametrize("spelling", SPELLINGS)
