@@ -60,6 +60,8 @@ class Interface:
     def check(self, status):
         if status != 0:
             error = self.library.dw_last_error().contents
+            if status == 2:
+                raise OSError(error.number, error.text.decode())
             raise Error(status, error.number, error.text.decode())
 
     def send(self, value):

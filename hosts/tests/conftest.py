@@ -17,10 +17,14 @@ def temporary_files(tmp_path, monkeypatch):
     monkeypatch.setenv("TMPDIR", str(tmp_path))
 
 
+def interface():
+    import c_interface
+    return c_interface.Interface(next((BUILD / "hosts/c").glob("libdraftwick_c.so")))
+
+
 @pytest.fixture(scope="session", params=["python", "c"])
 def host(request):
     if request.param == "python":
         import python_host
         return python_host.Host()
-    import c_interface
-    return c_interface.Interface(next((BUILD / "hosts/c").glob("libdraftwick_c.so")))
+    return interface()
