@@ -41,7 +41,9 @@ PyObject* Subscript(PyObject* self, PyObject* key) {
         if (position == nullptr && !(std::holds_alternative<std::string>(index) && wanted.kind == Kind::Key))
             RaisePython(PyExc_TypeError,
                         "an item is found by its position from 0 or, where it has one, by its name");
-        if (position != nullptr && wanted.values.empty()) *position = PositionFrom(self, *position);
+        // A constant of an enumeration is what the library calls an item by.
+        const bool isPosition = PyObject_IsInstance(key, Module().intEnum) == 0 && wanted.values.empty();
+        if (position != nullptr && isPosition) *position = PositionFrom(self, *position);
         return Item(self, std::move(index));
     });
 }

@@ -171,7 +171,7 @@ private:
 
 constexpr std::string_view Head = R"("""Writes documents as RTF, in constant memory."""
 
-from collections.abc import Iterable, Mapping, Sequence, Iterator
+from collections.abc import Callable, Iterable, Iterator, Mapping, Sequence
 from datetime import date, datetime
 from enum import IntEnum
 from os import PathLike
