@@ -3,6 +3,8 @@
 #include <hosts/python/Errors.h>
 #include <hosts/python/Values.h>
 
+#include <algorithm>
+
 namespace draftwick::python {
 
 namespace {
