@@ -1,5 +1,6 @@
 #include <hosts/model/Lengths.h>
 
+#include <algorithm>
 #include <charconv>
 #include <string>
 
