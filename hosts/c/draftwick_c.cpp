@@ -24,18 +24,18 @@ struct dw_object {
 namespace {
 
 struct LastError {
-    dw_error error{0, "", ""};
-    std::string text;
-    std::string source;
+    dw_error error{0, "", "", "", ""};
+    std::string text, source, advice, file;
 };
 thread_local LastError lastError;
 
-dw_status Keep(dw_status status, std::int32_t number, const char* text, std::string source = {}) noexcept {
-    lastError.error = {number, "", ""};
+dw_status Keep(dw_status status, std::int32_t number, std::string_view text, std::string_view source = {},
+               std::string_view advice = {}, std::string_view file = {}) noexcept {
+    LastError& last = lastError;
+    last.error = {number, "", "", "", ""};
     try {
-        lastError.text = text;
-        lastError.source = std::move(source);
-        lastError.error = {number, lastError.text.c_str(), lastError.source.c_str()};
+        last.text = text, last.source = source, last.advice = advice, last.file = file;
+        last.error = {number, last.text.c_str(), last.source.c_str(), last.advice.c_str(), last.file.c_str()};
     } catch (const std::bad_alloc&) {
         // The number must do.
     }
@@ -49,7 +49,9 @@ dw_status Guarded(const Work& work) noexcept {
         work();
         return DW_OK;
     } catch (const Error& error) {
-        return Keep(DW_REFUSED, error.Number(), error.what(), error.Source());
+        return Keep(DW_REFUSED, error.Number(), error.what(), error.Source(), error.Advice());
+    } catch (const FileError& error) {
+        return Keep(DW_SYSTEM, error.code().value(), error.what(), {}, {}, error.Filename());
     } catch (const std::system_error& error) {
         return Keep(DW_SYSTEM, error.code().value(), error.what());
     } catch (const std::bad_alloc&) {
@@ -189,6 +191,17 @@ dw_status dw_call(dw_object* object, const char* method, const dw_value* argumen
         if (result != nullptr) *result = {};
         Variant given = CallWith(*Given(object).object, Name(method), arguments, count);
         if (result != nullptr) *result = Send(std::move(given));
+    });
+}
+
+dw_status dw_finish_to(dw_object* document, dw_sink sink, void* user) {
+    return Guarded([&] {
+        auto* const found = dynamic_cast<Document*>(Given(document).object.get());
+        if (found == nullptr || sink == nullptr) Refuse("a document and a function are needed");
+        found->FinishTo([&](std::string_view bytes) {
+            const std::int32_t failed = sink(bytes.data(), bytes.size(), user);
+            if (failed != 0) throw std::system_error(failed, std::generic_category());
+        });
     });
 }
 

@@ -33,7 +33,7 @@ double LengthFrom(std::string_view text, const Object& object) {
         if (document == nullptr) detail::RaiseRuntimeError(dwRunObjectGone);
         return number * unit.inches * detail::FromTwips(TwipsOfInch, document->ScaleMode());
     }
-    Refuse(text, "length: a number and one of in, cm, mm, pt, pc, tw, as in '2.5cm'");
+    Refuse(text, "length; write a number and one of in, cm, mm, pt, pc, tw, as in '2.5cm'");
 }
 
 std::int32_t ColorFrom(std::string_view text) {
@@ -43,7 +43,8 @@ std::int32_t ColorFrom(std::string_view text) {
     const bool isWhole =
         text.starts_with('#') && read.ec == std::errc{} && read.ptr == digits.data() + digits.size();
     if (!isWhole || (digits.size() != 6 && digits.size() != 3))
-        Refuse(text, "colour: '#' and two hexadecimal digits each for red, green and blue, as in '#ff8000'");
+        Refuse(text,
+               "colour; write '#' and two hexadecimal digits each for red, green and blue, as in '#ff8000'");
     // "#f80" is "#ff8800".
     if (digits.size() == 3) rgb = (rgb >> 8 & 15) * 0x110000 | (rgb >> 4 & 15) * 0x1100 | (rgb & 15) * 0x11;
     return static_cast<std::int32_t>((rgb & 0xff) << 16 | (rgb & 0xff00) | rgb >> 16);

@@ -2,18 +2,33 @@
 #include <hosts/python/Types.h>
 #include <hosts/python/Values.h>
 
-/// What Python has of documents that no description can say.
+/// What documents have in Python and the descriptions cannot say; draftwick/_documents.py makes it comfortable.
 namespace draftwick::python {
 
 namespace {
 
-PyObject* Enter(PyObject* self, PyObject*) { return Py_NewRef(self); }
+/// While it lives, nothing of the document can be used.
+class Busy {
+public:
+    explicit Busy(Keeper& keeper) : keeper_(keeper) { keeper_.busy = true; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+    ~Busy() { keeper_.busy = false; }
 
-/// Finishes the document, unless an exception is on its way.
-PyObject* Exit(PyObject* self, PyObject* arguments) {
+private:
+    Keeper& keeper_;
+};
+
+/// Finishes the document into a function that takes the bytes of its file, one piece after the other.
+PyObject* FinishTo(PyObject* self, PyObject* write) {
     return Guarded([&] {
-        if (PyTuple_Size(arguments) == 0 || PyTuple_GetItem(arguments, 0) == Py_None)
-            Take(PyObject_CallMethod(self, "finish", nullptr));
+        auto& document = static_cast<Document&>(Use(self));
+        const Busy busy(*AsWrapper(self).keeper);
+        document.FinishTo([&](std::string_view bytes) {
+            const Owned piece =
+                Take(PyBytes_FromStringAndSize(bytes.data(), static_cast<Py_ssize_t>(bytes.size())));
+            Take(PyObject_CallFunctionObjArgs(write, piece.get(), nullptr));
+        });
         return Py_NewRef(Py_None);
     });
 }
@@ -21,14 +36,15 @@ PyObject* Exit(PyObject* self, PyObject* arguments) {
 }  // namespace
 
 void AddDocumentMethods(PythonClass& to) {
-    if (to.row != &Document::Describe()) return;
-    to.functions.push_back({"__enter__", Enter, METH_NOARGS, nullptr});
-    to.functions.push_back({"__exit__", Exit, METH_VARARGS, nullptr});
+    if (to.row == &Document::Describe()) to.functions.push_back({"_finish_to", FinishTo, METH_O, nullptr});
 }
 
-/// Python has no programs that want the classic spelling.
+/// Python has no programs that want the classic spelling, or the temporary files of documents that they let go.
 void PrepareNew(Object& object) {
-    if (auto* document = dynamic_cast<Document*>(&object)) document->SetSpelling(dwSpellingStandard);
+    auto* document = dynamic_cast<Document*>(&object);
+    if (document == nullptr) return;
+    document->SetSpelling(dwSpellingStandard);
+    document->SetDiscardOnRelease(true);
 }
 
 }  // namespace draftwick::python

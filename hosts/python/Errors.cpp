@@ -11,21 +11,25 @@ namespace draftwick::python {
 
 namespace {
 
-/// The message, as it is in all hosts, is `message`; what str() shows says what to do, too.
 void SetError(const Error& error) {
     const auto found = Module().errors.find(error.Number());
     PyObject* type = found == Module().errors.end() ? Module().error : found->second;
-    const Owned text(PythonText(error.what()));
+    const Owned text(PythonText(error.what())), advice(PythonText(NamesInPython(error.Advice())));
     const Owned value = Take(PyObject_CallFunctionObjArgs(type, text.get(), nullptr));
     const Owned number = Take(PyLong_FromLong(error.Number()));
     Check(PyObject_SetAttrString(value.get(), "number", number.get()));
+    Check(PyObject_SetAttrString(value.get(), "advice", advice.get()));
     PyErr_SetObject(type, value.get());
 }
 
 /// OSError makes itself one of its own kinds by the number: FileNotFoundError, PermissionError.
-void SetSystemError(const std::system_error& error) {
-    const Owned text(PythonText(error.what()));
-    const Owned arguments = Take(Py_BuildValue("(iO)", error.code().value(), text.get()));
+void SetSystemError(const std::system_error& error, const std::string& filename) {
+    const Owned text(PythonText(filename.empty() ? error.what() : error.code().message()));
+    const Owned name =
+        Take(PyUnicode_DecodeFSDefaultAndSize(filename.data(), static_cast<Py_ssize_t>(filename.size())));
+    const Owned arguments = filename.empty()
+                                ? Take(Py_BuildValue("(iO)", error.code().value(), text.get()))
+                                : Take(Py_BuildValue("(iOO)", error.code().value(), text.get(), name.get()));
     PyErr_SetObject(PyExc_OSError, arguments.get());
 }
 
@@ -68,8 +72,10 @@ void SetErrorFromException() noexcept {
         } catch (const PythonError&) {
         } catch (const Error& error) {
             SetError(error);
+        } catch (const FileError& error) {
+            SetSystemError(error, error.Filename());
         } catch (const std::system_error& error) {
-            SetSystemError(error);
+            SetSystemError(error, {});
         } catch (const std::bad_alloc&) {
             PyErr_NoMemory();
         } catch (const std::exception& error) {

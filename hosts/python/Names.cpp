@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <regex>
+#include <vector>
 
 namespace draftwick::python {
 
@@ -17,25 +18,33 @@ std::string MemberName(std::string_view name) {
     return plain;
 }
 
-std::string InPython(std::string_view text) {
+std::string NamesInPython(std::string_view text) {
     const auto constant = [](const draftwick::Type& type, const EnumerationValue& value) {
         // The numbers of errors are exceptions.
         if (hosts::AreErrorNumbers(type)) return std::string{hosts::PlainValueName(type, value)};
         return hosts::PlainName(type) + "." + hosts::ConstantName(type, value);
     };
-    std::string result = hosts::Respelled(text, {MemberName, constant, hosts::PlainName});
-    for (const draftwick::Type* type : Enumerations()) {
-        for (const EnumerationValue& value :
-             hosts::AreErrorNumbers(*type) ? type->values : decltype(type->values){}) {
-            const std::regex number("\\b([Rr]un-time )?[Ee]rror " + std::to_string(value.value) + "\\b");
-            result = std::regex_replace(result, number, std::string{hosts::PlainValueName(*type, value)});
+    return hosts::Respelled(text, {MemberName, constant, hosts::PlainName});
+}
+
+std::string InPython(std::string_view comment) {
+    // The errors by their numbers, and what Python calls otherwise.
+    static const auto words = [] {
+        std::vector<std::pair<std::regex, std::string>> all{
+            {std::regex("\\btrue\\b"), "True"},
+            {std::regex("\\bfalse\\b"), "False"},
+            {std::regex("\\bstd::system_error\\b|\\bFileError\\b"), "OSError"},
+            {std::regex("::"), "."}};
+        for (const draftwick::Type* type : Enumerations()) {
+            if (!hosts::AreErrorNumbers(*type)) continue;
+            for (const EnumerationValue& value : type->values) {
+                all.emplace_back("\\b([Rr]un-time )?[Ee]rror " + std::to_string(value.value) + "\\b",
+                                 hosts::PlainValueName(*type, value));
+            }
         }
-    }
-    static const std::pair<std::regex, const char*> words[] = {
-        {std::regex("\\btrue\\b"), "True"},
-        {std::regex("\\bfalse\\b"), "False"},
-        {std::regex("\\bstd::system_error\\b|\\bFileError\\b"), "OSError"},
-        {std::regex("::"), "."}};
+        return all;
+    }();
+    std::string result = NamesInPython(comment);
     for (const auto& [word, meant] : words) result = std::regex_replace(result, word, meant);
     return result;
 }

@@ -54,6 +54,12 @@ std::int32_t ColorFromTuple(PyObject* tuple) {
     return color;
 }
 
+/// Of anything that has bytes: bytes, bytearray, memoryview, an array.
+std::string BytesFrom(PyObject* value) {
+    const Owned bytes = Take(PyBytes_FromObject(value));
+    return {PyBytes_AsString(bytes.get()), static_cast<std::size_t>(PyBytes_Size(bytes.get()))};
+}
+
 /// In the system's bytes, whatever they are: a str, bytes or anything that has __fspath__.
 std::string PathFrom(PyObject* value) {
     const Owned path = Take(PyOS_FSPath(value));
@@ -62,7 +68,7 @@ std::string PathFrom(PyObject* value) {
         bytes = Owned(Py_NewRef(path.get()));
     else
         bytes = Take(PyUnicode_EncodeFSDefault(path.get()));
-    return {PyBytes_AsString(bytes.get()), static_cast<std::size_t>(PyBytes_Size(bytes.get()))};
+    return BytesFrom(bytes.get());
 }
 
 /// What is a number by its own word: of NumPy, decimal.Decimal, fractions.Fraction.
@@ -140,6 +146,7 @@ PyObject* ToPython(Variant&& value, PythonType* type, Keeper* keeper) {
 Variant FromPython(PyObject* value, const draftwick::Type* type, const Object& object) {
     const Kind kind = type == nullptr ? Kind::Any : type->kind;
     if (kind == Kind::Path && value != Py_None) return PathFrom(value);
+    if (kind == Kind::Bytes) return BytesFrom(value);
     if (PyUnicode_Check(value) != 0) {
         std::string text = TextOf(value);
         if (kind == Kind::Length) return hosts::LengthFrom(text, object);

@@ -11,6 +11,8 @@ import pytest
 from conftest import BUILD, ROOT, interface
 from package_over_c import Package
 
+# The programs in C++ write the classic spelling, which has no Greek.
+pytestmark = pytest.mark.filterwarnings("ignore::UnicodeWarning")
 NAMES = sorted(path.stem for path in (ROOT / "examples").glob("*.py"))
 
 
@@ -20,7 +22,7 @@ def run(name, monkeypatch, *arguments):
 
 
 def package(host):
-    """What the program imports. The programs in C++ write the classic spelling."""
+    """What the program imports."""
     if host == "c":
         import c_interface
         return Package(interface(), c_interface.Error)

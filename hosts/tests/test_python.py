@@ -97,14 +97,69 @@ def test_refusals():
         document.current_section.add_paragraph().format.indent_left = 1e9
 
 
+def test_finishing(tmp_path):
+    def document(**settings):
+        made = draftwick.Document(tmp_path / "a.rtf", **settings)
+        made.add_section().add_paragraph().add_text_item("αβγ")
+        return made
+
+    with document():
+        pass
+    expected = (tmp_path / "a.rtf").read_bytes()
+    assert document(body_in_memory=True).to_bytes() == expected and b"\\u945" in expected
+    document().finish(tmp_path / "b.rtf")
+    with open(tmp_path / "c.rtf", "wb", buffering=0) as file:
+        document().finish(file)
+    assert (tmp_path / "b.rtf").read_bytes() == (tmp_path / "c.rtf").read_bytes() == expected
+
+    class Slow:
+        def __init__(self):
+            self.taken = b""
+
+        def write(self, data):
+            self.taken += data[:7]
+            return len(data[:7])
+
+    slow = Slow()
+    document().finish(slow)
+    assert slow.taken == expected
+    with pytest.warns(UnicodeWarning, match="3 characters"):
+        assert b"???" in document(spelling=draftwick.Spelling.CLASSIC).to_bytes()
+    with pytest.raises(ZeroDivisionError), document(filename=tmp_path / "d.rtf"):
+        1 / 0
+    with document(filename=tmp_path / "d.rtf") as given_up:
+        given_up.discard()
+    document()  # is let go
+    gc.collect()
+    assert sorted(path.name for path in tmp_path.iterdir()) == ["a.rtf", "b.rtf", "c.rtf"]
+
+
 def test_failing_files(tmp_path):
-    with pytest.raises(FileNotFoundError):
+    with pytest.raises(FileNotFoundError) as caught:
         with draftwick.Document(tmp_path / "none" / "a.rtf") as document:
             document.add_section()
+    assert caught.value.filename == str(tmp_path / "none" / "a.rtf")
     with pytest.raises(OSError) as caught:
         with draftwick.Document("/dev/full") as document:
             document.add_section().add_paragraph().add_text_item("x" * 10_000_000)
     assert caught.value.errno == errno.ENOSPC
+
+    class Sink:
+        def __init__(self, act):
+            self.write = act
+
+    document = draftwick.Document()
+    document.add_section()
+    for act, error in ((lambda data: 1 / 0, ZeroDivisionError), (lambda data: document.add_section(), draftwick.Error),
+                       (lambda data: document.finish(), draftwick.Error), (lambda: None, TypeError)):
+        with pytest.raises(error):
+            document.finish(Sink(act))
+        assert not document.finished
+    with pytest.raises(FileNotFoundError):
+        document.finish(tmp_path / "none" / "a.rtf")
+    assert document.to_bytes().startswith(b"{\\rtf1") and document.finished
+    with pytest.raises(draftwick.TargetEmitted):
+        document.to_bytes()
 
 
 def test_life():

@@ -23,6 +23,10 @@ def sample(kind):
     return list(getattr(draftwick, python_type(kind)))[0]
 
 
+def sample_of(argument):
+    return None if argument["type"] in HOST.classes else sample(argument["type"])
+
+
 def python_type(kind):
     plain = kind[2:] if kind.startswith("dw") else kind
     return plain + "Side" if plain in HOST.classes and plain != kind else plain
@@ -67,7 +71,8 @@ def ways():
             queue.append((one["type"], way + [("indexed" if "arguments" in one else "get", one["name"])]))
         for one in members["methods"]:
             if one["name"].startswith("Add"):
-                step = ("call", one["name"], *[sample(argument["type"]) for argument in one["arguments"]])
+                needed = [argument for argument in one["arguments"] if "default" not in argument]
+                step = ("call", one["name"], *[sample(argument["type"]) for argument in needed])
                 queue.append((one["result"], way + [step]))
         if "items" in members:
             queue.append((members["items"], way + [("items", "")]))
@@ -119,7 +124,7 @@ def test_every_method_with_wrong_kinds(objects):
             method, count = getattr(one, snake(member["name"])), len(member["arguments"])
             for value in WRONG:
                 for place in range(count):
-                    arguments = [sample(argument["type"]) for argument in member["arguments"]]
+                    arguments = [sample_of(argument) for argument in member["arguments"]]
                     arguments[place] = value
                     try:
                         result = method(*arguments)

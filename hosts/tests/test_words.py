@@ -7,6 +7,7 @@ import pytest
 from conftest import BUILD, ROOT
 from script import Script, rows
 
+pytestmark = pytest.mark.filterwarnings("ignore::UnicodeWarning")  # rows about characters that are lost
 SPELLINGS = {"classic": 1, "standard": 2}
 
 

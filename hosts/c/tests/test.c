@@ -112,6 +112,32 @@ static void test_files(dw_object* document) {
     dw_release(object_of(document, "AddSection"));
     EXPECT(dw_call(document, "Finish", NULL, 0, NULL) == DW_SYSTEM);
     EXPECT(dw_last_error()->number == 2 && strstr(dw_last_error()->text, "no such folder") != NULL);
+    EXPECT(strstr(dw_last_error()->file, "no such folder") != NULL && dw_last_error()->advice[0] == '\0');
+}
+
+struct received {
+    char begin[16];
+    size_t size;
+    int32_t failure;
+};
+
+static int32_t receive(const char* data, size_t size, void* user) {
+    struct received* received = user;
+    if (received->size < sizeof received->begin)
+        memcpy(received->begin + received->size, data,
+               size < sizeof received->begin - received->size ? size : sizeof received->begin - received->size);
+    received->size += size;
+    return received->failure;
+}
+
+static void test_finishing_to_a_function(dw_object* document) {
+    struct received received = {"", 0, 28};
+    EXPECT(dw_finish_to(document, receive, &received) == DW_SYSTEM && dw_last_error()->number == 28);
+    received.size = 0, received.failure = 0;
+    EXPECT(dw_finish_to(document, receive, &received) == DW_OK);
+    EXPECT(memcmp(received.begin, "{\\rtf1", 6) == 0 && received.size > 100);
+    EXPECT(refused(dw_finish_to(document, receive, &received), -2147220882));
+    EXPECT(refused(dw_finish_to(document, NULL, NULL), 5) && refused(dw_finish_to(NULL, receive, NULL), 5));
 }
 
 int main(void) {
@@ -122,6 +148,7 @@ int main(void) {
     test_values(document);
     test_refusals(document);
     test_files(document);
+    test_finishing_to_a_function(document);
     section = part_of(document, "CurrentSection");
     dw_release(document);
     EXPECT(refused(dw_call(section, "AddParagraph", NULL, 0, &result), 91));

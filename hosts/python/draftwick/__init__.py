@@ -19,6 +19,7 @@ if _sysconfig.get_config_var("Py_GIL_DISABLED"):
 from ._draftwick import *  # noqa: E402,F403
 from ._draftwick import __version__, describe as _describe, enumeration as _enumeration  # noqa: E402
 from ._draftwick import enumeration_names as _enumeration_names  # noqa: E402
+from . import _documents  # noqa: E402,F401
 from ._tables import add_table_from as _add_table_from  # noqa: E402
 
 Document.add_table_from = _add_table_from  # noqa: F405

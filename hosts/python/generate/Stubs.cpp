@@ -31,6 +31,7 @@ Hint HintOf(const draftwick::Type* type) {
     case Kind::Color: return {"str", "_Color"};
     case Kind::Text: return both("str");
     case Kind::Path: return {"str", "_Path"};
+    case Kind::Bytes: return both("bytes");
     case Kind::Key: return both("int | str");
     case Kind::Value: return {"_Value", "_Value | date"};
     case Kind::Object: return both("Object");
@@ -175,6 +176,7 @@ from collections.abc import Callable, Iterable, Iterator, Mapping, Sequence
 from datetime import date, datetime
 from enum import IntEnum
 from os import PathLike
+from types import TracebackType
 from typing import Any, Generic, NoReturn, Protocol, TypeAlias, TypeVar, final
 
 _Never: TypeAlias = NoReturn
@@ -183,6 +185,7 @@ __version__: str
 
 def __dir__() -> list[str]: ...
 
+_Self = TypeVar("_Self")
 _Given = TypeVar("_Given", covariant=True)
 _Taken = TypeVar("_Taken", contravariant=True)
 
@@ -192,6 +195,9 @@ _Length: TypeAlias = float | str
 _Color: TypeAlias = str | tuple[int, int, int] | int
 _Path: TypeAlias = str | bytes | PathLike[str] | PathLike[bytes]
 _Value: TypeAlias = bool | int | float | str | datetime | None
+
+class _Writes(Protocol):
+    def write(self, data: bytes, /) -> object: ...
 
 class _Setting(Generic[_Given, _Taken]):
     """A property that takes more kinds of value than it gives."""

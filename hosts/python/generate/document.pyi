@@ -1,6 +1,19 @@
-    def __enter__(self) -> "Document": ...
-    def __exit__(self, *exception: object) -> None:
-        """Finishes the document; gives it up when there is an exception."""
+    def __enter__(self: _Self) -> _Self: ...
+    def __exit__(
+        self, kind: type[BaseException] | None, error: BaseException | None, trace: TracebackType | None
+    ) -> None:
+        """Finishes the document; gives it up when an exception leaves the block."""
+        ...
+    def finish(self, to: _Path | _Writes | None = None) -> None:
+        """Writes the document to its filename, or to a path or file object instead. A file gets its name when it is
+        complete.
+
+        When that fails the document is not finished, and another finish() writes the whole once the cause is gone. On a
+        document that is finished, finish() does nothing, and finish(to) is refused. UnicodeWarning when the file does not
+        hold all characters, which only the classic spelling does not."""
+        ...
+    def to_bytes(self) -> bytes:
+        """Finishes the document and gives the bytes of its file."""
         ...
     def add_table_from(
         self,

@@ -76,7 +76,12 @@ typedef struct dw_error {
     int32_t number;
     const char* text;   /* the message */
     const char* source; /* "Draftwick" for a dwErrCode, else empty */
+    const char* advice; /* what was refused, with its limits, and what to do about it; can be empty */
+    const char* file;   /* of DW_SYSTEM: the file's name, in the system's bytes; can be empty */
 } dw_error;
+
+/* Takes a piece of a file. 0 when it did; anything else ends the call with DW_SYSTEM and that number. */
+typedef int32_t (*dw_sink)(const char* data, size_t size, void* user);
 
 /* DW_C_VERSION of the library that runs. */
 DW_EXPORT int32_t dw_c_version(void);
@@ -94,7 +99,8 @@ DW_EXPORT int32_t dw_c_version(void);
  *                              "arguments": [{"name", "type", "default"}, ...]}, ...]}, ...]}
  *
  * A type is the name of an enumeration, of a class or of a kind: Boolean, Number, Real, Length, Color, Text, Path, Key (of
- * an item: a position from 1 or a name), Value (nothing or anything but an object), Object, Any. */
+ * an item: a position from 1 or a name), Value (nothing or anything but an object), Object, Any,
+ * Bytes (of a file). */
 DW_EXPORT const char* dw_describe(void);
 
 /* A new object of a class that hosts make objects of. */
@@ -117,6 +123,9 @@ DW_EXPORT dw_status dw_set(dw_object* object, const char* property, const dw_val
  * is called, too: "AdjustValues" with its index, "SetAdjustValues" with its index and the value. */
 DW_EXPORT dw_status dw_call(dw_object* object, const char* method, const dw_value* arguments, size_t count,
                             dw_value* result);
+/* Finishes a document into a function in place of a file; `user` is handed on. When the function fails the document is not
+ * finished, and a later call writes the whole. */
+DW_EXPORT dw_status dw_finish_to(dw_object* document, dw_sink sink, void* user);
 /* Lets go what a received value owns, and makes it nothing. */
 DW_EXPORT void dw_clear(dw_value* value);
 
