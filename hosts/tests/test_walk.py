@@ -72,8 +72,9 @@ def ways():
         for one in members["methods"]:
             if one["name"].startswith("Add"):
                 needed = [argument for argument in one["arguments"] if "default" not in argument]
-                step = ("call", one["name"], *[sample(argument["type"]) for argument in needed])
-                queue.append((one["result"], way + [step]))
+                for arguments in needed, one["arguments"]:
+                    step = ("call", one["name"], *map(sample_of, arguments))
+                    queue.append((one["result"], way + [step]))
         if "items" in members:
             queue.append((members["items"], way + [("items", "")]))
     return found
