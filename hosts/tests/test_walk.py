@@ -2,6 +2,7 @@
 
 import datetime
 import enum
+import inspect
 
 import draftwick
 import pytest
