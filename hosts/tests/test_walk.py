@@ -124,6 +124,8 @@ def test_every_method_with_wrong_kinds(objects):
                         one[key] if not isinstance(key, str) or len(one) == 0 else one["no such thing"]
                 continue
             method, count = getattr(one, snake(member["name"])), len(member["arguments"])
+            if inspect.ismethod(method):
+                continue  # Python has its own in the place of it
             for value in WRONG:
                 for place in range(count):
                     arguments = [sample_of(argument) for argument in member["arguments"]]
