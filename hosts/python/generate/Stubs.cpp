@@ -145,7 +145,9 @@ private:
     void Method(const draftwick::Class& one, const ClassMethod& method) {
         out_ << "    def " << MemberName(method.name) << "(self";
         for (const Argument& argument : method.arguments) {
-            out_ << ", " << MemberName(argument.name) << ": " << HintOf(argument.type).taken;
+            const bool isOptional = argument.initial && argument.initial->index() == 0;
+            out_ << ", " << MemberName(argument.name) << ": " << HintOf(argument.type).taken
+                 << (isOptional ? " | None" : "");
             if (!argument.initial) continue;
             // A constant is no text that inspect.signature could read.
             out_ << " = "
