@@ -14,7 +14,9 @@ namespace {
 void SetError(const Error& error) {
     const auto found = Module().errors.find(error.Number());
     PyObject* type = found == Module().errors.end() ? Module().error : found->second;
-    const Owned text(PythonText(error.what())), advice(PythonText(NamesInPython(error.Advice())));
+    const bool isAdvised = error.Advice() != error.what();
+    const Owned text(PythonText(error.what()));
+    const Owned advice(PythonText(isAdvised ? NamesInPython(error.Advice()) : std::string{}));
     const Owned value = Take(PyObject_CallFunctionObjArgs(type, text.get(), nullptr));
     const Owned number = Take(PyLong_FromLong(error.Number()));
     Check(PyObject_SetAttrString(value.get(), "number", number.get()));

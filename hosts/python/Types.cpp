@@ -9,23 +9,22 @@ namespace draftwick::python {
 
 namespace {
 
-/// The class that a type was made for, also when the type is derived from it in Python.
-const Class& ClassOf(PyTypeObject* type) {
-    for (;; type = static_cast<PyTypeObject*>(PyType_GetSlot(type, Py_tp_base))) {
+/// The class that a type was made for, also when the type is derived from it in Python; nullptr for the base of all.
+const Class* ClassOf(PyTypeObject* type) {
+    for (; type != Module().object; type = static_cast<PyTypeObject*>(PyType_GetSlot(type, Py_tp_base))) {
         for (const auto& [row, one] : Module().classes) {
-            if (one.type == type) return *row;
+            if (one.type == type) return row;
         }
     }
+    return nullptr;
 }
 
 PyObject* New(PyTypeObject* type, PyObject*, PyObject*) {
     return Guarded([&]() -> PyObject* {
-        const Class& row = ClassOf(type);
-        if (row.create == nullptr) {
-            RaisePython(PyExc_TypeError, "objects of " + std::string{row.name}
-                                             + " are not made by themselves: other objects give them");
-        }
-        ObjectPointer object = row.create();
+        const Class* row = ClassOf(type);
+        if (row == nullptr || row->create == nullptr)
+            RaisePython(PyExc_TypeError, "such an object is not made by itself: other objects give it");
+        ObjectPointer object = row->create();
         PrepareNew(*object);
         auto keeper = std::make_unique<Keeper>(Keeper{object});
         PyObject* made = Wrap(std::move(object), type, keeper.get());
@@ -58,8 +57,7 @@ void Deallocate(PyObject* self) {
     Wrapper& wrapper = AsWrapper(self);
     PyTypeObject* type = Py_TYPE(self);
     wrapper.object.~ObjectPointer();
-    // The document is empty in an object that failed to be made.
-    if (wrapper.keeper != nullptr && --wrapper.keeper->users == 0) delete wrapper.keeper;
+    if (--wrapper.keeper->users == 0) delete wrapper.keeper;
     reinterpret_cast<freefunc>(PyType_GetSlot(type, Py_tp_free))(self);
     Py_DECREF(reinterpret_cast<PyObject*>(type));
 }

@@ -1,5 +1,6 @@
 """What the Python package is by itself: how Python's people expect it to behave."""
 
+import copy
 import datetime
 import decimal
 import errno
@@ -77,8 +78,12 @@ def test_keywords():
         section.add_paragraph().add_text_item("a", text="b")
     with pytest.raises(AttributeError):
         document.no_such_thing = 1
-    with pytest.raises(TypeError):
-        draftwick.Paragraph()
+    for made_by_others in (draftwick.Paragraph, draftwick.Object, type("Mine", (draftwick.Object,), {})):
+        with pytest.raises(TypeError):
+            made_by_others()
+    for copied in (copy.copy, copy.deepcopy, pickle.dumps):
+        with pytest.raises(TypeError):
+            copied(document)
     with pytest.raises(AttributeError):
         draftwick.NoSuchEnumeration
     assert str(inspect.signature(draftwick.Paragraph.add_text_item)) == "(self, /, text, raw=False, **properties)"
@@ -90,6 +95,8 @@ def test_refusals():
     with pytest.raises(draftwick.PropertyOutOfRange, match="ScaleMode") as caught:
         document.scale_mode = 9
     assert isinstance(caught.value, ValueError) and caught.value.number == -2147220890
+    with pytest.raises(draftwick.Overflow, match="Document.margin_left 200 inches: .*scale_mode is ScaleMode.INCHES"):
+        document.margin_left = 200
     document.add_section()
     with pytest.raises(draftwick.TargetEmitted):
         document.margin_left = 1

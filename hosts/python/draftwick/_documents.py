@@ -83,6 +83,11 @@ def _text_of_error(self):
     return " ".join(str(text) for text in (*self.args[:1], self.advice) if text)
 
 
+def _refuse_to_copy(self, protocol=None):
+    raise TypeError(f"a {type(self).__name__} belongs to its document: it can be neither copied nor pickled")
+
+
+_d.Object.__reduce_ex__ = _refuse_to_copy
 for _name, _method in {"finish": finish, "to_bytes": to_bytes, "__enter__": _enter, "__exit__": _exit}.items():
     setattr(_d.Document, _name, _method)
 _d.Error.__str__ = _text_of_error
