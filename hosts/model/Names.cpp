@@ -49,12 +49,13 @@ struct Vocabulary {
     }
 };
 
-/// Whether a capitalised word of a sentence is meant as a name of the object model: "MarginTop" is, "Name" is not, but
-/// for "Document.Name".
+/// Whether a capitalised word is meant as a name of the object model, and does not only begin a sentence.
 bool IsName(std::string_view text, std::size_t start, std::size_t end) {
-    const bool inPath = start > 0 && text[start - 1] == '.' && start > 1 && IsOfWord(text[start - 2]);
     const auto inner = text.substr(start + 1, end - start - 1);
-    return inPath || std::any_of(inner.begin(), inner.end(), IsUpper);
+    if (std::any_of(inner.begin(), inner.end(), IsUpper)) return true;
+    if (start < 2) return false;
+    if (text[start - 1] == '.') return IsOfWord(text[start - 2]) || text[start - 2] == ')';
+    return text[start - 1] == ' ' && (IsOfWord(text[start - 2]) || text[start - 2] == ',');
 }
 
 }  // namespace

@@ -58,9 +58,9 @@ PyObject* EnumerationNames(PyObject*, PyObject*) {
 }
 
 PyMethodDef functions[] = {
-    {"describe", Describe, METH_NOARGS, "The whole object model as JSON: classes, members, enumerations."},
-    {"enumeration", FindEnumeration, METH_O, nullptr},
-    {"enumeration_names", EnumerationNames, METH_NOARGS, nullptr},
+    {"_describe", Describe, METH_NOARGS, "The whole object model as JSON: classes, members, enumerations."},
+    {"_enumeration", FindEnumeration, METH_O, nullptr},
+    {"_enumeration_names", EnumerationNames, METH_NOARGS, nullptr},
     {}};
 
 PyObject* Import(const char* module, const char* name) {

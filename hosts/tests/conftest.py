@@ -1,5 +1,5 @@
 """What the tests of the hosts need: DRAFTWICK_BUILD names the folder of a build with the options DRAFTWICK_C and
-DRAFTWICK_PYTHON."""
+DRAFTWICK_PYTHON, DRAFTWICK_PROGRAMS that of one with the programs in C++ whose files are compared, by default the same."""
 
 import os
 import pathlib
@@ -9,6 +9,7 @@ import pytest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("DRAFTWICK_BUILD", ROOT / "build/dev")).resolve()
+PROGRAMS = pathlib.Path(os.environ.get("DRAFTWICK_PROGRAMS", BUILD)).resolve()
 sys.path.insert(0, str(BUILD / "hosts/python"))
 
 

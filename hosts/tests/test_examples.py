@@ -8,7 +8,7 @@ import sys
 
 import draftwick
 import pytest
-from conftest import BUILD, ROOT, interface
+from conftest import PROGRAMS, ROOT, interface
 from package_over_c import Package
 
 # The programs in C++ write the classic spelling, which has no Greek.
@@ -34,7 +34,7 @@ def package(host):
 def test_bytes_are_those_of_cpp(host, name, tmp_path, monkeypatch):
     if not (ROOT / f"examples/{name}.cpp").exists():
         pytest.skip("the program is in Python alone")
-    program, out = BUILD / "examples" / name, tmp_path / f"{name}.rtf"
+    program, out = PROGRAMS / "examples" / name, tmp_path / f"{name}.rtf"
     subprocess.run([program, out], check=True, stdout=subprocess.DEVNULL, env={**os.environ, "LD_PRELOAD": ""})
     expected = {path.name: path.read_bytes() for path in tmp_path.glob("*.rtf")}
     pictures = sorted(tmp_path.glob("*.rtf.*.*g*"), reverse=True)

@@ -4,7 +4,7 @@ import os
 import subprocess
 
 import pytest
-from conftest import BUILD, ROOT
+from conftest import PROGRAMS, ROOT
 from script import Script, rows
 
 pytestmark = pytest.mark.filterwarnings("ignore::UnicodeWarning")  # rows about characters that are lost
@@ -27,7 +27,7 @@ def test_bytes_are_those_of_cpp(host, name, spelling, tmp_path):
     documents = list(rows(ROOT / f"tests/words/{name}.txt"))
     steps = [to_file(steps, SPELLINGS[spelling], tmp_path / f"cpp{line}.rtf") for line, steps in documents]
     text = "\n\n".join("\n".join(document) for document in steps)
-    program = [BUILD / "tests/draftwick_script"]
+    program = [PROGRAMS / "tests/draftwick_script"]
     # What is preloaded is for this process: a sanitizer's library.
     subprocess.run(program, input=text + "\n", text=True, check=True, env={**os.environ, "LD_PRELOAD": ""})
     different = []

@@ -17,8 +17,7 @@ if _sysconfig.get_config_var("Py_GIL_DISABLED"):
     raise ImportError("draftwick needs a Python with the global interpreter lock; this is a free-threaded build")
 
 from ._draftwick import *  # noqa: E402,F403
-from ._draftwick import __version__, describe as _describe, enumeration as _enumeration  # noqa: E402
-from ._draftwick import enumeration_names as _enumeration_names  # noqa: E402
+from ._draftwick import __version__, _describe, _enumeration, _enumeration_names  # noqa: E402,F401
 from . import _documents  # noqa: E402,F401
 from ._tables import add_table_from as _add_table_from  # noqa: E402
 

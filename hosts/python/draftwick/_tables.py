@@ -49,8 +49,8 @@ def add_table_from(self, rows, columns=None, *, into=None, widths=None, header=T
 class _Table:
     def __init__(self, into, widths, right, lines, style_name):
         self.into, self.widths, self.right, self.lines, self.style_name = into, widths, right, lines, style_name
-        self.right_align = _d.enumeration("ParagraphAlign").RIGHT
-        self.solid, self.single = _d.enumeration("Texture").SOLID, _d.enumeration("BorderStyle").SINGLE
+        self.right_align = _d._enumeration("ParagraphAlign").RIGHT
+        self.solid, self.single = _d._enumeration("Texture").SOLID, _d._enumeration("BorderStyle").SINGLE
 
     def add_row(self, texts, color, is_header=False):
         row = self.into.add_table(keep_together=True)
