@@ -239,7 +239,7 @@ import draftwick
 """
 
 
-@pytest.mark.parametrize("program, why", [(SUB_INTERPRETER, "main interpreter"), (FREE_THREADED, "free-threaded")])
+@pytest.mark.parametrize("program, why", [(SUB_INTERPRETER, "interpreter"), (FREE_THREADED, "free-threaded")])
 def test_refuses_to_be_imported(program, why):
     package = str(pathlib.Path(draftwick.__file__).parents[1])
     environment = {**os.environ, "PYTHONPATH": package}
