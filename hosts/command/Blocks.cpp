@@ -117,8 +117,8 @@ void Writer::Block(cmark_node* node, RowContainer& holder, const Position& posit
     case CMARK_NODE_HTML_BLOCK: HtmlBlock(Literal(node), holder, position); break;
     case CMARK_NODE_BLOCK_QUOTE: {
         Position inner = position;
-        if (position.quoted) inner.indent += QuoteStep;
-        inner.quoted = true;
+        inner.indent += QuoteStep;
+        ++inner.quotes;
         Blocks(node, holder, inner);
         break;
     }
@@ -134,7 +134,9 @@ std::shared_ptr<Paragraph> Writer::Begin(Container& holder, std::string_view sty
     auto paragraph = holder.AddParagraph();
     paragraph->SetStyleName(style);
     const auto format = paragraph->Format();
-    if (position.indent > 0) format->SetIndentLeft(format->IndentLeft() + position.indent);
+    // The style of quotations has the first one's indent itself.
+    const double indent = position.indent - (style == "Quote" ? QuoteStep : 0);
+    if (indent > 0) format->SetIndentLeft(format->IndentLeft() + indent);
     if (!position.list.empty()) {
         format->SetListName(position.list);
         format->SetListLevel(position.level);
@@ -144,11 +146,9 @@ std::shared_ptr<Paragraph> Writer::Begin(Container& holder, std::string_view sty
 }
 
 void Writer::Plain(cmark_node* node, RowContainer& holder, const Position& position) {
-    const char* style = inNote_             ? "footnote text"
-        : position.quoted && position.level == 0 ? "Quote"
-        : position.level == 0               ? "Normal"
-        : position.tight && !position.last  ? "List"
-                                            : "List Paragraph";
+    std::string_view style = position.quotes > 0 ? "Quote" : "Normal";
+    if (position.level > 0) style = position.tight && !position.last ? "List" : "List Paragraph";
+    if (inNote_) style = "footnote text";
     const auto paragraph = Begin(holder, style, position);
     Inlines(cmark_node_first_child(node), nullptr, *paragraph, {});
     Flush(*paragraph);

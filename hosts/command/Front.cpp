@@ -19,6 +19,19 @@ std::string AnchorOf(std::string_view text) {
     return anchor;
 }
 
+/// What <a id="..."> is called by links; empty for any other node.
+std::string IdOf(cmark_node* node) {
+    std::string_view html = cmark_node_get_type(node) == CMARK_NODE_HTML_INLINE ? Literal(node) : "";
+    if (!html.starts_with("<a ")) return {};
+    for (const std::string_view mark : {" id=\"", " name=\""}) {
+        const std::size_t at = html.find(mark);
+        if (at == html.npos) continue;
+        html.remove_prefix(at + mark.size());
+        return std::string{html.substr(0, html.find('"'))};
+    }
+    return {};
+}
+
 /// A bookmark has letters, digits and underscores, 40 at most.
 std::string BookmarkOf(std::string_view anchor, std::size_t number) {
     constexpr std::size_t Longest = 30;
@@ -71,6 +84,10 @@ void Writer::FindHeadings() {
         if (event != CMARK_EVENT_ENTER) continue;
         const cmark_node_type type = cmark_node_get_type(node);
         if (type == CMARK_NODE_FOOTNOTE_DEFINITION) notes_.push_back(node);
+        if (const std::string id = IdOf(node); !id.empty()) {
+            const std::string& bookmark = bookmarks_[node] = BookmarkOf(id, ++bookmarkCount_);
+            anchors_.emplace(id, bookmark);
+        }
         if (type != CMARK_NODE_HEADING) continue;
         std::string anchor = AnchorOf(Filled(PlainText(node)));
         const int count = counts[anchor]++;

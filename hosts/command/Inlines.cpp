@@ -151,6 +151,10 @@ void Writer::Inline(cmark_node* node, Paragraph& paragraph, Look look) {
             }
         } else if (Literal(node).starts_with("<br")) {
             Say("\n", paragraph, look);
+        } else if (const auto bookmark = bookmarks_.find(node); bookmark != bookmarks_.end()) {
+            Flush(paragraph);
+            paragraph.AddBookmark(bookmark->second);
+            paragraph.AddBookmark(bookmark->second, false);
         }
         return;
     default:

@@ -25,6 +25,15 @@ Element ElementOf(std::string_view name) {
     return Element::ParagraphStyle;
 }
 
+/// The font of that name, which is added when there is none.
+std::shared_ptr<Font> FontNamed(const std::string& name, const std::shared_ptr<Document>& document) {
+    const auto fonts = document->Fonts();
+    for (const auto& font : *fonts) {
+        if (font->Name() == name) return font;
+    }
+    return fonts->Add(name);
+}
+
 }  // namespace
 
 /// {"heading 1": {"FontFormat.Size": 20, "Format": {"SpaceBefore": 12}}}
@@ -106,14 +115,8 @@ void Style::Set(const Setting& setting, const Target& target, std::size_t from) 
         for (std::size_t i = from; i + 1 < setting.path.size(); ++i) at = at.Part(setting.path[i]);
         const std::string& last = setting.path.back();
         // A font needs to be known before it is used.
-        if (setting.kind == Scalar::Kind::Text && last.ends_with("FontName") && !setting.text.empty()) {
-            const auto fonts = target.Of()->Document()->Fonts();
-            try {
-                fonts->Items(setting.text);
-            } catch (const Error&) {
-                fonts->Add(setting.text);
-            }
-        }
+        if (setting.kind == Scalar::Kind::Text && last.ends_with("FontName") && !setting.text.empty())
+            FontNamed(setting.text, target.Of()->Document());
         at.Set(last, {setting.kind, setting.text, setting.truth});
     } catch (const std::invalid_argument& error) {
         throw Failure(setting.place, error.what());
@@ -129,14 +132,8 @@ void Style::Prepare(const std::shared_ptr<Document>& document) const {
         case Element::Page: Apply(name, document); break;
         case Element::Fonts:
             for (const Setting& setting : settings) {
-                const std::string& font = setting.path.front();
-                const auto fonts = document->Fonts();
-                std::shared_ptr<Font> found;
-                for (const auto& one : *fonts) {
-                    if (one->Name() == font) found = one;
-                }
-                if (found == nullptr) found = fonts->Add(font);
-                if (setting.path.size() > 1) Set(setting, Target(found), 1);
+                const auto font = FontNamed(setting.path.front(), document);
+                if (setting.path.size() > 1) Set(setting, Target(font), 1);
             }
             break;
         case Element::ParagraphStyle: Apply(name, document->ParagraphStyles()->Add(name)); break;

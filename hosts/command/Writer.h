@@ -59,7 +59,7 @@ private:
         int level = 0;           // in lists, from 1
         bool tight = false;      // the list's items are lines
         bool last = true;        // nothing of the outermost list comes behind
-        bool quoted = false;
+        int quotes = 0;          // around it
         bool ordered = false;    // the list around is a numbered one, of the name below
         std::string numbers{};
     };

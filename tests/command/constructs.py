@@ -1,0 +1,161 @@
+"""Construct by construct, what LibreOffice shows of a Markdown text that draftwick wrote as RTF, and of the same text that
+pandoc wrote. The guide's table is made of these rows."""
+from dataclasses import dataclass, field
+from typing import Callable
+
+
+@dataclass
+class Construct:
+    name: str
+    markdown: str
+    probe: Callable  # what there is of it in an ODT, in words
+    ours: str
+    pandoc: str
+    options: list = field(default_factory=list)
+
+    @property
+    def file(self):
+        return "".join(c if c.isalnum() else "-" for c in self.name.lower())
+
+
+def count(number, name):
+    return f"{number} {name}" + ("s" if number != 1 else "")
+
+
+def lists(odt):
+    items = odt.find("list-item")
+    if not items:
+        return "no list, typed marks" if any(p.text.lstrip()[:1] in "•\u2022-1" for p in odt.find("p")) else "no list"
+    depth = max(sum(a.tag.endswith("}list") for a in ancestors(odt, i.element)) for i in items)
+    return f"{count(len(items), 'item')}, {count(depth, 'level')}"
+
+
+def ancestors(odt, element):
+    while element in odt.parents:
+        element = odt.parents[element]
+        yield element
+
+
+def numbers(odt):
+    texts = [i.text.split("\t")[-1].strip() for i in odt.find("list-item")]
+    starts = [level.attributes.get("start-value", "1") for level in odt.find("list-level-style-number")
+              if level.attributes.get("level") == "1"]
+    return f"begins at {starts[0]}" if texts and starts else "typed numbers"
+
+
+def headings(odt):
+    names = [odt.styles.get(odt.styles.get(h.attributes["style-name"], ({},))[0].get("parent-style-name"), ({},))[0]
+             .get("display-name", h.attributes["style-name"]) for h in odt.find("h")]
+    return ", ".join(names) if names else "no headings, plain paragraphs"
+
+
+def keeps(odt):
+    heading = odt.paragraph("Water")
+    return "stays with its text" if heading.get("keep-with-next") == "always" else "can be left alone on a page"
+
+
+def contents(odt):
+    entries = [p for p in odt.find("p") if p.text.startswith("Water")]
+    pages = [p for p in entries if any(c.tag == "bookmark-ref" for c in p.find("bookmark-ref"))]
+    return "entries with the numbers of their pages" if pages else "entries without pages" if len(entries) > 0 else "none"
+
+
+def table(odt):
+    tables = odt.find("table")
+    if not tables:
+        return "none"
+    widths = [odt.style(c.attributes["style-name"]).get("column-width") for c in tables[0].find("table-column")]
+    cells = tables[0].find("table-cell")
+    bordered = [c for c in cells if any("solid" in str(c.get(side, "")) for side in ("border", "border-bottom"))]
+    head = odt.look("Item").get("font-weight") == "bold"
+    return (f"{'bold head' if head else 'plain head'}, columns "
+            + ("equal" if len(set(widths)) < 2 else "as wide as their text needs")
+            + f", lines under {len(bordered)} of {len(cells)} cells")
+
+
+def notes(odt):
+    bodies = [" / ".join(p.text.strip() for p in n.find("note-body")[0].find("p")) for n in odt.find("note")]
+    return "; ".join(bodies) if bodies else "none"
+
+
+def link(odt):
+    found = [a.attributes.get("href") for a in odt.find("a")]
+    return ", ".join(found) if found else "none"
+
+
+def inner_link(odt):
+    marks = {b.attributes["name"] for tag in ("bookmark", "bookmark-start") for b in odt.find(tag)}
+    targets = [a.attributes.get("href", "").lstrip("#") for a in odt.find("a")]
+    return "none" if not targets else "works" if all(t in marks for t in targets) else "dead"
+
+
+def code(odt):
+    paragraph = odt.paragraph("int x")
+    look = odt.look(paragraph.text)
+    return (f"{look.get('font-name', '?')}, " + ("background" if paragraph.get("background-color", "transparent")
+                                                 != "transparent" else "no background"))
+
+
+def quotation(odt):
+    paragraph = odt.paragraph("Said")
+    line = "solid" in paragraph.get("border-left", "") or "solid" in paragraph.get("border", "")
+    return ("indented" if float(paragraph.get("margin-left", "0pt")[:-2]) > 0 else "not indented") + (
+        ", line at its side" if line else "")
+
+
+def properties(odt):
+    return ", ".join(str(odt.meta(name)) for name in ("title", "initial-creator", "keyword"))
+
+
+def header(odt):
+    texts = [p.text for p in odt.find("header", "styles") + odt.find("footer", "styles")]
+    pages = len(odt.find("page-number", "styles"))
+    return f"{' '.join(t.strip() for t in texts)}; {count(pages, 'page number')}" if texts else "none"
+
+
+def caption(odt):
+    paragraph = next((p for p in odt.find("p") if "Prices" in p.text), None)
+    return f"{paragraph.text.strip()}, " + ("counted" if paragraph.find("sequence") else "typed")
+
+
+def text(odt):
+    return " ".join(t for t in (p.text.strip() for p in odt.find("p")) if t)
+
+
+def struck(odt):
+    return "struck" if odt.look("old").get("text-line-through-style") == "solid" else "plain"
+
+
+CONSTRUCTS = [
+    Construct("List of bullets", "- a\n- b\n  - c\n\n- d\n", lists, "4 items, 2 levels", "no list, typed marks"),
+    Construct("Numbered list", "7. a\n8. b\n", numbers, "begins at 7", "typed numbers"),
+    Construct("Task list", "- [x] done\n- [ ] open\n", text, "done open", "☒ done ☐ open"),
+    Construct("Headings", "# Water\n\ntext\n\n## Fire\n\ntext\n", headings, "heading 1, heading 2",
+              "no headings, plain paragraphs"),
+    Construct("A heading and its text", "# Water\n\ntext\n", keeps, "stays with its text",
+              "can be left alone on a page"),
+    Construct("Contents", "# Water\n\ntext\n\n# Fire\n\ntext\n", contents, "entries with the numbers of their pages",
+              "entries without pages", ["--toc"]),
+    Construct("Table", "| Item | A longer head of a column |\n| - | - |\n| a | some text of a cell |\n| b | more |\n",
+              table, "bold head, columns as wide as their text needs, lines under 6 of 6 cells",
+              "plain head, columns equal, lines under 2 of 6 cells"),
+    Construct("Footnote", "Text[^1].\n\n[^1]: First.\n\n    Second.\n", notes, "First. / Second.", "First. / Second."),
+    Construct("Link", "A [link](https://example.org/a?b=c&d=e).\n", link, "https://example.org/a?b=c&d=e",
+              "https://example.org/a?b=c&d=e"),
+    Construct("Link to a heading", "# Fire and ice\n\nSee [there](#fire-and-ice).\n", inner_link, "works", "dead"),
+    Construct("Code block", "```c\nint x = 1;\n```\n", code, "Courier New, background", "Courier, no background"),
+    Construct("Quotation", "> Said\n", quotation, "indented, line at its side", "indented"),
+    Construct("Title, author, keywords", "---\ntitle: Rules\nauthor: Ann\nkeywords: water\n---\n\ntext\n", properties,
+              "Rules, Ann, water", "None, None, None"),
+    Construct("Header, footer, pages", "---\ntitle: Rules\nheader: Draft\nfooter: Page {page} of {pages}\n---\n\ntext\n",
+              header, "Draft Page 1 of 1; 1 page number", "none"),
+    Construct("Caption", "| a |\n| - |\n| b |\n\nTable: Prices\n", caption, "Table 1: Prices, counted", "Prices, typed"),
+    Construct("Struck text", "~~old~~ new\n", struck, "struck", "struck"),
+    Construct("Any letters", "Ωμέγα, слово, 漢字, 😀, א\n", text, "Ωμέγα, слово, 漢字, 😀, א", "Ωμέγα, слово, 漢字, 😀, א"),
+]
+
+TABLE_HEAD = "| | draftwick | pandoc |\n| --- | --- | --- |\n"
+
+
+def guide_table():
+    return TABLE_HEAD + "".join(f"| {c.name} | {c.ours} | {c.pandoc} |\n" for c in CONSTRUCTS)

@@ -1,0 +1,50 @@
+"""The examples of the CommonMark specification: the text that LibreOffice reads in our file is the text that the
+reference renderer shows."""
+import html.parser
+import json
+import subprocess
+from pathlib import Path
+
+# Of Debian's package golang-github-yuin-goldmark-dev.
+CASES = Path("/usr/share/gocode/src/github.com/yuin/goldmark/_test/spec.json")
+EXTENSIONS = ["-e", "table", "-e", "strikethrough", "-e", "autolink", "-e", "tasklist", "--unsafe", "--footnotes"]
+INLINE = {"a", "abbr", "b", "bdi", "code", "del", "em", "i", "ins", "kbd", "s", "small", "span", "strong", "sub", "sup", "u"}
+
+
+class Shown(html.parser.HTMLParser):
+    """The words that a browser shows."""
+
+    def __init__(self):
+        super().__init__()
+        self.text, self.hidden = [], 0
+
+    def handle_starttag(self, tag, attributes):
+        if tag in ("script", "style"):
+            self.hidden += 1
+        if tag == "img":
+            self.text.append(dict(attributes).get("alt") or "")
+        elif tag not in INLINE:
+            self.text.append(" ")
+
+    def handle_endtag(self, tag):
+        if tag in ("script", "style"):
+            self.hidden -= 1
+        elif tag not in INLINE:
+            self.text.append(" ")
+
+    def handle_data(self, data):
+        if not self.hidden:
+            self.text.append(data)
+
+
+def cases():
+    return [case["markdown"] for case in json.loads(CASES.read_text())]
+
+
+def reference(markdown):
+    """The words of the reference renderer's HTML."""
+    rendered = subprocess.run(["cmark-gfm", *EXTENSIONS], input=markdown.encode(), capture_output=True, check=True)
+    shown = Shown()
+    shown.feed(rendered.stdout.decode())
+    shown.close()
+    return "".join(shown.text).split()
