@@ -3,6 +3,8 @@
 #include <cmark-gfm-core-extensions.h>
 
 #include <algorithm>
+#include <cctype>
+#include <iterator>
 #include <stdexcept>
 
 namespace draftwick::command {
@@ -11,6 +13,20 @@ namespace {
 
 constexpr double ListStep = 0.25, QuoteStep = 0.3;  // inches
 
+/// Whether a tag divides words; others are within lines of text.
+bool IsBlock(std::string_view tag) {
+    constexpr std::string_view names[] = {
+        "address", "article", "aside",  "blockquote", "br",      "caption", "dd",    "details", "dialog",     "div",
+        "dl",      "dt",      "fieldset", "figcaption", "figure", "footer", "form",  "h1",      "h2",         "h3",
+        "h4",      "h5",      "h6",     "header",     "hr",      "li",      "main",  "nav",     "ol",         "option",
+        "p",       "pre",     "section", "summary",   "table",   "tbody",   "td",    "tfoot",   "th",         "thead",
+        "title",   "tr",      "ul"};
+    tag.remove_prefix(tag.starts_with("</") ? 2 : 1);
+    std::string name{tag.substr(0, tag.find_first_of(" \t\r\n/>"))};
+    for (char& letter : name) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
 /// The text that a browser shows of HTML, without its tags; what is not meant to be seen is left out.
 std::string TextOfHtml(std::string_view html) {
     std::string text;
@@ -18,17 +34,28 @@ std::string TextOfHtml(std::string_view html) {
         const std::size_t at = html.find(end);
         html.remove_prefix(at == html.npos ? html.size() : at + end.size());
     };
+    static constexpr std::string_view entities[][2] = {
+        {"&amp;", "&"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&nbsp;", "\u00A0"}};
+    const auto say = [&text](std::string_view piece) {
+        const bool blank = piece == " " || piece == "\n" || piece == "\r" || piece == "\t";
+        if (!blank) text += piece;
+        else if (!text.empty() && text.back() != ' ') text += ' ';
+    };
     while (!html.empty()) {
         if (html.starts_with("<!--")) skipTo("-->");
         else if (html.starts_with("<![CDATA[")) skipTo("]]>");
         else if (html.starts_with("<?")) skipTo("?>");
         else if (html.starts_with("<script")) skipTo("</script>");
         else if (html.starts_with("<style")) skipTo("</style>");
-        else if (html[0] == '<') skipTo(">");
-        else {
-            const bool blank = html[0] == '\n' || html[0] == ' ';
-            if (!blank || (!text.empty() && text.back() != ' ')) text += blank ? ' ' : html[0];
-            html.remove_prefix(1);
+        else if (html[0] == '<') {
+            if (IsBlock(html)) say(" ");
+            skipTo(">");
+        } else {
+            const auto entity = std::find_if(std::begin(entities), std::end(entities),
+                                             [html](const auto& one) { return html.starts_with(one[0]); });
+            const bool found = entity != std::end(entities);
+            say(found ? (*entity)[1] : html.substr(0, 1));
+            html.remove_prefix(found ? (*entity)[0].size() : 1);
         }
     }
     if (text.ends_with(' ')) text.pop_back();
@@ -183,11 +210,22 @@ void Writer::HtmlBlock(std::string_view html, RowContainer& holder, const Positi
     Flush(*paragraph);
 }
 
+/// A list whose numbers look like the text beside them unless the style says otherwise.
+std::shared_ptr<draftwick::List> Writer::NewList(std::string_view name, std::string_view element) {
+    const auto list = document_->Lists()->Add(name);
+    const auto text = document_->ParagraphStyles()->Items("Normal")->FontFormat();
+    for (int level = 1; level <= 9; ++level) {
+        list->Levels(level)->FontFormat()->SetSize(text->Size());
+        list->Levels(level)->FontFormat()->SetFontName(text->FontName());
+    }
+    style_.Apply(element, list);
+    return list;
+}
+
 /// A list of bullets counts nothing, so that all of a kind are one.
 std::string Writer::Shared(std::string_view name, std::string_view bullet) {
     if (usedLevels_.try_emplace(std::string{name}).second) {
-        const auto list = document_->Lists()->Add(name);
-        style_.Apply("bullets", list);
+        const auto list = NewList(name, "bullets");
         for (int level = 1; level <= 9; ++level) {
             list->Levels(level)->SetStyle(dwLNSBullet);
             list->Levels(level)->SetTabPosition(ListStep * level);
@@ -209,9 +247,8 @@ std::string Writer::ListFor(cmark_node* node, const Position& outer, Position& i
     if (name.empty() || !outer.ordered
         || usedLevels_[name].try_emplace(inner.level, start, mark).first->second != std::pair{start, mark}) {
         name = "Numbers " + std::to_string(++lists_);
-        const auto list = document_->Lists()->Add(name);
+        NewList(name, "numbers");
         usedLevels_[name][inner.level] = {start, mark};
-        style_.Apply("numbers", list);
     }
     inner.numbers = name;
     const auto level = document_->Lists()->Items(name)->Levels(inner.level);
@@ -247,13 +284,15 @@ void Writer::List(cmark_node* node, RowContainer& holder, const Position& outer)
 void Writer::Table(cmark_node* node, RowContainer& holder, const Position& position) {
     const std::size_t columns = cmark_gfm_extensions_get_table_columns(node);
     const std::uint8_t* alignments = cmark_gfm_extensions_get_table_alignments(node);
-    const double room = section_->PageWidth() - section_->MarginLeft() - section_->MarginRight() - position.indent;
-    const std::vector<double> widths = ColumnWidths(node, columns, std::max(room, 1.0));
+    const double room = TextWidth() - position.indent;
+    std::vector<double> widths;
     Siblings(cmark_node_first_child(node), nullptr, [&](cmark_node* from) {
         const bool head = cmark_gfm_extensions_get_table_row_is_header(from) != 0;
         const auto row = holder.AddTable();
         style_.Apply("table", row);
         row->SetHeader(head);
+        // A row that begins left of the margin, so that its text begins there, ends as far on the other side.
+        if (widths.empty()) widths = ColumnWidths(node, columns, std::max(room - 2 * row->Left(), 1.0));
         if (position.indent > 0) row->SetLeft(row->Left() + position.indent);
         std::size_t column = 0;
         for (cmark_node* in = cmark_node_first_child(from); in != nullptr && column < columns;
@@ -310,7 +349,7 @@ bool Writer::Caption(cmark_node* node, RowContainer& holder, const Position& pos
     }
     if (cmark_node_get_type(first) != CMARK_NODE_IMAGE || cmark_node_next(first) != nullptr) return false;
     const std::string title = Filled(cmark_node_get_title(first));
-    if (title.empty()) return false;
+    if (title.empty() || PictureFile(first).empty()) return false;
     const auto picture = Begin(holder, "Figure", position);
     Inlines(first, nullptr, *picture, {});
     Flush(*picture);

@@ -126,7 +126,7 @@ void Writer::Line(std::string_view name, dwHeaderKind kind, std::string_view sty
     const std::string line = settings.contains(name) ? Setting(name) : style_.Default(name);
     if (line.empty()) return;
     const auto paragraph = Begin(*section_->AddHeader(kind), style, {});
-    const double width = section_->PageWidth() - section_->MarginLeft() - section_->MarginRight();
+    const double width = TextWidth();
     paragraph->TabStops()->Add(width / 2, dwTabCenter, dwTabLeaderNone);
     paragraph->TabStops()->Add(width, dwTabRight, dwTabLeaderNone);
     std::string text;
@@ -172,7 +172,7 @@ void Writer::TitleBlock() {
 void Writer::Contents() {
     const std::string word = Setting("toc-title");
     Begin(*section_, "TOC Heading", {})->AddTextItem(word.empty() ? style_.Default("contents") : word);
-    const double width = section_->PageWidth() - section_->MarginLeft() - section_->MarginRight();
+    const double width = TextWidth();
     constexpr int Deepest = 3;
     for (cmark_node* heading : headings_) {
         const int level = cmark_node_get_heading_level(heading);

@@ -177,14 +177,18 @@ void Writer::Link(cmark_node* node, Paragraph& paragraph, Look look) {
     Inlines(cmark_node_first_child(node), nullptr, paragraph, look);
 }
 
-void Writer::Picture(cmark_node* node, Paragraph& paragraph, const Look& look) {
+/// The file of a picture, beside that of the text; empty when there is none.
+std::string Writer::PictureFile(cmark_node* node) const {
     const std::string url = Filled(cmark_node_get_url(node));
-    namespace fs = std::filesystem;
-    const fs::path file = fs::path(manuscript_.File()).parent_path() / url;
+    const std::filesystem::path file = std::filesystem::path(manuscript_.File()).parent_path() / url;
     std::error_code none;
-    if (paragraph.Description().FindMethod("AddPicture") == nullptr || url.empty() || !fs::is_regular_file(file, none)) {
-        if (url.empty() || url.find("://") == url.npos)
-            Warn(manuscript_.PlaceOf(node), "no picture file " + file.string() + "; its text stands in its place");
+    return !url.empty() && std::filesystem::is_regular_file(file, none) ? file.string() : std::string{};
+}
+
+void Writer::Picture(cmark_node* node, Paragraph& paragraph, const Look& look) {
+    const std::string file = PictureFile(node);
+    if (file.empty()) {
+        Warn(manuscript_.PlaceOf(node), "no picture file \"" + std::string{cmark_node_get_url(node)} + "\"; its text stands in its place");
         Inlines(cmark_node_first_child(node), nullptr, paragraph, look);
         return;
     }

@@ -84,13 +84,14 @@ private:
         events_.Value(value);
         return true;
     }
+    // The parser takes a bracket or brace after it told of it.
     bool Begin(bool object) {
-        token_ = 1;
+        token_ = 0;
         events_.Begin(object);
         return true;
     }
     bool End() {
-        token_ = 1;
+        token_ = 0;
         events_.End();
         return true;
     }

@@ -60,7 +60,10 @@ public:
     void Key(std::string_view name) override {
         Level& level = levels_.back();
         level.key = name;
-        if (level.kind != Level::Kind::One) return;
+        if (level.kind != Level::Kind::One) {
+            CheckMember(level);
+            return;
+        }
         if (level.addition) Refuse("only one thing in each object of a list; put braces around " + Quoted(name));
         level.addition.emplace(MethodFor(level.object->Description(), name));
     }
@@ -102,6 +105,25 @@ public:
     }
 
 private:
+    /// Refuses a name that is none here, while the reader is at its place.
+    static void CheckMember(const Level& level) {
+        const ClassMethod* adding = level.addition ? level.addition->method : nullptr;
+        if (level.keyed != nullptr || level.key == ContentMember) return;
+        if (adding != nullptr && level.addition->Find(level.key) != nullptr) return;
+        if (adding != nullptr && adding->result == nullptr)
+            Refuse(Quoted(adding->name) + " has no " + Quoted(level.key));
+        const Class& description = adding != nullptr ? adding->result->description() : level.object->Description();
+        const std::string_view name = std::string_view{level.key}.substr(0, level.key.find('.'));
+        const ClassProperty* property = description.FindProperty(name);
+        const ClassMethod* method = description.FindMethod(name);
+        if (property != nullptr && !IsSettable(description, *property))
+            Refuse(Quoted(name) + " is for the command line to say");
+        if (property == nullptr && description.items == nullptr
+            && (method == nullptr || !IsCallable(description, *method))) {
+            Refuse(MembersOf(description, name));
+        }
+    }
+
     static const ClassMethod& AddMethod(const Class& collection) { return *collection.FindMethod(AddPrefix); }
 
     /// The method that adds what has this name.
@@ -181,10 +203,6 @@ private:
             Add(*level.object, *method, value);
             return;
         }
-        const Class& description = level.object->Description();
-        const ClassProperty* property = description.FindProperty(level.key);
-        if (property != nullptr && !IsSettable(description, *property))
-            Refuse(Quoted(level.key) + " is not for a document to say");
         Target(level.object, level.keyed).Set(level.key, value);
     }
 

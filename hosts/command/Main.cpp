@@ -49,7 +49,7 @@ bool Write(const Options& options) {
     std::string text(LargestHead, '\0');
     input.read(text.data(), static_cast<std::streamsize>(text.size()));
     text.resize(static_cast<std::size_t>(input.gcount()));
-    if (LooksLikeJson(text)) {
+    if (BeginsObject(text)) {
         WriteJson(input, name, text, options);
         return true;
     }

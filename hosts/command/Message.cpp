@@ -60,7 +60,7 @@ std::string Alternatives(std::string_view name, const std::vector<std::string_vi
         const auto nearest = std::min_element(names.begin(), names.end(), [name](auto one, auto other) {
             return Distance(name, one) < Distance(name, other);
         });
-        if (Distance(name, *nearest) <= 2) return "did you mean \"" + std::string{*nearest} + "\"?";
+        if (Distance(name, *nearest) <= std::min<std::size_t>(2, name.size() / 3)) return "did you mean \"" + std::string{*nearest} + "\"?";
     }
     std::string text = "there are ";
     for (std::size_t i = 0; i < std::min(names.size(), MostNames); ++i) {

@@ -136,6 +136,7 @@ void ReadCsv(std::istream& input, const std::string& name, const RowSink& sink) 
     std::string head;
     std::getline(input, head);
     if (head.starts_with("\xEF\xBB\xBF")) head.erase(0, 3);
+    if (head.ends_with('\r')) head.pop_back();
     const auto count = [&head](char mark) { return std::count(head.begin(), head.end(), mark); };
     char separator = ',';
     for (const char mark : {';', '\t'}) {
@@ -168,11 +169,10 @@ void ReadJsonRows(std::istream& input, const std::string& name, const RowSink& s
     }
 }
 
-bool LooksLikeJson(std::string_view beginning) {
+bool BeginsObject(std::string_view beginning) {
     if (beginning.starts_with("\xEF\xBB\xBF")) beginning.remove_prefix(3);
     const std::size_t first = beginning.find_first_not_of(" \t\r\n");
     if (first == beginning.npos) return false;
-    if (beginning[first] == '[') return true;
     // "{{name}}" begins a letter, "{" and a name an object.
     const std::size_t second = beginning.find_first_not_of(" \t\r\n", first + 1);
     return beginning[first] == '{' && second != beginning.npos && (beginning[second] == '"' || beginning[second] == '}');

@@ -36,7 +36,7 @@ using RowSink = std::function<bool(Row&&)>;
 void ReadCsv(std::istream& input, const std::string& name, const RowSink& sink);
 /// Reads objects, in an array or one after the other. Failure with its place for what is no JSON.
 void ReadJsonRows(std::istream& input, const std::string& name, const RowSink& sink);
-/// The one of both that the text, of which the first bytes are given, is.
-bool LooksLikeJson(std::string_view beginning);
+/// Whether a text begins with an object of JSON: a brace and a name, not "{{name}}" or a list.
+bool BeginsObject(std::string_view beginning);
 
 }  // namespace draftwick::command

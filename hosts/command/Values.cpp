@@ -147,7 +147,7 @@ Variant ToVariant(const Scalar& value, const Type& type, const Document& documen
 std::string MembersOf(const Class& description, std::string_view asked) {
     std::vector<std::string_view> names;
     for (const ClassProperty& property : description.properties) {
-        if (property.set != nullptr || property.type->kind == Kind::Object) names.push_back(property.name);
+        if (property.set != nullptr || (property.type->kind == Kind::Object && !property.optional)) names.push_back(property.name);
     }
     return std::string{description.name} + " has no \"" + std::string{asked} + "\"; "
         + Alternatives(asked, names);

@@ -86,6 +86,7 @@ private:
     void HtmlBlock(std::string_view html, RowContainer& holder, const Position& position);
     void List(cmark_node* node, RowContainer& holder, const Position& outer);
     std::string ListFor(cmark_node* node, const Position& position, Position& inner);
+    std::shared_ptr<draftwick::List> NewList(std::string_view name, std::string_view element);
     std::string Shared(std::string_view name, std::string_view bullet);
     void Table(cmark_node* node, RowContainer& holder, const Position& position);
     std::vector<double> ColumnWidths(cmark_node* table, std::size_t columns, double room) const;
@@ -100,6 +101,7 @@ private:
     void Dress(Run& run) const;
     void Link(cmark_node* node, Paragraph& paragraph, Look look);
     void Picture(cmark_node* node, Paragraph& paragraph, const Look& look);
+    std::string PictureFile(cmark_node* node) const;
     void Note(cmark_node* reference, Paragraph& paragraph);
     std::string Filled(std::string_view text) const;
 
@@ -111,6 +113,7 @@ private:
     void Contents();
     void Properties();
     std::string Setting(std::string_view name) const;
+    double TextWidth() const { return section_->PageWidth() - section_->MarginLeft() - section_->MarginRight(); }
 
     const Manuscript& manuscript_;
     const Style& style_;

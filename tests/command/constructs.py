@@ -37,16 +37,19 @@ def ancestors(odt, element):
 
 
 def numbers(odt):
-    texts = [i.text.split("\t")[-1].strip() for i in odt.find("list-item")]
-    starts = [level.attributes.get("start-value", "1") for level in odt.find("list-level-style-number")
-              if level.attributes.get("level") == "1"]
-    return f"begins at {starts[0]}" if texts and starts else "typed numbers"
+    if not odt.find("list-item"):
+        return "typed numbers"
+    style = odt.styles[odt.first("list").attributes["style-name"]][2]
+    levels = [e.attrib for e in style if e.tag.endswith("}list-level-style-number")]
+    return "begins at " + next((v for k, v in levels[0].items() if k.endswith("}start-value")), "1")
 
 
 def headings(odt):
-    names = [odt.styles.get(odt.styles.get(h.attributes["style-name"], ({},))[0].get("parent-style-name"), ({},))[0]
-             .get("display-name", h.attributes["style-name"]) for h in odt.find("h")]
-    return ", ".join(names) if names else "no headings, plain paragraphs"
+    def style(heading):
+        attributes = odt.styles[heading.attributes["style-name"]][0]
+        parent = odt.styles.get(attributes.get("parent-style-name"), ({},))[0]
+        return parent.get("display-name", "no style")
+    return ", ".join(map(style, odt.find("h")))
 
 
 def keeps(odt):
@@ -55,26 +58,26 @@ def keeps(odt):
 
 
 def contents(odt):
-    entries = [p for p in odt.find("p") if p.text.startswith("Water")]
-    pages = [p for p in entries if any(c.tag == "bookmark-ref" for c in p.find("bookmark-ref"))]
-    return "entries with the numbers of their pages" if pages else "entries without pages" if len(entries) > 0 else "none"
+    entries = [p for p in odt.find("p") + odt.find("h") if "Water" in p.text]
+    pages = [p for p in entries if p.find("bookmark-ref")]
+    return "entries with the numbers of their pages" if pages else "entries without pages" if len(entries) > 1 else "none"
 
 
 def table(odt):
     tables = odt.find("table")
     if not tables:
         return "none"
-    widths = [odt.style(c.attributes["style-name"]).get("column-width") for c in tables[0].find("table-column")]
+    widths = [float(odt.style(c.attributes["style-name"])["column-width"][:-2]) for c in tables[0].find("table-column")]
     cells = tables[0].find("table-cell")
     bordered = [c for c in cells if any("solid" in str(c.get(side, "")) for side in ("border", "border-bottom"))]
     head = odt.look("Item").get("font-weight") == "bold"
     return (f"{'bold head' if head else 'plain head'}, columns "
-            + ("equal" if len(set(widths)) < 2 else "as wide as their text needs")
+            + ("equal" if max(widths) - min(widths) < 10 else "as wide as their text needs")
             + f", lines under {len(bordered)} of {len(cells)} cells")
 
 
 def notes(odt):
-    bodies = [" / ".join(p.text.strip() for p in n.find("note-body")[0].find("p")) for n in odt.find("note")]
+    bodies = [" / ".join(p.text.strip() for p in n.find("note-body")[0].find("p") if p.text.strip()) for n in odt.find("note")]
     return "; ".join(bodies) if bodies else "none"
 
 
@@ -122,6 +125,13 @@ def text(odt):
     return " ".join(t for t in (p.text.strip() for p in odt.find("p")) if t)
 
 
+def marks(odt):
+    styles = [odt.styles[e.attributes["style-name"]][2] for e in odt.find("list")]
+    bullets = [v for s in styles for level in list(s)[:1] for k, v in level.attrib.items() if k.endswith("}bullet-char")]
+    typed = [c for p in odt.find("p") for c in p.text if c in "☒☐"]
+    return " ".join(bullets) + " as marks of list items" if bullets else " ".join(typed) + " typed behind bullets"
+
+
 def struck(odt):
     return "struck" if odt.look("old").get("text-line-through-style") == "solid" else "plain"
 
@@ -129,9 +139,9 @@ def struck(odt):
 CONSTRUCTS = [
     Construct("List of bullets", "- a\n- b\n  - c\n\n- d\n", lists, "4 items, 2 levels", "no list, typed marks"),
     Construct("Numbered list", "7. a\n8. b\n", numbers, "begins at 7", "typed numbers"),
-    Construct("Task list", "- [x] done\n- [ ] open\n", text, "done open", "☒ done ☐ open"),
-    Construct("Headings", "# Water\n\ntext\n\n## Fire\n\ntext\n", headings, "heading 1, heading 2",
-              "no headings, plain paragraphs"),
+    Construct("Task list", "- [x] done\n- [ ] open\n", marks, "☒ ☐ as marks of list items", "☒ ☐ typed behind bullets"),
+    Construct("Headings", "# Water\n\ntext\n\n## Fire\n\ntext\n", headings, "Heading 1, Heading 2",
+              "no style, no style"),
     Construct("A heading and its text", "# Water\n\ntext\n", keeps, "stays with its text",
               "can be left alone on a page"),
     Construct("Contents", "# Water\n\ntext\n\n# Fire\n\ntext\n", contents, "entries with the numbers of their pages",
