@@ -149,7 +149,7 @@ void Writer::Line(std::string_view name, dwHeaderKind kind, std::string_view sty
         const std::string_view word = rest.substr(1, close - 1);
         if (word == "page" || word == "pages") {
             flush();
-            paragraph->AddField(word == "page" ? "PAGE" : "NUMPAGES", "1");
+            paragraph->AddField(word == "page" ? "PAGE" : extras_.manyRows ? "SECTIONPAGES" : "NUMPAGES", "1");
         } else if (settings.contains(word) || word == "title" || word == "author" || word == "date") {
             text += Setting(word);
         } else {

@@ -14,7 +14,7 @@ namespace {
 
 /// Whether everything was written.
 bool WriteMarkdown(const std::string& text, const std::string& name, const Options& options) {
-    Manuscript manuscript(text, name, !options.data.empty() || !options.settings.empty());
+    Manuscript manuscript(text, name, options.Merging());
     for (const auto& [setting, value] : options.settings) manuscript.Settings()[setting] = value;
     Style style;
     for (const std::string& one : options.styles) style.Add(one);

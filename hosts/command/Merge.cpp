@@ -212,7 +212,9 @@ private:
 
     void RunOne() {
         const auto document = NewDocument(options_, &style_, options_.output);
-        Writer writer(manuscript_, style_, options_.extras, document);
+        Extras extras = options_.extras;
+        extras.manyRows = true;
+        Writer writer(manuscript_, style_, extras, document);
         ReadRows([&](Row&& row) {
             const bool written = Try(row, [&] {
                 // Once a part of a row is in the document, the document stands or falls with it.

@@ -2,7 +2,9 @@
 
 #include <getopt.h>
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 
 namespace draftwick::command {
 
@@ -35,6 +37,14 @@ std::string OutputFor(const std::string& input) {
 }
 
 }  // namespace
+
+bool Options::Merging() const {
+    constexpr std::string_view known[] = {"title",    "author",  "date",   "language", "subject",
+                                          "keywords", "company", "header", "footer",   "toc-title"};
+    return !data.empty() || std::any_of(settings.begin(), settings.end(), [&](const auto& setting) {
+        return std::find(std::begin(known), std::end(known), setting.first) == std::end(known);
+    });
+}
 
 Options ReadOptions(int argc, char** argv) {
     Options options;

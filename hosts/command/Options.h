@@ -24,6 +24,9 @@ struct Options {
     bool goOn = false;      ///< with the rows behind one that failed
     unsigned jobs = 0;      ///< threads; 0: one for each processor
     bool quiet = false;     ///< no progress
+
+    /// Whether there are values for tags in the text: data, or settings that have no meaning of their own.
+    bool Merging() const;
 };
 
 /// A command line that cannot be understood.

@@ -18,6 +18,7 @@ namespace draftwick::command {
 struct Extras {
     bool contents = false;
     bool sectionNumbers = false;
+    bool manyRows = false;  ///< each has pages of its own to count
 };
 
 /// The values that tags can name, those of the innermost row first.
