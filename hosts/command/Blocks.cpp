@@ -16,11 +16,11 @@ constexpr double ListStep = 0.25, QuoteStep = 0.3;  // inches
 /// Whether a tag divides words; others are within lines of text.
 bool IsBlock(std::string_view tag) {
     constexpr std::string_view names[] = {
-        "address", "article", "aside",  "blockquote", "br",      "caption", "dd",    "details", "dialog",     "div",
-        "dl",      "dt",      "fieldset", "figcaption", "figure", "footer", "form",  "h1",      "h2",         "h3",
-        "h4",      "h5",      "h6",     "header",     "hr",      "li",      "main",  "nav",     "ol",         "option",
-        "p",       "pre",     "section", "summary",   "table",   "tbody",   "td",    "tfoot",   "th",         "thead",
-        "title",   "tr",      "ul"};
+        "address", "article", "aside",  "blockquote", "br",         "caption", "dd",      "details", "dialog",
+        "div",     "dl",      "dt",     "fieldset",   "figcaption", "figure",  "footer",  "form",    "h1",
+        "h2",      "h3",      "h4",     "h5",         "h6",         "header",  "hr",      "li",      "main",
+        "nav",     "ol",      "option", "p",          "pre",        "section", "summary", "table",   "tbody",
+        "td",      "tfoot",   "th",     "thead",      "title",      "tr",      "ul"};
     tag.remove_prefix(tag.starts_with("</") ? 2 : 1);
     std::string name{tag.substr(0, tag.find_first_of(" \t\r\n/>"))};
     for (char& letter : name) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
@@ -38,15 +38,22 @@ std::string TextOfHtml(std::string_view html) {
         {"&amp;", "&"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&nbsp;", "\u00A0"}};
     const auto say = [&text](std::string_view piece) {
         const bool blank = piece == " " || piece == "\n" || piece == "\r" || piece == "\t";
-        if (!blank) text += piece;
-        else if (!text.empty() && text.back() != ' ') text += ' ';
+        if (!blank)
+            text += piece;
+        else if (!text.empty() && text.back() != ' ')
+            text += ' ';
     };
     while (!html.empty()) {
-        if (html.starts_with("<!--")) skipTo("-->");
-        else if (html.starts_with("<![CDATA[")) skipTo("]]>");
-        else if (html.starts_with("<?")) skipTo("?>");
-        else if (html.starts_with("<script")) skipTo("</script>");
-        else if (html.starts_with("<style")) skipTo("</style>");
+        if (html.starts_with("<!--"))
+            skipTo("-->");
+        else if (html.starts_with("<![CDATA["))
+            skipTo("]]>");
+        else if (html.starts_with("<?"))
+            skipTo("?>");
+        else if (html.starts_with("<script"))
+            skipTo("</script>");
+        else if (html.starts_with("<style"))
+            skipTo("</style>");
         else if (html[0] == '<') {
             if (IsBlock(html)) say(" ");
             skipTo(">");
@@ -157,13 +164,15 @@ void Writer::Block(cmark_node* node, RowContainer& holder, const Position& posit
     }
 }
 
-std::shared_ptr<Paragraph> Writer::Begin(Container& holder, std::string_view style, const Position& position) {
+std::shared_ptr<Paragraph> Writer::Begin(Container& holder, std::string_view style,
+                                         const Position& position) {
     auto paragraph = holder.AddParagraph();
     paragraph->SetStyleName(style);
     const auto format = paragraph->Format();
     // The style of quotations has the first one's indent itself.
     const double indent = position.indent - (style == "Quote" ? QuoteStep : 0);
     if (indent > 0) format->SetIndentLeft(format->IndentLeft() + indent);
+    room_ = TextWidth() - format->IndentLeft() - format->IndentRight();
     if (!position.list.empty()) {
         format->SetListName(position.list);
         format->SetListLevel(position.level);
@@ -301,6 +310,7 @@ void Writer::Table(cmark_node* node, RowContainer& holder, const Position& posit
             cell->SetWidth(widths[column]);
             style_.Apply(head ? "head cell" : "cell", cell);
             const auto paragraph = Begin(*cell, head ? "Table Head" : "Table Text", {});
+            room_ = std::max(widths[column] - 2 * row->Gap(), 0.1);
             if (alignments[column] == 'r') paragraph->Format()->SetAlign(dwAlignRight);
             if (alignments[column] == 'c') paragraph->Format()->SetAlign(dwAlignCenter);
             Inlines(cmark_node_first_child(in), nullptr, *paragraph, {});
@@ -338,7 +348,8 @@ bool Writer::Caption(cmark_node* node, RowContainer& holder, const Position& pos
     const bool isText = cmark_node_get_type(first) == CMARK_NODE_TEXT;
     if (isText && Literal(first).starts_with(Mark)) {
         cmark_node *before = cmark_node_previous(node), *after = cmark_node_next(node);
-        if (!(after != nullptr && IsNode(after, "table")) && !(before != nullptr && IsNode(before, "table"))) return false;
+        if (!(after != nullptr && IsNode(after, "table")) && !(before != nullptr && IsNode(before, "table")))
+            return false;
         const auto paragraph = Begin(holder, "caption", position);
         if (after != nullptr && IsNode(after, "table")) paragraph->Format()->SetKeepWithNext(true);
         AddCaption(*paragraph, "table", ++tables_);

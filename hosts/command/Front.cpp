@@ -12,7 +12,8 @@ std::string AnchorOf(std::string_view text) {
     std::string anchor;
     for (const char one : text) {
         const auto letter = static_cast<unsigned char>(one);
-        if (letter == ' ') anchor += '-';
+        if (letter == ' ')
+            anchor += '-';
         else if (letter >= 0x80 || letter == '-' || letter == '_' || std::isalnum(letter))
             anchor += static_cast<char>(letter < 0x80 ? std::tolower(letter) : letter);
     }
@@ -38,8 +39,10 @@ std::string BookmarkOf(std::string_view anchor, std::size_t number) {
     std::string name = "s" + std::to_string(number) + "_";
     for (const char one : anchor) {
         if (name.size() == Longest) break;
-        if (std::isalnum(static_cast<unsigned char>(one)) != 0) name += one;
-        else if (one == '-' || one == '_') name += '_';
+        if (std::isalnum(static_cast<unsigned char>(one)) != 0)
+            name += one;
+        else if (one == '-' || one == '_')
+            name += '_';
     }
     return name;
 }
@@ -48,7 +51,8 @@ std::string BookmarkOf(std::string_view anchor, std::size_t number) {
 
 Writer::Writer(const Manuscript& manuscript, const Style& style, const Extras& extras,
                const std::shared_ptr<Document>& document)
-    : manuscript_(manuscript), style_(style), extras_(extras), document_(document), values_(manuscript.Settings()) {}
+    : manuscript_(manuscript), style_(style), extras_(extras), document_(document),
+      values_(manuscript.Settings()) {}
 
 void Writer::Write(const Datum* row) {
     values_.Clear();
@@ -58,7 +62,8 @@ void Writer::Write(const Datum* row) {
     if (first) Properties();
     section_ = document_->AddSection();
     if (row != nullptr) section_->SetPageNumberingRestart(dwPNRSection);
-    if (first && extras_.sectionNumbers) style_.Apply("section numbers", document_->Lists()->Add(SectionNumbers));
+    if (first && extras_.sectionNumbers)
+        style_.Apply("section numbers", document_->Lists()->Add(SectionNumbers));
     Headers();
     TitleBlock();
     if (extras_.contents) Contents();
@@ -78,7 +83,8 @@ void Writer::FindHeadings() {
     written_.clear();
     headings_.clear();
     anchors_.clear();
-    const std::unique_ptr<cmark_iter, void (*)(cmark_iter*)> iterator(cmark_iter_new(manuscript_.Root()), cmark_iter_free);
+    const std::unique_ptr<cmark_iter, void (*)(cmark_iter*)> iterator(cmark_iter_new(manuscript_.Root()),
+                                                                      cmark_iter_free);
     for (cmark_event_type event; (event = cmark_iter_next(iterator.get())) != CMARK_EVENT_DONE;) {
         cmark_node* node = cmark_iter_get_node(iterator.get());
         if (event != CMARK_EVENT_ENTER) continue;
@@ -103,14 +109,18 @@ void Writer::Properties() {
         std::string_view setting;
         dwBuiltInProperty property;
     };
-    constexpr Known known[] = {{"title", dwBIPTitle},       {"subject", dwBIPSubject}, {"author", dwBIPAuthor},
-                               {"keywords", dwBIPKeywords}, {"company", dwBIPCompany}};
+    constexpr Known known[] = {{"title", dwBIPTitle},
+                               {"subject", dwBIPSubject},
+                               {"author", dwBIPAuthor},
+                               {"keywords", dwBIPKeywords},
+                               {"company", dwBIPCompany}};
     const auto properties = document_->Properties();
     for (const Known& one : known) {
         if (const std::string value = Setting(one.setting); !value.empty())
             properties->Items(one.property)->SetValue(value);
     }
-    if (const std::string language = Setting("language"); !language.empty()) properties->Add("Language", language);
+    if (const std::string language = Setting("language"); !language.empty())
+        properties->Add("Language", language);
     Date date;
     if (ReadDate(Setting("date"), date)) properties->Items(dwBIPCreationTime)->SetValue(date);
 }
@@ -141,15 +151,18 @@ void Writer::Line(std::string_view name, dwHeaderKind kind, std::string_view sty
             if (tab) {
                 while (text.ends_with(' ')) text.pop_back();
                 text += '\t';
-            }
-            else if (rest[0] != ' ' || !text.ends_with('\t')) text += rest[0];
+            } else if (rest[0] != ' ' || !text.ends_with('\t'))
+                text += rest[0];
             rest.remove_prefix(1);
             continue;
         }
         const std::string_view word = rest.substr(1, close - 1);
         if (word == "page" || word == "pages") {
             flush();
-            paragraph->AddField(word == "page" ? "PAGE" : extras_.manyRows ? "SECTIONPAGES" : "NUMPAGES", "1");
+            paragraph->AddField(word == "page"     ? "PAGE"
+                                : extras_.manyRows ? "SECTIONPAGES"
+                                                   : "NUMPAGES",
+                                "1");
         } else if (settings.contains(word) || word == "title" || word == "author" || word == "date") {
             text += Setting(word);
         } else {
@@ -163,7 +176,8 @@ void Writer::Line(std::string_view name, dwHeaderKind kind, std::string_view sty
 void Writer::TitleBlock() {
     const std::string title = Setting("title");
     if (title.empty()) return;
-    for (const auto& [setting, style] : {std::pair{"title", "Title"}, {"author", "Author"}, {"date", "Date"}}) {
+    for (const auto& [setting, style] :
+         {std::pair{"title", "Title"}, {"author", "Author"}, {"date", "Date"}}) {
         const std::string text = Setting(setting);
         if (!text.empty()) Begin(*section_, style, {})->AddTextItem(text);
     }

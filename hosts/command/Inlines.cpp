@@ -52,10 +52,12 @@ std::string Values::Text(std::string_view name) const {
             for (const auto& member : row->members) names.push_back(member.first);
         }
         for (const auto& member : common_) names.push_back(member.first);
-        throw std::invalid_argument("there is no value \"" + std::string{name} + "\"; " + Alternatives(name, names));
+        throw std::invalid_argument("there is no value \"" + std::string{name} + "\"; "
+                                    + Alternatives(name, names));
     }
     if (value->kind != Datum::Kind::Text)
-        throw std::invalid_argument("\"" + std::string{name} + "\" is no text; {{#" + std::string{name} + "}} repeats it");
+        throw std::invalid_argument("\"" + std::string{name} + "\" is no text; {{#" + std::string{name}
+                                    + "}} repeats it");
     return value->text;
 }
 
@@ -166,7 +168,8 @@ void Writer::Inline(cmark_node* node, Paragraph& paragraph, Look look) {
 
 void Writer::Link(cmark_node* node, Paragraph& paragraph, Look look) {
     const std::string url = Filled(cmark_node_get_url(node));
-    const auto anchor = url.starts_with('#') ? anchors_.find(std::string_view{url}.substr(1)) : anchors_.end();
+    const auto anchor =
+        url.starts_with('#') ? anchors_.find(std::string_view{url}.substr(1)) : anchors_.end();
     if (anchor != anchors_.end()) {
         look.link = "HYPERLINK \\l \"" + anchor->second + '"';
     } else if (url.starts_with('#')) {
@@ -188,12 +191,21 @@ std::string Writer::PictureFile(cmark_node* node) const {
 void Writer::Picture(cmark_node* node, Paragraph& paragraph, const Look& look) {
     const std::string file = PictureFile(node);
     if (file.empty()) {
-        Warn(manuscript_.PlaceOf(node), "no picture file \"" + std::string{cmark_node_get_url(node)} + "\"; its text stands in its place");
+        Warn(manuscript_.PlaceOf(node), "no picture file \"" + std::string{cmark_node_get_url(node)}
+                                            + "\"; its text stands in its place");
         Inlines(cmark_node_first_child(node), nullptr, paragraph, look);
         return;
     }
     Flush(paragraph);
-    // AddPicture
+    try {
+        const auto picture = paragraph.AddPicture(file);
+        const double width = picture->Width();
+        if (width <= room_) return;
+        picture->SetHeight(picture->Height() * room_ / width);
+        picture->SetWidth(room_);
+    } catch (const Error& error) {
+        throw Failure(manuscript_.PlaceOf(node), file + ": " + Explain(error));
+    }
 }
 
 void Writer::Note(cmark_node* reference, Paragraph& paragraph) {

@@ -63,7 +63,7 @@ public:
 
     void Read(bool many) {
         constexpr unsigned Flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag
-            | rapidjson::kParseValidateEncodingFlag;
+                                   | rapidjson::kParseValidateEncodingFlag;
         rapidjson::Reader reader;
         do {
             const auto result = many ? reader.Parse<Flags | rapidjson::kParseStopWhenDoneFlag>(*this, *this)

@@ -29,7 +29,8 @@ struct Addition {
 
     const Argument* Find(std::string_view name) const {
         for (const Argument& argument : method->arguments) {
-            if (argument.name == name) return &argument;
+            // An object cannot be named here.
+            if (argument.name == name && argument.type->kind != Kind::Object) return &argument;
         }
         return nullptr;
     }
@@ -64,7 +65,8 @@ public:
             CheckMember(level);
             return;
         }
-        if (level.addition) Refuse("only one thing in each object of a list; put braces around " + Quoted(name));
+        if (level.addition)
+            Refuse("only one thing in each object of a list; put braces around " + Quoted(name));
         level.addition.emplace(MethodFor(level.object->Description(), name));
     }
 
@@ -93,7 +95,9 @@ public:
             if (!object) Refuse("a list in a list; what an object holds is a text or an object");
             levels_.push_back({Level::Kind::One, level.object});
             break;
-        case Level::Kind::Items: BeginAddition(level.object, AddMethod(level.object->Description()), object); break;
+        case Level::Kind::Items:
+            BeginAddition(level.object, AddMethod(level.object->Description()), object);
+            break;
         case Level::Kind::One: BeginAddition(level.object, *level.addition->method, object); break;
         case Level::Kind::Members: BeginMember(level, object); break;
         }
@@ -112,7 +116,8 @@ private:
         if (adding != nullptr && level.addition->Find(level.key) != nullptr) return;
         if (adding != nullptr && adding->result == nullptr)
             Refuse(Quoted(adding->name) + " has no " + Quoted(level.key));
-        const Class& description = adding != nullptr ? adding->result->description() : level.object->Description();
+        const Class& description =
+            adding != nullptr ? adding->result->description() : level.object->Description();
         const std::string_view name = std::string_view{level.key}.substr(0, level.key.find('.'));
         const ClassProperty* property = description.FindProperty(name);
         const ClassMethod* method = description.FindMethod(name);
@@ -136,7 +141,8 @@ private:
             if (one.name.starts_with(AddPrefix) && one.name.size() > AddPrefix.size())
                 names.push_back(one.name.substr(AddPrefix.size()));
         }
-        Refuse(std::string{description.name} + " cannot hold " + Quoted(name) + "; " + Alternatives(name, names));
+        Refuse(std::string{description.name} + " cannot hold " + Quoted(name) + "; "
+               + Alternatives(name, names));
     }
 
     /// A text in a list is a run of text where there can be one, else a paragraph with it.
@@ -159,7 +165,8 @@ private:
             Call(object, method.name);
             return;
         }
-        if (method.arguments.empty()) Refuse(Quoted(method.name) + " takes no value but an object, in braces");
+        if (method.arguments.empty() || method.arguments[0].type->kind == Kind::Object)
+            Refuse(Quoted(method.name) + " takes no value but an object, in braces");
         Call(object, method.name, {ToVariant(value, *method.arguments[0].type, *document_)});
     }
 
@@ -238,7 +245,8 @@ private:
 }  // namespace
 
 bool IsCallable(const Class& description, const ClassMethod& method) {
-    return &description != &Document::Describe() && !method.name.starts_with(AddPrefix) && method.result == nullptr;
+    return &description != &Document::Describe() && !method.name.starts_with(AddPrefix)
+           && method.result == nullptr;
 }
 
 bool IsSettable(const Class& description, const ClassProperty& property) {

@@ -25,9 +25,10 @@ bool WriteMarkdown(const std::string& text, const std::string& name, const Optio
     return true;
 }
 
-void WriteJson(std::istream& input, const std::string& name, const std::string& head, const Options& options) {
-    if (!options.data.empty() || !options.styles.empty() || !options.settings.empty() || options.extras.contents
-        || options.extras.sectionNumbers) {
+void WriteJson(std::istream& input, const std::string& name, const std::string& head,
+               const Options& options) {
+    if (!options.data.empty() || !options.styles.empty() || !options.settings.empty()
+        || options.extras.contents || options.extras.sectionNumbers) {
         throw UsageError("a document in JSON says all of this itself: --style, --data, --set, --toc and "
                          "--number-sections are for Markdown");
     }
@@ -66,7 +67,8 @@ int Run(int argc, char** argv) {
         case Options::Task::Help: std::cout << HelpText(); break;
         case Options::Task::Schema: std::cout << JsonSchema(); break;
         case Options::Task::Version:
-            std::cout << "draftwick " << VersionMajor << '.' << VersionMinor << '.' << VersionRevision << '\n';
+            std::cout << "draftwick " << VersionMajor << '.' << VersionMinor << '.' << VersionRevision
+                      << '\n';
             break;
         case Options::Task::Write: return Write(options) ? 0 : 1;
         }

@@ -25,17 +25,19 @@ std::string_view TakeLine(std::string_view& text) {
 }
 
 std::string_view Unquoted(std::string_view value) {
-    const bool quoted = value.size() >= 2 && (value[0] == '"' || value[0] == '\'') && value.back() == value[0];
+    const bool quoted =
+        value.size() >= 2 && (value[0] == '"' || value[0] == '\'') && value.back() == value[0];
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
 /// Where the name in "name: value" ends; npos when the line is none.
 std::size_t EndOfName(std::string_view line) {
     std::size_t end = 0;
-    while (end < line.size() && (std::isalnum(static_cast<unsigned char>(line[end])) || line[end] == '-' || line[end] == '_'))
+    while (end < line.size()
+           && (std::isalnum(static_cast<unsigned char>(line[end])) || line[end] == '-' || line[end] == '_'))
         ++end;
-    const bool named = end > 0 && end < line.size() && line[end] == ':'
-        && (end + 1 == line.size() || line[end + 1] == ' ');
+    const bool named =
+        end > 0 && end < line.size() && line[end] == ':' && (end + 1 == line.size() || line[end + 1] == ' ');
     return named ? end : line.npos;
 }
 
@@ -72,7 +74,8 @@ Manuscript::Manuscript(const std::string& text, const std::string& file, bool me
     body = TakeFrontMatter(body);
 
     constexpr int Options = CMARK_OPT_FOOTNOTES | CMARK_OPT_VALIDATE_UTF8;
-    const std::unique_ptr<cmark_parser, void (*)(cmark_parser*)> parser(cmark_parser_new(Options), cmark_parser_free);
+    const std::unique_ptr<cmark_parser, void (*)(cmark_parser*)> parser(cmark_parser_new(Options),
+                                                                        cmark_parser_free);
     for (const char* name : {"table", "strikethrough", "autolink", "tasklist"})
         cmark_parser_attach_syntax_extension(parser.get(), cmark_find_syntax_extension(name));
     cmark_parser_feed(parser.get(), body.data(), body.size());
@@ -102,7 +105,8 @@ std::string_view Manuscript::TakeFrontMatter(std::string_view text) {
         }
         // The items of a list, and lines that go on with the value before.
         const bool item = value.starts_with("- ");
-        if (!item && whole[0] != ' ') throw Failure({file_, line}, "expected \"name: value\", or --- at the end");
+        if (!item && whole[0] != ' ')
+            throw Failure({file_, line}, "expected \"name: value\", or --- at the end");
         if (item) value = Trimmed(value.substr(2));
         if (!last->empty()) *last += item ? ", " : " ";
         *last += Unquoted(value);
@@ -112,7 +116,8 @@ std::string_view Manuscript::TakeFrontMatter(std::string_view text) {
 
 Place Manuscript::PlaceOf(cmark_node* node) const {
     for (; node != nullptr; node = cmark_node_parent(node)) {
-        if (cmark_node_get_start_line(node) > 0) return {file_, cmark_node_get_start_line(node) + linesBefore_};
+        if (cmark_node_get_start_line(node) > 0)
+            return {file_, cmark_node_get_start_line(node) + linesBefore_};
     }
     return {file_};
 }
@@ -168,9 +173,12 @@ void Manuscript::Hoist(cmark_node* block, cmark_node* first, cmark_node* last) {
         || open->kind == Tag::Kind::End || close->kind != Tag::Kind::End || close->name != open->name) {
         return;
     }
-    for (cmark_node* node = cmark_node_next(first); node != nullptr && node != last; node = cmark_node_next(node)) {
+    for (cmark_node* node = cmark_node_next(first); node != nullptr && node != last;
+         node = cmark_node_next(node)) {
         // "{{#a}}x{{/a}} and {{#a}}y{{/a}}" are two.
-        if (const Tag* tag = TagOf(node); tag != nullptr && tag->kind == Tag::Kind::End && tag->name == open->name) return;
+        if (const Tag* tag = TagOf(node);
+            tag != nullptr && tag->kind == Tag::Kind::End && tag->name == open->name)
+            return;
     }
     open->end = block;
     cmark_node_set_user_data(block, open);
@@ -188,7 +196,8 @@ void Manuscript::PairTags(cmark_node* parent) {
         if (tag == nullptr || tag->kind == Tag::Kind::Value || tag->end == node) continue;
         if (tag->kind == Tag::Kind::End) {
             if (open.empty() || open.back().second->name != tag->name)
-                throw Failure(tag->place, "{{/" + tag->name + "}} ends nothing that begins in the same place");
+                throw Failure(tag->place,
+                              "{{/" + tag->name + "}} ends nothing that begins in the same place");
             open.back().second->end = node;
             open.pop_back();
         } else {
@@ -204,7 +213,8 @@ void Manuscript::PairTags(cmark_node* parent) {
 void Manuscript::FindTags() {
     cmark_consolidate_text_nodes(root_.get());
     std::vector<cmark_node*> nodes, texts;
-    const std::unique_ptr<cmark_iter, void (*)(cmark_iter*)> iterator(cmark_iter_new(root_.get()), cmark_iter_free);
+    const std::unique_ptr<cmark_iter, void (*)(cmark_iter*)> iterator(cmark_iter_new(root_.get()),
+                                                                      cmark_iter_free);
     for (cmark_event_type event; (event = cmark_iter_next(iterator.get())) != CMARK_EVENT_DONE;) {
         cmark_node* node = cmark_iter_get_node(iterator.get());
         if (event != CMARK_EVENT_ENTER) continue;
@@ -226,7 +236,8 @@ void Manuscript::FindTags() {
                 cmark_node_unlink(first);
                 cmark_node_free(first);
             } else {
-                const bool alone = isItem && cmark_node_first_child(item) == node && cmark_node_next(node) == nullptr;
+                const bool alone =
+                    isItem && cmark_node_first_child(item) == node && cmark_node_next(node) == nullptr;
                 Hoist(alone ? item : node, first, cmark_node_last_child(node));
             }
         } else if (IsNode(node, "table_row") && first != nullptr) {

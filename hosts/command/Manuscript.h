@@ -36,7 +36,9 @@ public:
     Place PlaceOf(cmark_node* node) const;
     /// Whether there are tags in the text, so that places of values are to be filled.
     bool Merging() const { return merging_; }
-    static const Tag* TagOf(cmark_node* node) { return static_cast<const Tag*>(cmark_node_get_user_data(node)); }
+    static const Tag* TagOf(cmark_node* node) {
+        return static_cast<const Tag*>(cmark_node_get_user_data(node));
+    }
 
 private:
     std::string_view TakeFrontMatter(std::string_view text);

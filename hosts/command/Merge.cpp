@@ -73,10 +73,12 @@ public:
         next_ = now + std::chrono::milliseconds(100);
         constexpr int Width = 30;
         const int filled = static_cast<int>(share_ * Width);
-        std::string line = share_ > 0 ? "\r[" + std::string(static_cast<std::size_t>(filled), '#')
-                + std::string(static_cast<std::size_t>(Width - filled), '.') + "] "
-                                      : "\r";
-        std::fprintf(stderr, "%s%lld rows, %.0f a second", line.c_str(), static_cast<long long>(done_), Rate());
+        std::string line = share_ > 0
+                               ? "\r[" + std::string(static_cast<std::size_t>(filled), '#')
+                                     + std::string(static_cast<std::size_t>(Width - filled), '.') + "] "
+                               : "\r";
+        std::fprintf(stderr, "%s%lld rows, %.0f a second", line.c_str(), static_cast<long long>(done_),
+                     Rate());
     }
     void Read(double share) {
         const std::lock_guard lock(mutex_);
@@ -97,10 +99,12 @@ public:
         if (!shown_ && failures_ == 0) return;
         std::string failed;
         std::sort(failed_.begin(), failed_.end());
-        for (const std::int64_t row : failed_) failed += (failed.empty() ? ": row " : ", ") + std::to_string(row);
+        for (const std::int64_t row : failed_)
+            failed += (failed.empty() ? ": row " : ", ") + std::to_string(row);
         if (static_cast<std::size_t>(failures_) > failed_.size()) failed += ", ...";
         std::fprintf(stderr, "%s%lld rows written, %.0f a second, %lld failed%s\n", shown_ ? "\r\033[K" : "",
-                     static_cast<long long>(done_), Rate(), static_cast<long long>(failures_), failed.c_str());
+                     static_cast<long long>(done_), Rate(), static_cast<long long>(failures_),
+                     failed.c_str());
     }
 
 private:
@@ -147,7 +151,9 @@ std::string OutputOf(const std::string& pattern, const Row& row) {
                                         + Alternatives(column, names));
         }
         const std::string part = value == nullptr ? std::to_string(row.number) : Harmless(value->text);
-        if (part.empty()) throw std::invalid_argument("no value for {" + std::string{column} + "} in the name of the output");
+        if (part.empty())
+            throw std::invalid_argument("no value for {" + std::string{column}
+                                        + "} in the name of the output");
         name += part;
         rest.remove_prefix(close + 1);
     }
@@ -160,15 +166,15 @@ public:
         : manuscript_(manuscript), style_(style), options_(options), progress_(!options.quiet) {}
 
     std::int64_t Run() {
-        const bool many = options_.output.find('{') != std::string::npos;
-        many ? RunMany() : RunOne();
+        options_.ManyFiles() ? RunMany() : RunOne();
         progress_.Summarize();
         return progress_.Failures();
     }
 
 private:
     void RunMany() {
-        const unsigned count = options_.jobs > 0 ? options_.jobs : std::max(1U, std::thread::hardware_concurrency());
+        const unsigned count =
+            options_.jobs > 0 ? options_.jobs : std::max(1U, std::thread::hardware_concurrency());
         std::vector<std::jthread> threads;
         const auto end = [this](bool drop) { queue_.Close(drop); };
         try {
@@ -203,7 +209,8 @@ private:
         const std::string output = OutputOf(options_.output, row);
         {
             const std::lock_guard lock(outputsMutex_);
-            if (!outputs_.insert(output).second) throw std::invalid_argument("an earlier row was written to " + output);
+            if (!outputs_.insert(output).second)
+                throw std::invalid_argument("an earlier row was written to " + output);
         }
         const auto document = NewDocument(options_, &style_, output);
         Writer(manuscript_, style_, options_.extras, document).Write(&row.data);
@@ -219,7 +226,8 @@ private:
             const bool written = Try(row, [&] {
                 // Once a part of a row is in the document, the document stands or falls with it.
                 if (options_.goOn)
-                    Writer(manuscript_, style_, options_.extras, NewDocument(options_, &style_, {})).Write(&row.data);
+                    Writer(manuscript_, style_, options_.extras, NewDocument(options_, &style_, {}))
+                        .Write(&row.data);
                 writer.Write(&row.data);
             });
             progress_.Done(written);
@@ -278,25 +286,27 @@ private:
 
 struct Paper {
     std::string_view name;
-    double width, height;  // inches
+    dwPaperSize size;
 };
-constexpr Paper papers[] = {{"a3", 297 / 25.4, 420 / 25.4}, {"a4", 210 / 25.4, 297 / 25.4}, {"a5", 148 / 25.4, 210 / 25.4},
-                            {"letter", 8.5, 11},            {"legal", 8.5, 14}};
+constexpr Paper papers[] = {{"a3", dwPaperA3},
+                            {"a4", dwPaperA4},
+                            {"a5", dwPaperA5},
+                            {"letter", dwPaperLetter},
+                            {"legal", dwPaperLegal}};
 
 void SetPage(Document& document, const std::string& page) {
-    double width = 0, height = 0;
     for (const Paper& paper : papers) {
-        if (paper.name == page) width = paper.width, height = paper.height;
+        if (paper.name != page) continue;
+        document.SetPaperSize(paper.size);
+        return;
     }
     const std::size_t by = page.find('x');
     try {
-        if (width == 0 && by != page.npos)
-            width = Inches(page.substr(0, by)), height = Inches(page.substr(by + 1));
-        if (width <= 0 || height <= 0) throw std::invalid_argument("");
-        document.SetPageWidth(width);
-        document.SetPageHeight(height);
+        document.SetPageWidth(Inches(page.substr(0, by)));
+        document.SetPageHeight(Inches(by == page.npos ? "" : page.substr(by + 1)));
     } catch (const std::exception&) {
-        throw UsageError("--page is a3, a4, a5, letter, legal or WIDTHxHEIGHT as in 20cmx15cm, not \"" + page + '"');
+        throw UsageError("--page is a3, a4, a5, letter, legal or WIDTHxHEIGHT as in 20cmx15cm, not \"" + page
+                         + '"');
     }
 }
 
@@ -304,8 +314,10 @@ void SetPage(Document& document, const std::string& page) {
 
 std::shared_ptr<Document> NewDocument(const Options& options, const Style* style, const std::string& output) {
     auto document = Document::Create();
-    if (document->Description().FindProperty("Spelling") != nullptr)
-        Set(*document, "Spelling", options.classic ? 1 : 2);
+    document->SetSpelling(options.classic ? dwSpellingClassic : dwSpellingStandard);
+    document->SetDiscardOnRelease(true);
+    // A row of many is small.
+    document->SetBodyInMemory(options.ManyFiles());
     // A name of less than four characters is refused.
     if (output != "-") document->SetFilename(output.size() < 4 && !output.empty() ? "././" + output : output);
     if (style != nullptr) style->Prepare(document);
@@ -315,15 +327,10 @@ std::shared_ptr<Document> NewDocument(const Options& options, const Style* style
 }
 
 void Deliver(Document& document, const std::string& output) {
-    const auto finishTo = [](auto& finished) {
-        if constexpr (requires { finished.FinishTo(std::cout); }) finished.FinishTo(std::cout);
-    };
-    if (output == "-") {
-        finishTo(document);
-        if (!std::cout.flush()) throw Failure({"<stdout>"}, "cannot be written");
-    } else {
+    if (output == "-")
+        document.FinishTo(std::cout << std::flush);
+    else
         document.Finish();
-    }
 }
 
 std::int64_t Merge(const Manuscript& manuscript, const Style& style, const Options& options) {

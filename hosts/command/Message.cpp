@@ -44,12 +44,8 @@ void Warn(const Place& place, const std::string& what) {
 
 std::string Explain(const std::exception& error) {
     std::string text = error.what();
-    const auto advise = [&](const auto& refusal) {
-        if constexpr (requires { refusal.Advice(); }) {
-            if (!refusal.Advice().empty()) text += "; " + std::string{refusal.Advice()};
-        }
-    };
-    if (const auto* refusal = dynamic_cast<const Error*>(&error)) advise(*refusal);
+    const auto* refusal = dynamic_cast<const Error*>(&error);
+    if (refusal != nullptr && !refusal->Advice().empty()) text += ' ' + refusal->Advice();
     return text;
 }
 
@@ -60,7 +56,8 @@ std::string Alternatives(std::string_view name, const std::vector<std::string_vi
         const auto nearest = std::min_element(names.begin(), names.end(), [name](auto one, auto other) {
             return Distance(name, one) < Distance(name, other);
         });
-        if (Distance(name, *nearest) <= std::min<std::size_t>(2, name.size() / 3)) return "did you mean \"" + std::string{*nearest} + "\"?";
+        if (Distance(name, *nearest) <= std::min<std::size_t>(2, name.size() / 3))
+            return "did you mean \"" + std::string{*nearest} + "\"?";
     }
     std::string text = "there are ";
     for (std::size_t i = 0; i < std::min(names.size(), MostNames); ++i) {

@@ -10,7 +10,19 @@ namespace draftwick::command {
 
 namespace {
 
-enum Code : int { StyleCode = 1, DataCode, SetCode, PageCode, TocCode, NumbersCode, SpellingCode, GoOnCode, SchemaCode, QuietCode, VersionCode };
+enum Code : int {
+    StyleCode = 1,
+    DataCode,
+    SetCode,
+    PageCode,
+    TocCode,
+    NumbersCode,
+    SpellingCode,
+    GoOnCode,
+    SchemaCode,
+    QuietCode,
+    VersionCode
+};
 
 const option longOptions[] = {{"output", required_argument, nullptr, 'o'},
                               {"style", required_argument, nullptr, StyleCode},
@@ -58,7 +70,8 @@ Options ReadOptions(int argc, char** argv) {
         case DataCode: options.data = value; break;
         case SetCode: {
             const std::size_t mark = value.find('=');
-            if (mark == value.npos || mark == 0) throw UsageError("--set wants name=value, not \"" + value + '"');
+            if (mark == value.npos || mark == 0)
+                throw UsageError("--set wants name=value, not \"" + value + '"');
             options.settings[value.substr(0, mark)] = value.substr(mark + 1);
             break;
         }
@@ -74,7 +87,8 @@ Options ReadOptions(int argc, char** argv) {
         case QuietCode: options.quiet = true; break;
         case 'j': {
             const char* end = value.data() + value.size();
-            if (std::from_chars(value.data(), end, options.jobs).ptr != end || options.jobs == 0 || options.jobs > 256)
+            if (std::from_chars(value.data(), end, options.jobs).ptr != end || options.jobs == 0
+                || options.jobs > 256)
                 throw UsageError("--jobs is a number from 1 to 256, not \"" + value + '"');
             break;
         }
@@ -86,7 +100,9 @@ Options ReadOptions(int argc, char** argv) {
         }
     }
     if (optind + 1 != argc)
-        throw UsageError(optind == argc ? "no input" : std::string{"one input at a time; what is "} + argv[optind + 1] + "?");
+        throw UsageError(optind == argc
+                             ? "no input"
+                             : std::string{"one input at a time; what is "} + argv[optind + 1] + "?");
     options.input = argv[optind];
     if (options.input == "-" && options.data == "-")
         throw UsageError("the input and the data cannot both come from standard input");

@@ -20,13 +20,15 @@ struct Options {
     std::map<std::string, std::string, std::less<>> settings;
     std::string page;  ///< the name of a size of paper; empty: what the style says
     Extras extras;
-    bool classic = false;   ///< the spelling of old readers
-    bool goOn = false;      ///< with the rows behind one that failed
-    unsigned jobs = 0;      ///< threads; 0: one for each processor
-    bool quiet = false;     ///< no progress
+    bool classic = false;  ///< the spelling of old readers
+    bool goOn = false;     ///< with the rows behind one that failed
+    unsigned jobs = 0;     ///< threads; 0: one for each processor
+    bool quiet = false;    ///< no progress
 
     /// Whether there are values for tags in the text: data, or settings that have no meaning of their own.
     bool Merging() const;
+    /// Whether each row of the data has a file of its own.
+    bool ManyFiles() const { return !data.empty() && output.find('{') != std::string::npos; }
 };
 
 /// A command line that cannot be understood.

@@ -151,7 +151,8 @@ void ReadCsv(std::istream& input, const std::string& name, const RowSink& sink) 
     for (std::int64_t number = 1; records.Next(fields, fault); ++number) {
         Row row{number, records.Line()};
         if (fault.empty() && fields.size() != names.size()) {
-            fault = std::to_string(fields.size()) + " values for " + std::to_string(names.size()) + " columns";
+            fault =
+                std::to_string(fields.size()) + " values for " + std::to_string(names.size()) + " columns";
         }
         row.fault = fault;
         for (std::size_t i = 0; fault.empty() && i < names.size(); ++i)
@@ -175,7 +176,8 @@ bool BeginsObject(std::string_view beginning) {
     if (first == beginning.npos) return false;
     // "{{name}}" begins a letter, "{" and a name an object.
     const std::size_t second = beginning.find_first_not_of(" \t\r\n", first + 1);
-    return beginning[first] == '{' && second != beginning.npos && (beginning[second] == '"' || beginning[second] == '}');
+    return beginning[first] == '{' && second != beginning.npos
+           && (beginning[second] == '"' || beginning[second] == '}');
 }
 
 }  // namespace draftwick::command

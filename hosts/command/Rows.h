@@ -14,7 +14,7 @@ namespace draftwick::command {
 struct Datum {
     enum class Kind { Text, List, Row };
     Kind kind = Kind::Text;
-    std::string text{};                                     ///< numbers as they were written; empty: absent
+    std::string text{};                                    ///< numbers as they were written; empty: absent
     std::vector<std::pair<std::string, Datum>> members{};  ///< of a list without names
 
     const Datum* Find(std::string_view name) const;

@@ -63,7 +63,8 @@ public:
         json_.Member("title", "\"A document for draftwick\"");
         json_.Member("$ref", "\"#/$defs/Document\"");
         json_.Open("$defs", '{');
-        json_.Member("Length", R"({"type": ["number", "string"], "pattern": "^-?[0-9.]+ ?(cm|mm|in|pt|pc|twips)$"})");
+        json_.Member("Length",
+                     R"({"type": ["number", "string"], "pattern": "^-?[0-9.]+ ?(cm|mm|in|pt|pc|twips)$"})");
         json_.Member("Color", R"({"type": ["integer", "string"], "pattern": "^#[0-9A-Fa-f]{6}$"})");
         for (const Type* type : Enumerations()) Enumeration(*type);
         for (const Class* one : Classes()) {
@@ -79,8 +80,9 @@ public:
 private:
     static const Class& Result(const ClassMethod& method) {
         static const Class nothing;
-        return method.result == nullptr || method.result->description == nullptr ? nothing
-                                                                                : method.result->description();
+        return method.result == nullptr || method.result->description == nullptr
+                   ? nothing
+                   : method.result->description();
     }
 
     void Enumeration(const Type& type) {
@@ -112,14 +114,14 @@ private:
     static std::string Part(const Class& part) {
         const ClassMethod* add = part.FindMethod(AddPrefix);
         if (add == nullptr) return Reference(part.name);
-        return "{\"anyOf\": [" + Reference(part.name) + R"(, {"type": "array", "items": )"
-            + Added(part, *add) + "}]}";
+        return "{\"anyOf\": [" + Reference(part.name) + R"(, {"type": "array", "items": )" + Added(part, *add)
+               + "}]}";
     }
 
     /// What adds something: an object, or its first argument alone.
     static std::string Added(const Class& description, const ClassMethod& method) {
         const std::string object = Reference(AdditionName(description, method));
-        if (method.arguments.empty()) return object;
+        if (method.arguments.empty() || method.arguments[0].type->kind == Kind::Object) return object;
         return "{\"anyOf\": [" + object + ", " + ValueOf(*method.arguments[0].type) + "]}";
     }
 
@@ -128,9 +130,10 @@ private:
         if (!property.arguments.empty())
             return R"({"type": "object", "additionalProperties": )" + value + '}';
         const Rule& rule = property.rule;
-        if (!rule.limited || property.type->kind != Kind::Number || !property.type->values.empty()) return value;
+        if (!rule.limited || property.type->kind != Kind::Number || !property.type->values.empty())
+            return value;
         return R"({"type": "integer", "minimum": )" + std::to_string(rule.low) + R"(, "maximum": )"
-            + std::to_string(rule.high) + '}';
+               + std::to_string(rule.high) + '}';
     }
 
     void Members(std::string_view name, const Class& description, const ClassMethod* addition) {
@@ -138,6 +141,7 @@ private:
         std::string required;
         if (addition != nullptr) {
             for (const Argument& argument : addition->arguments) {
+                if (argument.type->kind == Kind::Object) continue;
                 json_.Member(argument.name, ValueOf(*argument.type));
                 if (argument.initial) continue;
                 if (!required.empty()) required += ", ";
@@ -146,12 +150,13 @@ private:
         }
         const auto isArgument = [addition](std::string_view member) {
             return addition != nullptr
-                && std::any_of(addition->arguments.begin(), addition->arguments.end(),
-                               [member](const Argument& argument) { return argument.name == member; });
+                   && std::any_of(addition->arguments.begin(), addition->arguments.end(),
+                                  [member](const Argument& argument) { return argument.name == member; });
         };
         for (const ClassProperty& property : description.properties) {
             const bool part = property.type->kind == Kind::Object && !property.optional;
-            if ((property.set == nullptr && !part) || isArgument(property.name) || !IsSettable(description, property))
+            if ((property.set == nullptr && !part) || isArgument(property.name)
+                || !IsSettable(description, property))
                 continue;
             json_.Member(property.name, Property(property));
         }
@@ -178,13 +183,17 @@ private:
         json_.Open(ContentMember, '{').Member("type", "\"array\"").Open("items", '{').Open("anyOf", '[');
         if (&description != &Document::Describe() && description.FindMethod("AddCell") == nullptr)
             json_.Member({}, R"({"type": "string"})");
-        json_.Open({}, '{').Member("type", "\"object\"").Member("minProperties", "1").Member("maxProperties", "1");
+        json_.Open({}, '{')
+            .Member("type", "\"object\"")
+            .Member("minProperties", "1")
+            .Member("maxProperties", "1");
         json_.Member("additionalProperties", "false").Open("properties", '{');
         for (const ClassMethod& method : methods) {
             if (!adds(method)) continue;
             std::string added = Added(description, method);
-            const bool empty = std::all_of(method.arguments.begin(), method.arguments.end(),
-                                           [](const Argument& argument) { return argument.initial.has_value(); });
+            const bool empty =
+                std::all_of(method.arguments.begin(), method.arguments.end(),
+                            [](const Argument& argument) { return argument.initial.has_value(); });
             if (empty) added = "{\"anyOf\": [" + added + R"(, {"type": "null"}]})";
             json_.Member(method.name.substr(AddPrefix.size()), added);
         }

@@ -18,8 +18,8 @@ Element ElementOf(std::string_view name) {
     if (name == "page") return Element::Page;
     if (name == "fonts") return Element::Fonts;
     if (name == "defaults") return Element::Defaults;
-    if (name == "Link" || name == "Verbatim" || name == "table" || name == "cell" || name == "head cell" || name == "bullets" || name == "numbers"
-        || name == "section numbers") {
+    if (name == "Link" || name == "Verbatim" || name == "table" || name == "cell" || name == "head cell"
+        || name == "bullets" || name == "numbers" || name == "section numbers") {
         return Element::Object;
     }
     return Element::ParagraphStyle;
@@ -98,8 +98,8 @@ void Style::Add(const std::string& nameOrFile) {
     }
     std::ifstream file(nameOrFile, std::ios::binary);
     if (!file) {
-        throw Failure({nameOrFile}, "no such style file, and no look of this name; "
-                                        + Alternatives(nameOrFile, Looks()));
+        throw Failure({nameOrFile},
+                      "no such style file, and no look of this name; " + Alternatives(nameOrFile, Looks()));
     }
     Add(file, nameOrFile);
 }

@@ -115,9 +115,10 @@ double Inches(std::string_view text) {
 bool ReadDate(std::string_view text, Date& date) {
     const auto part = [&](std::size_t at, std::size_t length, char before, std::int32_t& number) {
         return text.size() >= at + length && (at == 0 || text[at - 1] == before)
-            && ReadNumber(text.substr(at, length), number);
+               && ReadNumber(text.substr(at, length), number);
     };
-    if (!part(0, 4, ' ', date.year) || !part(5, 2, '-', date.month) || !part(8, 2, '-', date.day)) return false;
+    if (!part(0, 4, ' ', date.year) || !part(5, 2, '-', date.month) || !part(8, 2, '-', date.day))
+        return false;
     if (text.size() == 10) return true;
     if (!part(11, 2, text[10] == ' ' ? ' ' : 'T', date.hour) || !part(14, 2, ':', date.minute)) return false;
     return text.size() == 16 || (part(17, 2, ':', date.second) && text.size() == 19);
@@ -128,7 +129,8 @@ Variant ToVariant(const Scalar& value, const Type& type, const Document& documen
     case Kind::Boolean:
         if (value.kind != Scalar::Kind::Boolean) Expect(value, "true or false");
         return value.truth;
-    case Kind::Number: return type.values.empty() ? Whole(value, "a whole number of 32 bits") : Constant(value, type);
+    case Kind::Number:
+        return type.values.empty() ? Whole(value, "a whole number of 32 bits") : Constant(value, type);
     case Kind::Real: return Real(value, "a number");
     case Kind::Length: return Length(value, document);
     case Kind::Color: return Colour(value);
@@ -139,7 +141,8 @@ Variant ToVariant(const Scalar& value, const Type& type, const Document& documen
     case Kind::Key:
         if (value.kind == Scalar::Kind::Text) return std::string{value.text};
         return Whole(value, "a name or a position");
-    case Kind::Object: Expect(value, "an object: " + std::string{type.name} + " has members of its own, in braces");
+    case Kind::Object:
+        Expect(value, "an object: " + std::string{type.name} + " has members of its own, in braces");
     default: return Any(value);
     }
 }
@@ -147,10 +150,11 @@ Variant ToVariant(const Scalar& value, const Type& type, const Document& documen
 std::string MembersOf(const Class& description, std::string_view asked) {
     std::vector<std::string_view> names;
     for (const ClassProperty& property : description.properties) {
-        if (property.set != nullptr || (property.type->kind == Kind::Object && !property.optional)) names.push_back(property.name);
+        if (property.set != nullptr || (property.type->kind == Kind::Object && !property.optional))
+            names.push_back(property.name);
     }
     return std::string{description.name} + " has no \"" + std::string{asked} + "\"; "
-        + Alternatives(asked, names);
+           + Alternatives(asked, names);
 }
 
 const ClassProperty& Target::Property(std::string_view name) const {
@@ -162,7 +166,8 @@ const ClassProperty& Target::Property(std::string_view name) const {
 Variant Target::Key(std::string_view name, const Type& type) const {
     std::int32_t number = 0;
     const bool isNumber = type.values.empty() && ReadNumber(name, number);
-    return ToVariant({isNumber ? Scalar::Kind::Number : Scalar::Kind::Text, name}, type, *object_->Document());
+    return ToVariant({isNumber ? Scalar::Kind::Number : Scalar::Kind::Text, name}, type,
+                     *object_->Document());
 }
 
 Target Target::Part(std::string_view path) const {
@@ -171,7 +176,8 @@ Target Target::Part(std::string_view path) const {
     Variant value;
     if (keyed_ != nullptr) {
         value = Get(*object_, keyed_->name, {Key(path, *keyed_->arguments[0].type)});
-    } else if (object_->Description().items != nullptr && object_->Description().FindProperty(path) == nullptr) {
+    } else if (object_->Description().items != nullptr
+               && object_->Description().FindProperty(path) == nullptr) {
         const ClassMethod& items = *object_->Description().FindMethod("Items");
         value = Call(*object_, items.name, {Key(path, *items.arguments[0].type)});
     } else {
@@ -190,7 +196,8 @@ void Target::Set(std::string_view path, const Scalar& value) const {
     if (dot != path.npos) return Part(path.substr(0, dot)).Set(path.substr(dot + 1), value);
     const ClassProperty& property = keyed_ != nullptr ? *keyed_ : Property(path);
     if (property.set == nullptr && property.type->kind != Kind::Object)
-        Refuse('"' + std::string{path} + "\" of " + std::string{object_->Description().name} + " is read only");
+        Refuse('"' + std::string{path} + "\" of " + std::string{object_->Description().name}
+               + " is read only");
     const Variant converted = ToVariant(value, *property.type, *object_->Document());
     if (keyed_ != nullptr) {
         draftwick::Set(*object_, keyed_->name, converted, {Key(path, *keyed_->arguments[0].type)});

@@ -55,13 +55,13 @@ public:
 private:
     /// Where a block stands.
     struct Position {
-        double indent = 0;       // inches
-        std::string list{};      // of the item whose first paragraph comes next
-        int level = 0;           // in lists, from 1
-        bool tight = false;      // the list's items are lines
-        bool last = true;        // nothing of the outermost list comes behind
-        int quotes = 0;          // around it
-        bool ordered = false;    // the list around is a numbered one, of the name below
+        double indent = 0;     // inches
+        std::string list{};    // of the item whose first paragraph comes next
+        int level = 0;         // in lists, from 1
+        bool tight = false;    // the list's items are lines
+        bool last = true;      // nothing of the outermost list comes behind
+        int quotes = 0;        // around it
+        bool ordered = false;  // the list around is a numbered one, of the name below
         std::string numbers{};
     };
     /// What a run of text looks like.
@@ -114,7 +114,9 @@ private:
     void Contents();
     void Properties();
     std::string Setting(std::string_view name) const;
-    double TextWidth() const { return section_->PageWidth() - section_->MarginLeft() - section_->MarginRight(); }
+    double TextWidth() const {
+        return section_->PageWidth() - section_->MarginLeft() - section_->MarginRight();
+    }
 
     const Manuscript& manuscript_;
     const Style& style_;
@@ -124,16 +126,18 @@ private:
     Values values_;
 
     std::vector<cmark_node*> notes_;
-    std::set<std::size_t> written_;                // notes that were referred to
-    std::map<cmark_node*, std::string> bookmarks_;  // of headings
+    std::set<std::size_t> written_;                            // notes that were referred to
+    std::map<cmark_node*, std::string> bookmarks_;             // of headings
     std::map<std::string, std::string, std::less<>> anchors_;  // their bookmarks by what links call them
     std::vector<cmark_node*> headings_;
-    std::map<std::string, std::map<int, std::pair<int, int>>> usedLevels_;  // of numbered lists: start and mark
+    std::map<std::string, std::map<int, std::pair<int, int>>>
+        usedLevels_;       // of numbered lists: start and mark
     std::string pending_;  // text that has not become a run yet
     Look pendingLook_;
     int lists_ = 0, figures_ = 0, tables_ = 0, depth_ = 0;
     std::size_t bookmarkCount_ = 0, notesBefore_ = 0;  // of the rows before
     bool inNote_ = false;
+    double room_ = 0;  // inches between the indents of the paragraph
 };
 
 }  // namespace draftwick::command

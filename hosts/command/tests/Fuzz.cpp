@@ -48,9 +48,14 @@ void Write(const std::string& markdown, const command::Style& style, bool mergin
 /// The first byte says whether there are tags; then they find values of each kind.
 [[maybe_unused]] void Markdown(const std::string& text) {
     static const command::Style style;
-    static const Datum row{Datum::Kind::Row, {}, {{"a", {Datum::Kind::Text, "x}{*"}},
-        {"b", {Datum::Kind::List, {}, {{"", {Datum::Kind::Row, {}, {{"c", {Datum::Kind::Text, "1"}}}}},
-            {"", {Datum::Kind::Text, "2"}}}}}}};
+    static const Datum row{Datum::Kind::Row,
+                           {},
+                           {{"a", {Datum::Kind::Text, "x}{*"}},
+                            {"b",
+                             {Datum::Kind::List,
+                              {},
+                              {{"", {Datum::Kind::Row, {}, {{"c", {Datum::Kind::Text, "1"}}}}},
+                               {"", {Datum::Kind::Text, "2"}}}}}}};
     const bool merging = !text.empty() && text[0] % 2 != 0;
     Write(text.empty() ? text : text.substr(1), style, merging, merging ? &row : nullptr);
 }
