@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 #include <condition_variable>
 #include <cstdio>
@@ -9,7 +10,7 @@
 #include <fstream>
 #include <iostream>
 #include <mutex>
-#include <optional>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
 #include <unordered_set>
@@ -90,7 +91,7 @@ public:
         if (failed_.size() < MostNamed) failed_.push_back(row.number);
         ++failures_;
         const std::string place = Place{file, row.line}.Text();
-        std::fprintf(stderr, "%s%s: error: row %lld: %s\n", shown_ ? "\r" : "", place.c_str(),
+        std::fprintf(stderr, "%s%s: error: row %lld: %s\n", shown_ ? "\r\033[K" : "", place.c_str(),
                      static_cast<long long>(row.number), what.c_str());
     }
     std::int64_t Failures() const { return failures_; }
@@ -182,6 +183,7 @@ private:
             constexpr std::size_t BatchSize = 16;
             Queue::Batch batch;
             ReadRows([&](Row&& row) {
+                NameOutput(row);
                 batch.push_back(std::move(row));
                 return batch.size() < BatchSize || queue_.Put(std::exchange(batch, {}));
             });
@@ -205,16 +207,22 @@ private:
         }
     }
 
-    void WriteFile(const Row& row) {
-        const std::string output = OutputOf(options_.output, row);
-        {
-            const std::lock_guard lock(outputsMutex_);
-            if (!outputs_.insert(output).second)
-                throw std::invalid_argument("an earlier row was written to " + output);
+    /// In the order of the rows, so that of two of a name it is always the first that gets it.
+    void NameOutput(Row& row) {
+        if (!row.fault.empty()) return;
+        try {
+            row.output = OutputOf(options_.output, row);
+            if (!outputs_.insert(row.output).second)
+                row.fault = "an earlier row was written to " + row.output;
+        } catch (const std::invalid_argument& error) {
+            row.fault = error.what();
         }
-        const auto document = NewDocument(options_, &style_, output);
+    }
+
+    void WriteFile(const Row& row) {
+        const auto document = NewDocument(options_, &style_, row.output);
         Writer(manuscript_, style_, options_.extras, document).Write(&row.data);
-        Deliver(*document, output);
+        Deliver(*document, row.output);
     }
 
     void RunOne() {
@@ -280,7 +288,6 @@ private:
     Progress progress_;
     Queue queue_;
     std::atomic<bool> stopped_ = false;
-    std::mutex outputsMutex_;
     std::unordered_set<std::string> outputs_;
 };
 
@@ -327,10 +334,17 @@ std::shared_ptr<Document> NewDocument(const Options& options, const Style* style
 }
 
 void Deliver(Document& document, const std::string& output) {
-    if (output == "-")
-        document.FinishTo(std::cout << std::flush);
-    else
+    if (output != "-") {
         document.Finish();
+        return;
+    }
+    const auto check = [](bool written) {
+        if (!written) throw std::system_error(errno, std::generic_category(), "cannot write standard output");
+    };
+    document.FinishTo([&](std::string_view bytes) {
+        check(std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size());
+    });
+    check(std::fflush(stdout) == 0);
 }
 
 std::int64_t Merge(const Manuscript& manuscript, const Style& style, const Options& options) {

@@ -25,7 +25,8 @@ struct Row {
     std::int64_t number = 0;  ///< from 1
     std::int64_t line = 0;    ///< where it begins
     Datum data{Datum::Kind::Row};
-    std::string fault{};  ///< not empty: the row cannot be used
+    std::string fault{};   ///< not empty: the row cannot be used
+    std::string output{};  ///< the file that is to be written for it alone
 };
 
 /// What is told about each row; false ends the reading.

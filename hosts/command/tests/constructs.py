@@ -1,6 +1,7 @@
 """Construct by construct, what LibreOffice shows of a Markdown text that draftwick wrote as RTF, and of the same text that
 pandoc wrote. The guide's table is made of these rows."""
 from dataclasses import dataclass, field
+from pathlib import Path
 from typing import Callable
 
 
@@ -132,9 +133,19 @@ def marks(odt):
     return " ".join(bullets) + " as marks of list items" if bullets else " ".join(typed) + " typed behind bullets"
 
 
+def picture(odt):
+    frames = [f for f in odt.find("frame") if f.find("image")]
+    if not frames:
+        return "none"
+    width = float(frames[0].attributes["width"][:-2])
+    return f"{count(len(frames), 'picture')}, " + ("no wider than the column" if width <= 475 else "wider than the page")
+
+
 def struck(odt):
     return "struck" if odt.look("old").get("text-line-through-style") == "solid" else "plain"
 
+
+WIDE_PICTURE = Path(__file__).resolve().parents[3] / "docs/pictures/tables.png"
 
 CONSTRUCTS = [
     Construct("List of bullets", "- a\n- b\n  - c\n\n- d\n", lists, "4 items, 2 levels", "no list, typed marks"),
@@ -160,6 +171,8 @@ CONSTRUCTS = [
     Construct("Header, footer, pages", "---\ntitle: Rules\nheader: Draft\nfooter: Page {page} of {pages}\n---\n\ntext\n",
               header, "Draft Page 1 of 1; 1 page number", "none"),
     Construct("Caption", "| a |\n| - |\n| b |\n\nTable: Prices\n", caption, "Table 1: Prices, counted", "Prices, typed"),
+    Construct("Picture", f"![what was sown]({WIDE_PICTURE})\n", picture, "1 picture, no wider than the column",
+              "1 picture, wider than the page"),
     Construct("Struck text", "~~old~~ new\n", struck, "struck", "struck"),
     Construct("Any letters", "Ωμέγα, слово, 漢字, 😀, א\n", text, "Ωμέγα, слово, 漢字, 😀, א", "Ωμέγα, слово, 漢字, 😀, א"),
 ]
