@@ -1,4 +1,4 @@
-// Four libFuzzer targets for what the command reads: FUZZED is Markdown, Json, Style or Csv. What must hold, whatever the
+// Four libFuzzer targets for what the command reads: FUZZED is one of the functions below. What must hold, whatever the
 // bytes: no undefined behaviour, nothing but failures that say where, and every document that comes out is one whole.
 
 #include "hosts/command/JsonDocument.h"
@@ -46,7 +46,7 @@ void Write(const std::string& markdown, const command::Style& style, bool mergin
 }
 
 /// The first byte says whether there are tags; then they find values of each kind.
-[[maybe_unused]] void Markdown(const std::string& text) {
+[[maybe_unused]] void FuzzMarkdown(const std::string& text) {
     static const command::Style style;
     static const Datum row{Datum::Kind::Row,
                            {},
@@ -60,7 +60,7 @@ void Write(const std::string& markdown, const command::Style& style, bool mergin
     Write(text.empty() ? text : text.substr(1), style, merging, merging ? &row : nullptr);
 }
 
-[[maybe_unused]] void Json(const std::string& text) {
+[[maybe_unused]] void FuzzJson(const std::string& text) {
     // What a document says is written as it is can be anything.
     if (text.find("Raw") != text.npos || text.find("Special") != text.npos) return;
     std::istringstream input(text);
@@ -69,7 +69,7 @@ void Write(const std::string& markdown, const command::Style& style, bool mergin
     output.Finish();
 }
 
-[[maybe_unused]] void Style(const std::string& text) {
+[[maybe_unused]] void FuzzStyle(const std::string& text) {
     std::istringstream input(text);
     command::Style style;
     style.Add(input, "style.json");
@@ -77,7 +77,7 @@ void Write(const std::string& markdown, const command::Style& style, bool mergin
 }
 
 /// Rows of CSV and of JSON: both readers must come to an end with the same rows whatever they are.
-[[maybe_unused]] void Csv(const std::string& text) {
+[[maybe_unused]] void FuzzCsv(const std::string& text) {
     for (const auto read : {ReadCsv, ReadJsonRows}) {
         std::istringstream input(text);
         std::int64_t rows = 0;
