@@ -100,30 +100,25 @@ private:
 
     /// The line is the one where the reader is: no token goes over the end of a line.
     Place PlaceOf(std::size_t offset) const {
-        const char* const start = buffer_.data();
-        const auto lines = lines_ + std::count(start, next_, '\n');
-        std::size_t lineStart = lineStart_;
-        for (const char* at = next_; at != start; --at) {
-            if (at[-1] != '\n') continue;
-            lineStart = before_ + static_cast<std::size_t>(at - start);
-            break;
-        }
-        const std::size_t column = offset >= lineStart ? offset - lineStart + 1 : 1;
-        return {name_, static_cast<std::int64_t>(lines) + 1, static_cast<std::int64_t>(column)};
+        const auto line = lines_ + std::count(buffer_.data(), next_, '\n') + 1;
+        const std::size_t start = std::min(LineStart(next_), offset);
+        return {name_, static_cast<std::int64_t>(line), static_cast<std::int64_t>(offset - start + 1)};
+    }
+
+    /// Where the line began that a place in the buffer is in.
+    std::size_t LineStart(const char* place) const {
+        while (place != buffer_.data() && place[-1] != '\n') --place;
+        return place == buffer_.data() ? lineStart_
+                                       : before_ + static_cast<std::size_t>(place - buffer_.data());
     }
 
     void Fill() {
-        const char* const start = buffer_.data();
-        lines_ += std::count(start, end_, '\n');
-        for (const char* at = end_; at != start; --at) {
-            if (at[-1] != '\n') continue;
-            lineStart_ = before_ + static_cast<std::size_t>(at - start);
-            break;
-        }
-        before_ += static_cast<std::size_t>(end_ - start);
+        lines_ += std::count(buffer_.data(), end_, '\n');
+        lineStart_ = LineStart(end_);
+        before_ += static_cast<std::size_t>(end_ - buffer_.data());
         input_.read(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
-        next_ = start;
-        end_ = start + input_.gcount();
+        next_ = buffer_.data();
+        end_ = next_ + input_.gcount();
     }
 
     std::istream& input_;
