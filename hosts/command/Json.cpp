@@ -100,20 +100,21 @@ private:
 
     /// The line is the one where the reader is: no token goes over the end of a line.
     Place PlaceOf(std::size_t offset) const {
-        const auto line = lines_ + std::count(buffer_.data(), next_, '\n') + 1;
+        const auto line = lines_ + std::count(Start(), next_, '\n') + 1;
         const std::size_t start = std::min(LineStart(next_), offset);
         return {name_, static_cast<std::int64_t>(line), static_cast<std::int64_t>(offset - start + 1)};
     }
 
+    const char* Start() const { return buffer_.data(); }
+
     /// Where the line began that a place in the buffer is in.
     std::size_t LineStart(const char* place) const {
-        while (place != buffer_.data() && place[-1] != '\n') --place;
-        return place == buffer_.data() ? lineStart_
-                                       : before_ + static_cast<std::size_t>(place - buffer_.data());
+        while (place != Start() && place[-1] != '\n') --place;
+        return place == Start() ? lineStart_ : before_ + static_cast<std::size_t>(place - Start());
     }
 
     void Fill() {
-        lines_ += std::count(buffer_.data(), end_, '\n');
+        lines_ += std::count(Start(), end_, '\n');
         lineStart_ = LineStart(end_);
         before_ += static_cast<std::size_t>(end_ - buffer_.data());
         input_.read(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));

@@ -38,6 +38,9 @@ ROWS = [
     ("in", '{"Content": ["x"]}', 1, 'in:1:14: error: Document cannot hold "Paragraph"; there are Section'),
     ("in", '{"Content": [{"Section": {}, "Section": {}}]}', 1,
      'in:1:30: error: only one thing in each object of a list; put braces around "Section"'),
+    # Farther away than the reader looks at once.
+    ("in", '{"Content": [{"Section": {"Content": [\n' + '"x",\n' * 30000 + " 1]}}]}", 1,
+     "in:30002:2: error: what an object holds is a text or an object"),
     ("in", in_paragraph('"Format": {"Align": "dwAlignCentre"}'), 1,
      'in:2:36: error: "dwAlignCentre" is no dwParagraphAlign; did you mean "dwAlignCenter"?'),
     ("in", in_paragraph('"Format": {"OutlineLevel": 10}'), 1,
