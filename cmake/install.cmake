@@ -101,6 +101,19 @@ set(CPACK_DEBIAN_C_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-draftwick)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
 string(APPEND CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS ", python3 (>= 3.10)")
+# The command, which needs this library and no other version of it.
+if(DRAFTWICK_COMMAND)
+    list(APPEND CPACK_COMPONENTS_ALL command)
+    set(CPACK_DEBIAN_COMMAND_PACKAGE_NAME draftwick)
+    set(CPACK_DEBIAN_COMMAND_PACKAGE_SECTION text)
+    set(CPACK_DEBIAN_COMMAND_PACKAGE_SHLIBDEPS ON)
+    if(BUILD_SHARED_LIBS)
+        set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/draftwick)
+        set(CPACK_DEBIAN_COMMAND_PACKAGE_DEPENDS "libdraftwick${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+    endif()
+    set(CPACK_COMPONENT_COMMAND_DESCRIPTION
+        "This command writes Markdown, data in CSV and JSON,\nand documents in JSON as RTF that word processors open.")
+endif()
 string(CONCAT description
     "Draftwick streams documents of sections, paragraphs, tables, lists, notes,\n"
     "fields, shapes and pictures to one RTF file.")
