@@ -1,26 +1,30 @@
-// Writes the reference pages: classes.md from the classes' own descriptions, enumerations.md from the headers.
+// Writes the reference pages, classes.md and enumerations.md: names, numbers and types from the classes' descriptions,
+// sentences from the comments of the headers.
 //
 // usage: draftwick_reference SOURCES FOLDER            writes the pages
 //        draftwick_reference --check SOURCES FOLDER    fails when a page in the folder is not what would be written
 //
 // SOURCES is the folder draftwick/ with the headers.
+#include "Headers.h"
+
+#include <draftwick/base/internal/Enumeration.h>
 #include <draftwick/draftwick.h>
 
 #include <algorithm>
-#include <cctype>
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <iterator>
-#include <map>
-#include <set>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
 using namespace draftwick;
+using docs::Headers;
 
 namespace {
 
@@ -39,64 +43,61 @@ std::string Link(const std::string& page, const std::string& name) {
 }
 
 /// What a host gives or gets; nothing of a method that gives nothing.
-std::string TypeName(const Type* type) {
+std::string TypeText(const Type* type, bool optional = false) {
     if (type == nullptr) return "";
-    const std::string name{type->name};
-    if (type->description != nullptr) return Link("", name);
-    return type->values.empty() ? name : Link("enumerations.md", name);
+    std::string text{type->name};
+    if (type->description != nullptr) text = Link("", text);
+    if (!type->values.empty()) text = Link("enumerations.md", text);
+    return optional ? text + " or nothing" : text;
 }
 
-std::string RealText(double value) {
+std::string ValueText(const Variant& value, const Type& type) {
     std::ostringstream text;
-    text << value;
+    if (const auto* on = std::get_if<bool>(&value)) {
+        text << (*on ? "true" : "false");
+    } else if (const auto* number = std::get_if<std::int32_t>(&value)) {
+        if (type.kind == Kind::Color)
+            text << "0x" << std::hex << std::uppercase << std::setw(6) << std::setfill('0');
+        text << *number;
+    } else if (const auto* real = std::get_if<double>(&value)) {
+        text << *real << (type.kind == Kind::Length && *real != 0 ? " twips" : "");
+    } else if (const auto* string = std::get_if<std::string>(&value)) {
+        text << (string->empty() ? "empty" : "`\"" + *string + "\"`");
+    } else {
+        text << "nothing";
+    }
     return text.str();
 }
 
-std::string ValueText(const Variant& value) {
-    if (const auto* on = std::get_if<bool>(&value)) return *on ? "true" : "false";
-    if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_string(*number);
-    if (const auto* real = std::get_if<double>(&value)) return RealText(*real);
-    if (const auto* text = std::get_if<std::string>(&value)) return "`\"" + *text + "\"`";
-    return "nothing";
+std::string ArgumentsText(const std::vector<Argument>& arguments) {
+    std::string text;
+    for (const Argument& argument : arguments) {
+        text += (text.empty() ? "" : ", ") + std::string{argument.name} + ": " + TypeText(argument.type);
+        if (argument.initial) text += " = " + ValueText(*argument.initial, *argument.type);
+    }
+    return text;
 }
 
-std::string KindText(const ClassProperty& property) { return TypeName(property.type); }
+std::string NameText(const ClassProperty& property) {
+    const std::string name{property.name};
+    return property.arguments.empty() ? name : name + "(" + ArgumentsText(property.arguments) + ")";
+}
+
+std::string HoldsText(const ClassProperty& property) {
+    const std::string type = TypeText(property.type, property.optional);
+    if (property.set == nullptr) return type + ", read only";
+    return property.get == nullptr ? type + ", write only" : type;
+}
 
 std::string RangeText(const ClassProperty& property) {
     const Rule& rule = property.rule;
     if (rule.limited) return std::to_string(rule.low) + "…" + std::to_string(rule.high);
     if (property.type->kind == Kind::Length) return "16 bits of twips";
-    if (rule.bits == 16) return "16 bits";
-    return "";
+    return rule.bits == 16 ? "16 bits" : "";
 }
 
-std::string DefaultText(const ClassProperty& property) {
-    if (std::holds_alternative<std::monostate>(property.rule.initial)) return "";
-    const std::string text = ValueText(property.rule.initial);
-    if (text == "`\"\"`") return "empty";
-    return property.type->kind == Kind::Length && text != "0" ? text + " twips" : text;
-}
-
-std::string AccessText(const ClassProperty& property) {
-    if (property.set == nullptr) return ", read only";
-    return property.get == nullptr ? ", write only" : "";
-}
-
-std::string ArgumentsText(const ClassMethod& method) {
-    std::string text;
-    for (const Argument& argument : method.arguments) {
-        if (!text.empty()) text += ", ";
-        text += argument.name;
-        const std::string type = TypeName(argument.type);
-        text += ": " + type;
-        if (argument.initial) text += " = " + ValueText(*argument.initial);
-    }
-    return text;
-}
-
-std::string Trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(" \t");
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(" \t,") - first + 1);
+bool HasDefault(const ClassProperty& property) {
+    return !std::holds_alternative<std::monostate>(property.rule.initial);
 }
 
 /// A comment as Markdown text: RTF words have backslashes and stars.
@@ -109,208 +110,98 @@ std::string Escaped(const std::string& comment) {
     return text;
 }
 
-/// What a header says about a class (where it is declared, its base, the comments of its members) or an enumeration.
-struct Declaration {
-    std::string header{};
-    std::string base{};
-    std::string comment{};  // of an enumeration
-    std::map<std::string, std::string> comments{};
-};
-using Declarations = std::map<std::string, Declaration>;
-
-/// "SetWidth" of "    void SetWidth(double points) { ... }"; empty when the line declares no function.
-std::string MemberOf(const std::string& line) {
-    const auto bracket = line.find('(');
-    if (bracket == std::string::npos) return "";
-    auto start = bracket;
-    while (start > 0 && (std::isalnum(static_cast<unsigned char>(line[start - 1])) != 0)) --start;
-    return line.substr(start, bracket - start);
+/// A comment as it fits a cell of a table.
+std::string InCell(const std::string& comment) {
+    return std::regex_replace(Escaped(comment), std::regex{"\n+"}, " ");
 }
 
-/// "RowContainer" of "class Section final : public RowContainer {": the last class that is named, whichever template
-/// it goes through.
-std::string BaseOf(const std::string& line) {
-    const auto at = line.find(": public ");
-    if (at == std::string::npos) return "";
-    std::string bases = line.substr(at + 9, line.find('{') - at - 9);
-    if (bases.find("HeldBy<") != std::string::npos) {
-        const auto comma = bases.find(", ");
-        return comma == std::string::npos ? "Content" : bases.substr(comma + 2, bases.rfind('>') - comma - 2);
+/// What a property is. A plain default has a column of its own; where no more is said, the enumeration tells.
+std::string CommentText(const Headers& headers, const Class& of, const ClassProperty& property) {
+    std::string text;
+    for (const std::string& sentence : docs::SentencesOf(headers.CommentOf(of.name, property.name))) {
+        const bool plain = sentence.starts_with("Default") && sentence.find(": ") == std::string::npos;
+        if (!plain || !HasDefault(property)) text += (text.empty() ? "" : " ") + sentence;
     }
-    if (const auto scope = bases.find("::"); scope != std::string::npos) bases.erase(0, scope + 2);
-    return bases.substr(0, bases.find_first_of("< ,"));
+    return InCell(text.empty() ? headers.CommentOf(property.type->name) : text);
 }
 
-/// Reads the classes of a header. A comment holds for what is declared below it, up to the next comment or empty line.
-void ReadDeclarations(const std::string& source, const std::string& header, Declarations& declarations) {
-    std::istringstream lines(source);
-    Declaration* current = nullptr;
-    std::string comment;
-    bool inComment = false;
-    for (std::string line, more; std::getline(lines, line);) {
-        // The head of a class can go on in the next line.
-        if (line.starts_with("class ") && !line.ends_with('{') && !line.ends_with(';')
-            && std::getline(lines, more))
-            line += " " + Trimmed(more);
-        if (line.starts_with("enum dw")) {
-            declarations[line.substr(5, line.find(' ', 5) - 5)].comment = comment;
-        } else if (line.starts_with("class ") && line.ends_with('{')) {
-            std::string head = line.substr(0, line.find_first_of(":{"));
-            if (const auto final = head.find(" final"); final != std::string::npos) head.erase(final);
-            head = Trimmed(head);
-            current = &declarations[head.substr(head.rfind(' ') + 1)];
-            current->header = header;
-            current->base = BaseOf(line);
-        } else if (line.starts_with("};")) {
-            current = nullptr;
-        } else if (const auto text = line.find("/// "); text == 0 || text == 4) {
-            comment = (inComment ? comment + ' ' : "") + line.substr(text + 4);
-            inComment = true;
-            continue;
-        } else if (line.empty()) {
-            comment.clear();
-        } else if (current != nullptr && line.starts_with("    ") && line[4] != ' ' && !comment.empty()) {
-            if (const std::string member = MemberOf(line); !member.empty())
-                current->comments.emplace(member, comment);
-        }
-        inComment = false;
-    }
-}
-
-/// What the header of a class, or of one of its bases, says about a member. What it says about a plain default is left
-/// out: it has a column of its own.
-std::string CommentOf(const Declarations& declarations, std::string name, const std::string& member) {
-    while (!name.empty()) {
-        const auto found = declarations.find(name);
-        if (found == declarations.end()) return "";
-        const auto comment = found->second.comments.find(member);
-        if (comment == found->second.comments.end()) {
-            name = found->second.base;
-            continue;
-        }
-        std::string text;
-        std::string_view rest = comment->second;
-        while (!rest.empty()) {
-            const std::string_view sentence = rest.substr(0, std::min(rest.find(". "), rest.size() - 1) + 1);
-            rest.remove_prefix(std::min(sentence.size() + 1, rest.size()));
-            if (sentence.starts_with("Default") && sentence.find(": ") == std::string_view::npos) continue;
-            text += (text.empty() ? "" : " ") + std::string{sentence};
-        }
-        return Escaped(text);
-    }
-    return "";
-}
-
-/// What a property is. Where its own comment tells no more than the default, its enumeration tells.
-std::string PropertyComment(const Declarations& declarations, const std::string& name,
-                            const ClassProperty& property) {
-    const std::string member{property.name};
-    const std::string comment =
-        CommentOf(declarations, name, property.get == nullptr ? "Set" + member : member);
-    const auto enumeration = declarations.find(std::string{property.type->name});
-    if (!comment.empty() || enumeration == declarations.end()) return comment;
-    return Escaped(enumeration->second.comment);
-}
-
-void WriteClass(std::ostream& out, const Class& description, const Declarations& declarations) {
-    const std::string name{description.name};
-    const std::string& header = declarations.at(name).header;
-    out << "\n## " << name << "\n\n";
-    out << "[draftwick/" << header << "](../../draftwick/" << header << ") · class `" << description.classId
-        << "` · interface `" << description.interfaceId << "`\n";
-    if (!description.properties.empty()) {
+void WriteClass(std::ostream& out, const Class& one, const Headers& headers) {
+    const std::string& header = headers.FileOf(one.name);
+    out << "\n## " << one.name << "\n\n" << Escaped(headers.CommentOf(one.name)) << "\n\n";
+    out << "[draftwick/" << header << "](../../draftwick/" << header << ") · class `" << one.classId
+        << "` · interface `" << one.interfaceId << "`";
+    if (one.create != nullptr) out << " · made by hosts, as `" << ProgIdPrefix << "." << one.name << "`";
+    if (one.items != nullptr) out << " · collection of " << TypeText(one.items);
+    if (!one.defaultMember.empty()) out << " · default member `" << one.defaultMember << "`";
+    out << '\n';
+    if (!one.properties.empty()) {
         out << "\n| Property | Holds | Range | Default | |\n| --- | --- | --- | --- | --- |\n";
-        for (const ClassProperty& property : description.properties) {
-            const std::string member{property.name};
-            out << "| " << member << " | " << KindText(property) << AccessText(property) << " | "
-                << RangeText(property) << " | " << DefaultText(property) << " | "
-                << PropertyComment(declarations, name, property) << " |\n";
+        for (const ClassProperty& property : one.properties) {
+            out << "| " << NameText(property) << " | " << HoldsText(property) << " | " << RangeText(property)
+                << " | " << (HasDefault(property) ? ValueText(property.rule.initial, *property.type) : "")
+                << " | " << CommentText(headers, one, property) << " |\n";
         }
     }
-    if (!description.methods.empty()) {
+    if (!one.methods.empty()) {
         out << "\n| Method | Arguments | Gives | |\n| --- | --- | --- | --- |\n";
-        for (const ClassMethod& method : description.methods) {
-            out << "| " << method.name << " | " << ArgumentsText(method) << " | " << TypeName(method.result)
-                << " | " << CommentOf(declarations, name, std::string{method.name}) << " |\n";
+        for (const ClassMethod& method : one.methods) {
+            out << "| " << method.name << " | " << ArgumentsText(method.arguments) << " | "
+                << TypeText(method.result, method.optional) << " | "
+                << InCell(headers.CommentOf(one.name, method.name)) << " |\n";
         }
     }
 }
 
-std::string ClassesPage(const fs::path& sources, const std::set<fs::path>& headers) {
+std::string ClassesPage(const Headers& headers) {
     std::ostringstream out;
     out << R"(# Classes, properties and methods by name
 
 Written by `scripts/docs reference` from the classes' own descriptions and the comments of their headers. The guide's
 [chapter on names](../guide/by-name.md) tells how to use them.
 
-- **Holds**: a *length* is a real number in the document's `ScaleMode` (inches, twips or points), kept as whole twips
-  in 16 bits: -32768 to 32767. *any* is a value of any kind. A name with a link is an enumeration or a class.
+- **Holds**: a kind of value, see below. A name with a link is an enumeration or a class.
 - **Range**: outside of it a setter refuses, and the property keeps its value: error -2147220890 outside of a range of
   numbers, error 6 outside of 16 bits.
 - **Default**: of a new object. None is given where it depends on the document or on how the object was made.
-- Every class also has `Parent`, the object that it belongs to, and `Document`. Both are read only.
 - In C++ a property `MarginTop` is `MarginTop()` and `SetMarginTop(value)`. Arguments with a default can be left out.
-- The identifiers never change.
-
-)";
-    std::vector<std::string> names;
-    for (const Class* description : Classes()) names.push_back(Link("", std::string{description->name}));
-    for (std::size_t i = 0; i < names.size(); ++i) out << (i == 0 ? "" : " ·\n") << names[i];
+- The identifiers never change. That of the library of types is `)"
+        << TypeLibraryId << "`.\n\n| Kind | |\n| --- | --- |\n";
+    for (const EnumerationValue& kind : ValuesOf<Kind>::All) {
+        out << "| " << kind.name << " | " << Escaped(headers.CommentOf("Kind", kind.name)) << " |\n";
+    }
+    out << "\nEvery class has these properties, too:\n\n| Property | Holds | |\n| --- | --- | --- |\n";
+    for (const ClassProperty& property : CommonProperties()) {
+        out << "| " << property.name << " | " << HoldsText(property) << " | "
+            << Escaped(headers.CommentOf("Object", property.name)) << " |\n";
+    }
     out << '\n';
-    Declarations declarations;
-    for (const fs::path& header : headers)
-        ReadDeclarations(ReadFile(header), fs::relative(header, sources).generic_string(), declarations);
-    for (const Class* description : Classes()) WriteClass(out, *description, declarations);
+    const char* divider = "";
+    for (const Class* one : Classes()) {
+        out << divider << Link("", std::string{one->name});
+        divider = " ·\n";
+    }
+    out << '\n';
+    for (const Class* one : Classes()) WriteClass(out, *one, headers);
     return out.str();
 }
 
-/// The values of an enumeration: "dwLeft = 1,  ///< what it is" on a line each, or several on one.
-void WriteValues(std::ostream& out, const std::string& body) {
-    std::istringstream lines(body);
-    for (std::string line; std::getline(lines, line);) {
-        const auto remark = line.find("///<");
-        const std::string note = remark == std::string::npos ? "" : Escaped(Trimmed(line.substr(remark + 4)));
-        std::istringstream values(line.substr(0, remark));
-        for (std::string value; std::getline(values, value, ',');) {
-            const auto equals = value.find('=');
-            if (equals == std::string::npos) continue;
-            out << "| " << Trimmed(value.substr(0, equals)) << " | " << Trimmed(value.substr(equals + 1))
-                << " | " << note << " |\n";
+std::string EnumerationsPage(const Headers& headers) {
+    std::ostringstream out;
+    out << R"(# Enumerations
+
+Written by `scripts/docs reference` from the descriptions and the comments of the headers. A host that has no names
+for the values gives the numbers.
+)";
+    for (const Type* type : Enumerations()) {
+        const std::string comment = headers.CommentOf(type->name);
+        out << "\n## " << type->name << "\n\n" << Escaped(comment) << (comment.empty() ? "" : "\n\n");
+        out << "| Name | Value | |\n| --- | --- | --- |\n";
+        for (const EnumerationValue& value : type->values) {
+            out << "| " << value.name << " | " << value.value << " | "
+                << Escaped(headers.CommentOf(type->name, value.name)) << " |\n";
         }
     }
-}
-
-/// The enumerations of a header, by name.
-void ReadEnumerations(const fs::path& header, std::map<std::string, std::string>& pages) {
-    std::istringstream text(ReadFile(header));
-    std::string comment;
-    for (std::string line; std::getline(text, line);) {
-        if (line.starts_with("/// ")) {
-            comment += (comment.empty() ? "" : " ") + line.substr(4);
-        } else if (line.starts_with("enum dw")) {
-            const std::string name = line.substr(5, line.find(' ', 5) - 5);
-            std::string body = line.substr(line.find('{') + 1);
-            while (line.find("};") == std::string::npos && std::getline(text, line)) body += '\n' + line;
-            std::ostringstream page;
-            page << "\n## " << name << "\n\n" << Escaped(comment) << (comment.empty() ? "" : "\n\n");
-            page << "| Name | Value | |\n| --- | --- | --- |\n";
-            WriteValues(page, body.substr(0, body.rfind("};")));
-            pages.emplace(name, page.str());
-            comment.clear();
-        } else {
-            comment.clear();
-        }
-    }
-}
-
-std::string EnumerationsPage(const std::set<fs::path>& headers) {
-    std::map<std::string, std::string> pages;
-    for (const fs::path& header : headers) ReadEnumerations(header, pages);
-    std::string out = "# Enumerations\n\nWritten by `scripts/docs reference` from the headers. A host that "
-                      "has no names for the "
-                      "values\ngives the numbers.\n";
-    for (const auto& [name, page] : pages) out += page;
-    return out;
+    return out.str();
 }
 
 bool Deliver(const fs::path& path, const std::string& page, bool checkOnly) {
@@ -327,11 +218,8 @@ bool Deliver(const fs::path& path, const std::string& page, bool checkOnly) {
 }
 
 bool WritePages(const fs::path& sources, const fs::path& folder, bool checkOnly) {
-    std::set<fs::path> headers;
-    for (const auto& entry : fs::recursive_directory_iterator(sources)) {
-        if (entry.path().extension() == ".h") headers.insert(entry.path());
-    }
-    const bool classes = Deliver(folder / "classes.md", ClassesPage(sources, headers), checkOnly);
+    const Headers headers(sources);
+    const bool classes = Deliver(folder / "classes.md", ClassesPage(headers), checkOnly);
     const bool enumerations = Deliver(folder / "enumerations.md", EnumerationsPage(headers), checkOnly);
     return classes && enumerations;
 }

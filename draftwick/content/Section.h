@@ -77,11 +77,11 @@ public:
     void SetPageWidth(double length) { Change(values_.page.pageWidth, length); }
     double PageHeight() const { return Read(values_.page.pageHeight); }
     void SetPageHeight(double length) { Change(values_.page.pageHeight, length); }
-    /// Room for binding, on the inner side of the page.
+    /// Room for binding, on the inner side of the page. Default: the document's when the section was added.
     double Gutter() const { return Read(values_.page.gutter); }
     void SetGutter(double length) { Change(values_.page.gutter, length); }
 
-    /// A change swaps PageWidth and PageHeight.
+    /// A change swaps PageWidth and PageHeight. Default: the document's when the section was added.
     dwOrientation Orientation() const { return values_.orientation; }
     void SetOrientation(dwOrientation orientation);
 

@@ -54,7 +54,7 @@ public:
     void SetStyle(dwBorderStyle style) { Change(values_.style, style); }
 
     /// Points whatever the ScaleMode; written in twips, rounded down (RTF \brdrw). Default 1. Error 6 when the twips
-    /// do not fit 32 bits.
+    /// do not fit 32 bits or, of a cell's border, the points 16.
     double Width() const { return values_.width; }
     void SetWidth(double points) { Change(values_.width, points); }
 

@@ -33,7 +33,8 @@ enum dwTextAnimation : std::int32_t {
 
 /// The look of characters: of a run of text, of a paragraph's runs unless they say otherwise, of a style, of a field
 /// or of the number of a list level. Sizes and positions are in points whatever the document's ScaleMode. What is
-/// on or off is off by default. Refuses when what it belongs to refuses.
+/// on or off is off by default. A run's begins as its paragraph's is, all others with the defaults. Refuses when what it
+/// belongs to refuses.
 class DRAFTWICK_API FontFormat final : public detail::Part {
 public:
     struct Values {

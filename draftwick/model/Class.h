@@ -16,9 +16,9 @@ namespace draftwick {
 
 /// What a value is, as hosts tell kinds apart.
 enum class Kind {
-    Boolean,
-    Number,  ///< whole, 32 bits; of an enumeration when the type has values
-    Real,    ///< where a real number is wanted, a whole one does
+    Boolean,  ///< true or false
+    Number,   ///< whole, 32 bits; of an enumeration when the type has values
+    Real,     ///< where a real number is wanted, a whole one does
     Length,  ///< a real number in the document's ScaleMode, kept in whole twips of 16 bits: error 6 outside of them
     Color,   ///< a number: red in the lowest byte, then green, then blue
     Text,    ///< UTF-8

@@ -4,7 +4,7 @@
 
 #include <unordered_map>
 
-namespace draftwick {
+namespace draftwick::detail {
 
 struct NamedItems::Positions {
     std::unordered_map<std::string, std::int32_t> byKey;
@@ -52,4 +52,4 @@ void NamedItems::RemoveItem(std::int32_t position) {
     items_.erase(items_.begin() + removed);
 }
 
-}  // namespace draftwick
+}  // namespace draftwick::detail

@@ -21,11 +21,11 @@ public:
 
     Bookmark(const detail::Origin& origin, std::string_view name, bool isStart);
 
-    /// Written as it is: braces and backslashes in it break the file.
+    /// Written as it is: braces and backslashes in it break the file. Default: as added.
     const std::string& Name() const { return values_.name; }
     void SetName(std::string_view name) { Change(values_.name, name); }
 
-    /// Whether it is the start, not the end. Default true.
+    /// Whether it is the start, not the end. Default: as added.
     bool IsStart() const { return values_.isStart; }
     void SetIsStart(bool on) { Change(values_.isStart, on); }
 

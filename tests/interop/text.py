@@ -238,7 +238,7 @@ def lists(t):
     numbers = ("One", "1", "A", "a", "I", "i", "1st", "First", "01", "•")
     for style, label in enumerate(numbers, 1):
         level = t.document.Lists.Add(f"Style {style}").Levels(1)
-        level.set(Style=style, Format="•" if style == dw.LNSBullet else "\\L1.")
+        level.set(Style=style, Format="•" if label == "•" else "\\L1.")
     for name, member, value in (("Right", "Align", dw.LNARight), ("Space", "Follow", dw.LNFSpace),
                                 ("Nothing", "Follow", dw.LNFNothing), ("From 5", "StartAt", 5),
                                 ("Long", "Format", "Paragraph \\L1.")):
