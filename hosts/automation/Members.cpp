@@ -1,0 +1,53 @@
+#include "Members.h"
+
+#include "Numbers.h"
+
+#include <algorithm>
+#include <map>
+#include <stdexcept>
+#include <string>
+
+namespace draftwick::automation {
+
+Members::Members(const Class& of) : description_(of) {
+    const auto numberOf = [&](std::string_view name) {
+        return name == of.defaultMember ? DefaultNumber : NumberOf(name);
+    };
+    const auto add = [&](std::span<const ClassProperty> properties) {
+        for (const ClassProperty& row : properties)
+            all_.push_back({numberOf(row.name), row.name, row.arguments, row.type, row.optional, &row});
+    };
+    add(of.properties);
+    add(CommonProperties());
+    for (const ClassMethod& row : of.methods)
+        all_.push_back({numberOf(row.name), row.name, row.arguments, row.result, row.optional});
+    std::ranges::sort(all_, {}, &Member::number);
+    const auto twice = std::ranges::adjacent_find(all_, {}, &Member::number);
+    if (twice != all_.end()) throw std::logic_error("one number for two: " + std::string{twice->name});
+}
+
+const Members& Members::Of(const Class& one) {
+    static const auto known = [] {
+        std::map<const Class*, Members> all;
+        for (const Class* each : Classes()) all.emplace(each, *each);
+        return all;
+    }();
+    return known.at(&one);
+}
+
+const Member* Members::Find(std::int32_t number) const {
+    const auto found = std::ranges::lower_bound(all_, number, {}, &Member::number);
+    return found == all_.end() || found->number != number ? nullptr : &*found;
+}
+
+const Member* Members::Find(std::wstring_view name) const {
+    const auto isNamed = [name](const Member* member) {
+        return member != nullptr
+               && std::ranges::equal(member->name, name, {}, ToLower<wchar_t>, ToLower<wchar_t>);
+    };
+    if (const Member* found = Find(NumberOf(name)); isNamed(found)) return found;
+    const Member* meant = Find(DefaultNumber);
+    return isNamed(meant) ? meant : nullptr;
+}
+
+}  // namespace draftwick::automation
