@@ -89,12 +89,12 @@ HRESULT RegisterLibrary(Users users) {
     return enter(library.get(), path.data(), nullptr);
 }
 
-HRESULT UnregisterLibrary(Users users) {
+/// That it is not there is no failure, and where there are no rights the classes tell.
+void UnregisterLibrary(Users users) {
     GUID id{};
     ::CLSIDFromString(Wide(TypeLibraryId).c_str(), &id);
     const auto take = users == Users::All ? &::UnRegisterTypeLib : &::UnRegisterTypeLibForUser;
-    const HRESULT outcome = take(id, VersionMajor, 0, LOCALE_NEUTRAL, SYS_WIN64);
-    return outcome == TYPE_E_REGISTRYACCESS ? S_OK : outcome;  // not there
+    take(id, VersionMajor, 0, LOCALE_NEUTRAL, SYS_WIN64);
 }
 
 }  // namespace
@@ -110,7 +110,8 @@ HRESULT Register(Users users) {
 HRESULT Unregister(Users users) {
     return Guarded(nullptr, [&] {
         const Root root(users);
-        HRESULT outcome = UnregisterLibrary(users);
+        UnregisterLibrary(users);
+        HRESULT outcome = S_OK;
         const auto remove = [&](const std::wstring& key) {
             if (const HRESULT result = root.Delete(key); FAILED(result)) outcome = result;
         };

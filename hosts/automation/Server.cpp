@@ -37,12 +37,6 @@ private:
     const Class& made_;
 };
 
-/// For all users, or where there are no rights for that for the current one.
-HRESULT RegisterWhereAllowed() {
-    const HRESULT outcome = Register(Users::All);
-    return outcome == E_ACCESSDENIED || outcome == TYPE_E_REGISTRYACCESS ? Register(Users::Current) : outcome;
-}
-
 }  // namespace
 
 STDAPI DllGetClassObject(REFCLSID id, REFIID interfaceId, void** result) {
@@ -66,11 +60,16 @@ STDAPI DllCanUnloadNow() {
     return S_OK;
 }
 
-STDAPI DllRegisterServer() { return RegisterWhereAllowed(); }
+/// For all users, or where that fails, as it does without rights, for the current one.
+STDAPI DllRegisterServer() {
+    if (SUCCEEDED(Register(Users::All))) return S_OK;
+    Unregister(Users::All);
+    return Register(Users::Current);
+}
 
 STDAPI DllUnregisterServer() {
     const HRESULT own = Unregister(Users::Current), all = Unregister(Users::All);
-    return FAILED(all) && all != E_ACCESSDENIED ? all : own;
+    return FAILED(all) ? all : own;
 }
 
 /// regsvr32 /n /i:user enters the classes for the current user alone, whatever the rights.

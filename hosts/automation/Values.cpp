@@ -74,8 +74,14 @@ Date ReadDate(double days) {
 
 double WriteDate(const Date& date) {
     const auto word = [](std::int32_t number) { return static_cast<WORD>(number); };
-    SYSTEMTIME time{word(date.year), word(date.month),  word(date.day),    0,
-                    word(date.hour), word(date.minute), word(date.second), 0};
+    SYSTEMTIME time{.wYear = word(date.year),
+                    .wMonth = word(date.month),
+                    .wDayOfWeek = 0,
+                    .wDay = word(date.day),
+                    .wHour = word(date.hour),
+                    .wMinute = word(date.minute),
+                    .wSecond = word(date.second),
+                    .wMilliseconds = 0};
     double days = 0;
     // Automation takes a year below 100 for one of this or the last century.
     if (date.year < 100 || ::SystemTimeToVariantTime(&time, &days) == 0)
