@@ -30,14 +30,16 @@ std::string InstructionOf(const Field::Values& field) {
 
 void EmitField(RtfWriter& writer, const RunSettings& run, const Field::Values& field,
                const DocumentSettings& document) {
+    const Scripts scripts = writer.Standard() ? ScriptsOf(field.text) : Scripts{};
+    EmitDirection(writer, scripts);
     writer.Group([&] {
-        EmitRunFormat(writer, run, document);
+        EmitRunFormat(writer, run, scripts, document);
         writer.Group("field", [&] {
             if (field.dirty) writer.Word("flddirty");
             if (field.edited) writer.Word("fldedit");
             if (field.locked) writer.Word("fldlock");
             if (field.isPrivate) writer.Word("fldpriv");
-            writer.Destination("fldinst", [&] { writer.Text(InstructionOf(field)); });
+            writer.Destination("fldinst", [&] { writer.Line(InstructionOf(field)); });
             writer.Group("fldrslt", [&] { writer.Text(field.text); });
         });
     });

@@ -1,5 +1,8 @@
 #include <draftwick/content/internal/Writers.h>
 #include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/Session.h>
+
+#include <type_traits>
 
 namespace draftwick {
 
@@ -21,14 +24,26 @@ void EmitParagraphPlace(RtfWriter& writer, const Frame* frame) {
 }
 
 void EmitParagraph(RtfWriter& writer, const ParagraphSettings& paragraph, const DocumentSettings& document) {
-    if (paragraph.style) writer.Word("s", paragraph.style.Position());
-    if (paragraph.borders != nullptr) EmitParagraphBorders(writer, *paragraph.borders);
-    if (paragraph.background != nullptr) EmitBackground(writer, Stored(*paragraph.background));
+    if (paragraph.style) {
+        writer.Word("s", ParagraphStyleNumber(writer, paragraph.style.Position()));
+    } else {
+        writer.Word(Spelled{"", "s"}, 0);
+    }
+    const bool overStyle = writer.Standard() && paragraph.style;
+    const auto* style =
+        overStyle ? &StoredParts(paragraph.style.In(*writer.names->paragraphStyles)) : nullptr;
+    const auto values = [&](auto part) { return style != nullptr ? &Stored(style->*part) : nullptr; };
+    using Parts = std::remove_cvref_t<decltype(*style)>;
+    if (paragraph.borders != nullptr)
+        EmitParagraphBorders(writer, *paragraph.borders, style != nullptr ? &style->borders : nullptr);
+    if (paragraph.background != nullptr)
+        EmitBackground(writer, Stored(*paragraph.background), values(&Parts::background));
     EmitFontFormat(
         writer, paragraph.fontFormat != nullptr ? Stored(*paragraph.fontFormat) : DefaultFontFormat(document),
-        true);
-    EmitParagraphFormat(writer, paragraph.format, document);
+        true, values(&Parts::fontFormat));
+    EmitParagraphFormat(writer, paragraph.format, document, values(&Parts::format));
     if (paragraph.tabStops != nullptr) EmitTabStops(writer, *paragraph.tabStops);
+    writer.layout.direction = Direction::None;
 }
 
 }  // namespace draftwick

@@ -26,6 +26,7 @@ void WritePage(RtfWriter& writer, const Section::Values& section) {
     writer.Word("marglsxn", section.page.marginLeft.Twips());
     writer.Word("margrsxn", section.page.marginRight.Twips());
     writer.Word("margbsxn", section.page.marginBottom.Twips());
+    if (section.page.gutter.Twips() != 0) writer.Word(Spelled{"", "gutter"}, section.page.gutter.Twips());
     writer.Word("guttersxn", section.page.gutter.Twips());
     if (section.orientation == dwLandscape) writer.Word("lndscpsxn");
 }
@@ -37,8 +38,9 @@ void EmitSection(RtfWriter& writer, const Section::Values& section, const Column
     if (!writer.layout.FirstSection) writer.Word("sect");
     writer.layout.FirstSection = false;
     writer.Word("sectd");
-    // Only printer-specific numbers below zero are written here; PaperBin is always written.
-    if (section.paperBinFirst < 0) writer.Word("binfsxn", section.paperBinFirst);
+    // Classic: only printer-specific numbers, those below zero. PaperBin is always written.
+    if (section.paperBinFirst < 0 || (writer.Standard() && section.paperBinFirst != 0))
+        writer.Word("binfsxn", section.paperBinFirst);
     writer.Word("binsxn", section.paperBin);
     writer.Word(BreakWords, section.sectionBreak);
     EmitColumns(writer, columns);

@@ -3,21 +3,70 @@
 #include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Session.h>
 #include <draftwick/text/Escape.h>
+#include <draftwick/text/Scripts.h>
 #include <draftwick/text/Utf8.h>
 
+#include <algorithm>
+
 namespace draftwick {
+
+namespace {
+
+char SmallLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+bool IsLetter(char c) { return c >= 'a' && c <= 'z'; }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsHexadecimal(char c) { return IsDigit(c) || (c >= 'a' && c <= 'f'); }
+
+/// "line" or "li-360": letters and a number, as RTF limits them.
+bool IsControlWord(std::string_view word) {
+    constexpr std::size_t MostLetters = 32, MostDigits = 10;
+    const auto number = std::find_if_not(word.begin(), word.end(), IsLetter);
+    const auto digits = number != word.end() && *number == '-' ? number + 1 : number;
+    const auto letters = static_cast<std::size_t>(number - word.begin());
+    const auto length = static_cast<std::size_t>(word.end() - digits);
+    return letters > 0 && letters <= MostLetters && length <= MostDigits
+           && (number == word.end() || length > 0) && std::all_of(digits, word.end(), IsDigit);
+}
+
+/// The code in RTF with what ends it; empty for what is no code, or one that would take text behind it along.
+std::string SpecialCode(std::string_view special) {
+    std::string word{special.substr(special.starts_with('\\') ? 1 : 0)};
+    std::transform(word.begin(), word.end(), word.begin(), SmallLetter);
+    // Readers do not know these two words.
+    if (word == "emspace") return "\u2003";
+    if (word == "enspace") return "\u2002";
+    if (IsControlWord(word)) {
+        if (word.starts_with("bin") && (word.size() == 3 || !IsLetter(word[3]))) return {};
+        const bool isCharacter = word.size() > 1 && word[0] == 'u' && !IsLetter(word[1]);
+        return "\\" + word + (isCharacter ? " ?" : " ");
+    }
+    if (!special.starts_with('\\')) return {};
+    if (word.size() == 1 && std::string_view{"~_-:|\\{}"}.find(word[0]) != std::string_view::npos)
+        return "\\" + word;
+    if (word.size() < 2 || word.size() > 3 || word[0] != '\''
+        || !std::all_of(word.begin() + 1, word.end(), IsHexadecimal))
+        return {};
+    return word.size() == 2 ? "\\'0" + word.substr(1) : "\\" + word;
+}
+
+}  // namespace
 
 TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(origin) {
     if (raw) {
         text_ = ToValidUtf8(text);
     } else {
-        AppendEscaped(text_, text);
+        Append(text);
     }
+}
+
+void TextItem::Append(std::string_view text) {
+    const bool standard = Session().settings.spelling == dwSpellingStandard;
+    AppendEscaped(text_, text, standard ? Escaping::Lines : Escaping::Classic);
 }
 
 void TextItem::AddText(std::string_view text) {
     OpenForChange();
-    AppendEscaped(text_, text);
+    Append(text);
 }
 
 void TextItem::AddRawText(std::string_view text) {
@@ -27,15 +76,27 @@ void TextItem::AddRawText(std::string_view text) {
 
 void TextItem::AddSpecial(std::string_view special) {
     OpenForChange();
+    if (Session().settings.spelling == dwSpellingStandard) {
+        const std::string code = SpecialCode(special);
+        if (code.empty()) {
+            Append(special);
+        } else {
+            text_ += code;
+        }
+        return;
+    }
     std::string code = ToValidUtf8(special);
     for (char& c : code) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+        c = SmallLetter(c);
     }
     if (code.empty() || code.front() != '\\') code.insert(code.begin(), '\\');
     text_ += code + " ";
 }
 
-void TextItem::WriteStart() { EmitTextItem(Writer(), Settings(), text_, Session().settings); }
+void TextItem::WriteStart() {
+    const Scripts scripts = Writer().Standard() ? ScriptsOf(text_) : Scripts{};
+    EmitTextItem(Writer(), Settings(), text_, scripts, Session().settings);
+}
 
 const Class& TextItem::Describe() {
     using T = TextItem;

@@ -9,12 +9,14 @@ class DRAFTWICK_API TextItem final : public Run {
 public:
     TextItem(const detail::Origin& origin, std::string_view text, bool raw);
 
-    /// Adds text; characters that mean something in RTF are escaped, tabs and CR LF become \tab and \line.
+    /// Adds text; characters that mean something in RTF are escaped, tabs and CR LF become \tab and \line. In the standard
+    /// spelling a lone CR or LF is a line break, too.
     void AddText(std::string_view text);
     /// Adds RTF as it is: it must be valid.
     void AddRawText(std::string_view text);
     /// Adds the code of a special character, one of those in Special or any other: ASCII letters are made lower
-    /// case, a backslash is put in front if there is none, and a space behind.
+    /// case, a backslash is put in front if there is none, and a space behind. In the standard spelling what is no
+    /// control word or symbol of RTF is added as text.
     void AddSpecial(std::string_view special);
 
     /// All that was added, in RTF form and UTF-8.
@@ -27,6 +29,8 @@ protected:
     void WriteStart() override;
 
 private:
+    void Append(std::string_view text);
+
     std::string text_;
 };
 

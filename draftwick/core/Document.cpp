@@ -71,6 +71,7 @@ void Document::Finish() { Close(); }
 
 void Document::WriteStart() {
     files_->OpenBody(Session());
+    if (settings_.spelling == dwSpellingStandard) Writer().UseStandardSpelling();
     WriteDocumentFormatting(Writer(), settings_);
 }
 
@@ -140,6 +141,7 @@ const Class& Document::Describe() {
             PropertyOf<&D::Filename, &D::SetFilename, &V::filename>("Filename").As(Kind::Path),
             PropertyOf<&D::TempPath, &D::SetTempPath, &V::tempPath>("TempPath").As(Kind::Path),
             PropertyOf<&D::ScaleMode, &D::SetScaleMode, &V::scaleMode>("ScaleMode"),
+            PropertyOf<&D::Spelling, &D::SetSpelling, &V::spelling>("Spelling"),
             PropertyOf<&D::MarginTop, &D::SetMarginTop, &P::marginTop>("MarginTop"),
             PropertyOf<&D::MarginLeft, &D::SetMarginLeft, &P::marginLeft>("MarginLeft"),
             PropertyOf<&D::MarginRight, &D::SetMarginRight, &P::marginRight>("MarginRight"),

@@ -87,6 +87,10 @@ public:
     dwScaleMode ScaleMode() const { return settings_.scaleMode; }
     void SetScaleMode(dwScaleMode scale) { settings_.scaleMode.Set(scale); }
 
+    /// How the file is spelled: dwSpellingStandard is what new programs want. Default dwSpellingClassic.
+    dwSpelling Spelling() const { return settings_.spelling; }
+    void SetSpelling(dwSpelling spelling) { Change(settings_.spelling, spelling); }
+
     /// The fonts, lists and styles that the content refers to by name. Fonts and styles must be there before the first
     /// section is added, lists before Finish.
     std::shared_ptr<draftwick::Fonts> Fonts() const;

@@ -12,8 +12,8 @@ namespace {
 void WriteHyphenation(RtfWriter& writer, const DocumentSettings& settings) {
     writer.Word("hyphhotz", settings.hyphenHotZone.Twips());
     writer.Word("hyphconsec", settings.hyphenConsecutiveLines);
-    writer.Flag("hyphcaps", settings.hyphenCaps);
-    writer.Flag("hyphauto", settings.hyphenAuto);
+    writer.Toggle("hyphcaps", settings.hyphenCaps);
+    writer.Toggle("hyphauto", settings.hyphenAuto);
 }
 
 void WritePage(RtfWriter& writer, const DocumentSettings& settings) {
@@ -23,7 +23,7 @@ void WritePage(RtfWriter& writer, const DocumentSettings& settings) {
     writer.Word("margl", settings.page.marginLeft.Twips());
     writer.Word("margr", settings.page.marginRight.Twips());
     writer.Word("margb", settings.page.marginBottom.Twips());
-    writer.Flag("facingp", settings.facingPage);  // readers want the bare word; the number is promised
+    writer.Flag("facingp", settings.facingPage);
     writer.Word("gutter", settings.page.gutter.Twips());
     writer.Flag("margmirror", settings.marginMirror);
     if (settings.orientation == dwLandscape) writer.Word("landscape");
@@ -31,8 +31,18 @@ void WritePage(RtfWriter& writer, const DocumentSettings& settings) {
     writer.Flag("widowctrl", settings.widowOrphanControl);
 }
 
+/// {\*\windowcaption Report}; classic without the star.
+void WriteCaption(RtfWriter& writer, std::string_view caption) {
+    const auto write = [&] { writer.Name(caption); };
+    if (writer.Standard()) {
+        writer.Destination("windowcaption", write);
+    } else {
+        writer.Group("windowcaption", write);
+    }
+}
+
 void WriteView(RtfWriter& writer, const DocumentSettings& settings) {
-    if (!settings.caption.empty()) writer.Group("windowcaption", [&] { writer.Raw(settings.caption); });
+    if (!settings.caption.empty()) WriteCaption(writer, settings.caption);
     if (settings.viewKind != dwViewNone) {
         writer.Word("viewkind", settings.viewKind - 1);
         writer.Word("viewscale", settings.zoomScale);
@@ -44,8 +54,8 @@ void WriteView(RtfWriter& writer, const DocumentSettings& settings) {
 
 /// \fet2\fntbj\ftnrstcont\ftnstart1\ftnnar, two line breaks, \aendnotes\aftnrstcont\aftnstart1\aftnnar
 void WriteNoteSettings(RtfWriter& writer, const DocumentSettings& settings) {
-    // "fntbj" is not what readers expect and "aftnrstcont" stands for a restart on each page: both are promised.
-    static constexpr std::string_view LocationWords[] = {"ftntj", "fntbj"};
+    // Endnotes cannot start again on each page: there is no word for it.
+    const Words<dwFootnoteLocation> LocationWords{"ftntj", writer.Standard() ? "ftnbj" : "fntbj"};
     static constexpr std::string_view RestartWords[] = {"ftnrstpg", "ftnrestart", "ftnrstcont"};
     static constexpr std::string_view FormatWords[] = {"ftnnar", "ftnnalc", "ftnnauc", "ftnnrlc", "ftnnruc"};
     static constexpr std::string_view EndLocationWords[] = {"aendnotes", "aenddoc"};
@@ -64,15 +74,15 @@ void WriteNoteSettings(RtfWriter& writer, const DocumentSettings& settings) {
     writer.Word(EndFormatWords, settings.endnoteFormat);
 }
 
-/// {\colortbl\red0\green0\blue0;}; nothing while no colour was used.
+/// {\colortbl;\red0\green0\blue0;}; classic without the reader's own colour in front. Nothing while no colour was used.
 void WriteColorTable(RtfWriter& writer) {
     if (writer.colors.InOrder().empty()) return;
-    writer.Group("colortbl", [&] {
+    // Here a semicolon belongs to the word: a text would get a space before it.
+    writer.Group(writer.Standard() ? "colortbl;" : "colortbl", [&] {
         for (const std::int32_t color : writer.colors.InOrder()) {
             const auto bits = static_cast<std::uint32_t>(color);
             writer.Word("red", static_cast<std::int32_t>(bits & 0xFF));
             writer.Word("green", static_cast<std::int32_t>(bits >> 8 & 0xFF));
-            // The semicolon belongs to the word: a text would get a space before it.
             writer.Word("blue" + std::to_string(bits >> 16 & 0xFF) + ";");
         }
     });
@@ -99,6 +109,8 @@ void RegisterHeaderColors(RtfWriter& writer, const DocumentSettings& settings) {
 void EmitHeader(RtfWriter& writer, const DocumentSettings& settings) {
     writer.output.WriteGroupStart();  // closed at the end of the body
     writer.Word("rtf", 1);
+    writer.Word(Spelled{"", "ansi"});
+    writer.Word(Spelled{"", "ansicpg"}, 1252);
     if (settings.defaultFont) writer.Word("deff", settings.defaultFont.Position());
     EmitFontTable(writer, *writer.names->fonts);
     WriteColorTable(writer);

@@ -9,7 +9,7 @@ bool HasValue(const Property& property) { return !std::holds_alternative<std::mo
 
 /// "{\title Report}"
 void WriteTextGroup(RtfWriter& writer, std::string_view word, std::string_view text) {
-    writer.Group(word, [&] { writer.Text(text); });
+    writer.Group(word, [&] { writer.Line(text); });
 }
 
 /// "{\creatim\yr2024\mo2\dy29\hr12\min0\sec0}"

@@ -4,6 +4,9 @@
 #include <draftwick/rtf/BlockWriter.h>
 #include <draftwick/rtf/UniqueFile.h>
 
+#include <algorithm>
+#include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace draftwick {
@@ -17,8 +20,45 @@ std::int32_t Percent(std::int32_t twips, std::int32_t himetric) {
     return RoundDown(static_cast<double>(TwipsToHimetric(twips)) / himetric * 100);
 }
 
-/// What a file holds according to the end of its name, in small letters; nothing when no picture has such a name.
-std::optional<PictureKind> PictureTypeFromName(std::string_view fileName) {
+std::int32_t HimetricToTwips(std::int32_t himetric) {
+    return static_cast<std::int32_t>(std::min(std::lround(himetric * 1440.0 / 2540), 0x7FFFFFFFL));
+}
+
+bool StartsWith(std::string_view head, std::string_view signature, std::size_t at = 0) {
+    return head.size() >= at && head.substr(at).starts_with(signature);
+}
+
+/// What a file holds according to its first bytes; nothing for a metafile without a size, which has no signature.
+std::optional<PictureKind> PictureTypeFromContent(platform::FileSystem& files, const std::string& fileName) {
+    std::error_code error;
+    const auto file = files.OpenForReading(fileName, error);
+    char bytes[44];
+    std::size_t size = 0;
+    while (file != nullptr && !error && size < sizeof bytes) {
+        const std::size_t more = file->Read(bytes + size, sizeof bytes - size, error);
+        if (more == 0) break;
+        size += more;
+    }
+    const std::string_view head{bytes, error ? 0 : size};
+    if (StartsWith(head, "\xFF\xD8\xFF")) return PictureKind::Jpeg;
+    if (StartsWith(head, "\x89PNG\r\n\x1A\n")) return PictureKind::Png;
+    if (StartsWith(head, "GIF8")) return PictureKind::Gif;
+    if (StartsWith(head, "BM")) return PictureKind::Bmp;
+    if (StartsWith(head, std::string_view{"\x01\0\0\0", 4}) && StartsWith(head, " EMF", 40))
+        return PictureKind::Emf;
+    if (IsPlaceable({reinterpret_cast<const unsigned char*>(head.data()), head.size()}))
+        return PictureKind::Wmf;
+    return {};
+}
+
+/// What a file holds according to the end of its name; nothing when no picture has such a name. Classic knows small
+/// letters alone, and no PNG.
+std::optional<PictureKind> PictureTypeFromName(std::string fileName, bool standard) {
+    if (standard) {
+        std::transform(fileName.begin(), fileName.end(), fileName.begin(),
+                       [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+        if (fileName.ends_with(".png")) return PictureKind::Png;
+    }
     static constexpr std::pair<std::string_view, PictureKind> Endings[] = {
         {".jpg", PictureKind::Jpeg}, {".jpeg", PictureKind::Jpeg}, {".bmp", PictureKind::Bmp},
         {".emf", PictureKind::Emf},  {".wmf", PictureKind::Wmf},   {".gif", PictureKind::Gif},
@@ -31,10 +71,17 @@ std::optional<PictureKind> PictureTypeFromName(std::string_view fileName) {
 
 }  // namespace
 
-OpenPicture::OpenPicture(const platform::Platform& platform, const std::string& fileName) {
+bool detail::IsPlaceable(std::span<const unsigned char> bytes) {
+    static constexpr unsigned char Key[] = {0xD7, 0xCD, 0xC6, 0x9A};
+    return bytes.size() >= sizeof Key && std::equal(std::begin(Key), std::end(Key), bytes.begin());
+}
+
+OpenPicture::OpenPicture(const platform::Platform& platform, const std::string& fileName, bool standard) {
     platform::FileSystem& files = *platform.files;
     if (!files.Exists(fileName)) RaiseError(dwErrPictureFileNotFound, {fileName});
-    const std::optional<PictureKind> kind = PictureTypeFromName(fileName);
+    std::optional<PictureKind> kind;
+    if (standard) kind = PictureTypeFromContent(files, fileName);
+    if (!kind) kind = PictureTypeFromName(fileName, standard);
     if (!kind) RaiseError(dwErrUnsupportedFileType, {fileName});
     kind_ = *kind;
     std::error_code error;
@@ -87,6 +134,11 @@ void OpenPicture::Read(platform::FileSystem& files, const std::string& name) {
         if (more == 0) break;
     }
     if (error) RaiseFileError(error, "read", name);
+}
+
+PictureSize OpenPicture::SizeOr(const PictureSize& other) const noexcept {
+    if (width_ == 0 || height_ == 0) return other;
+    return {HimetricToTwips(width_), HimetricToTwips(height_)};
 }
 
 std::optional<OpenPicture::Scale> OpenPicture::ScaleTo(std::int32_t width, std::int32_t height) const {

@@ -26,23 +26,43 @@ void WritePictureData(RtfWriter& writer, std::span<const unsigned char> bytes) {
     }
 }
 
-}  // namespace
-
-void EmitPicture(RtfWriter& writer, const OpenPicture& picture,
-                 const std::optional<OpenPicture::Scale>& scale) {
-    switch (picture.Kind()) {
+void WriteKind(RtfWriter& writer, PictureKind kind) {
+    switch (kind) {
     case PictureKind::Wmf: writer.Word("wmetafile8"); break;
     case PictureKind::Emf: writer.Word("emfblip"); break;
+    case PictureKind::Png: writer.Word("pngblip"); break;
     default: writer.Word("jpegblip");
     }
+}
+
+/// RTF wants a metafile without its placeable header. Classic cuts as much from every one.
+std::span<const unsigned char> DataOf(const OpenPicture& picture, bool standard) {
+    constexpr std::size_t PlaceableHeader = 22;
+    const std::span<const unsigned char> bytes = picture.Bytes();
+    if (picture.Kind() != PictureKind::Wmf || (standard && !IsPlaceable(bytes))) return bytes;
+    return bytes.subspan(std::min(PlaceableHeader, bytes.size()));
+}
+
+}  // namespace
+
+void EmitPicture(RtfWriter& writer, const OpenPicture& picture, const PictureSize& size) {
+    if (!writer.Standard()) return EmitClassicPicture(writer, picture);
+    WriteKind(writer, picture.Kind());
+    writer.Word("picw", TwipsToHimetric(size.width));
+    writer.Word("pich", TwipsToHimetric(size.height));
+    writer.Word("picwgoal", size.width);
+    writer.Word("pichgoal", size.height);
+    WritePictureData(writer, DataOf(picture, true));
+}
+
+void EmitClassicPicture(RtfWriter& writer, const OpenPicture& picture,
+                        const std::optional<OpenPicture::Scale>& scale) {
+    WriteKind(writer, picture.Kind());
     if (scale) {
         writer.Word("picscalex", scale->x);
         writer.Word("picscaley", scale->y);
     }
-    constexpr std::size_t PlaceableHeader = 22;  // RTF wants a metafile without it
-    const std::span<const unsigned char> bytes = picture.Bytes();
-    const bool isWmf = picture.Kind() == PictureKind::Wmf;
-    WritePictureData(writer, bytes.subspan(isWmf ? std::min(PlaceableHeader, bytes.size()) : 0));
+    WritePictureData(writer, DataOf(picture, false));
 }
 
 }  // namespace draftwick

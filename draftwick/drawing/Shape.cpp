@@ -60,8 +60,8 @@ void Shape::WriteRowMark() {
 
 void Shape::WriteStart() {
     const ShapeSettings settings = Settings();
-    ShapePictures pictures = OpenPictures(Session().platform, settings);
-    Writer().EnterShape();
+    ShapePictures pictures = OpenPictures(Writer(), Session().platform, settings);
+    Writer().EnterStory();
     EmitShapeStart(Writer(), settings, pictures);
     if (settings.IsInlinePicture()) inlinePicture_ = std::move(pictures.fill);
 }
@@ -69,7 +69,8 @@ void Shape::WriteStart() {
 void Shape::WriteEnd() {
     EmitShapeEnd(Writer(), Settings(), inlinePicture_.get());
     inlinePicture_.reset();
-    const LayoutState outer = Writer().LeaveShape();
+    const LayoutState outer = Writer().LeaveStory();
+    if (Writer().Standard()) return;
     LayoutState& layout = Writer().layout;
     layout.ShapeTextPending = outer.ShapeTextPending;
     layout.InlinePicture = outer.InlinePicture;

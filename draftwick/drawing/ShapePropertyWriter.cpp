@@ -31,10 +31,11 @@ void WriteShapeProperty(RtfWriter& writer, std::string_view name, double value) 
     WriteProperty(writer, name, [&] { writer.Raw(NumberText(value)); });
 }
 
-void WriteShapeProperty(RtfWriter& writer, std::string_view name, const OpenPicture& picture) {
+void WriteShapeProperty(RtfWriter& writer, std::string_view name, const OpenPicture& picture,
+                        const PictureSize& size) {
     WriteProperty(writer, name, [&] {
         writer.Raw("");
-        writer.Group("pict", [&] { EmitPicture(writer, picture); });
+        writer.Group("pict", [&] { EmitPicture(writer, picture, size); });
     });
 }
 

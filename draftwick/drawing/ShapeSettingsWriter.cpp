@@ -38,11 +38,14 @@ void WriteArrow(RtfWriter& writer, const ArrowNames& names, std::int32_t arrow, 
 
 void EmitShapeFill(RtfWriter& writer, const ShapeFill::Values& fill) {
     static constexpr std::int32_t Types[] = {0, 1, 2, 3, 7, 6};  // from dwSFSSolid
-    if (fill.style == dwSFSNone) return;
+    if (fill.style == dwSFSNone) {
+        if (writer.Standard()) WriteShapeProperty(writer, "fFilled", 0);
+        return;
+    }
     WriteShapeProperty(writer, "fFilled", 1);
-    // Twice: readers that go by the first number and readers that go by the second are both promised theirs.
     WriteShapeProperty(writer, "fillType", Types[fill.style - dwSFSSolid]);
-    WriteShapeProperty(writer, "fillType", fill.style - dwSFSSolid);
+    // Classic: twice, for readers that go by the first number and readers that go by the second.
+    if (!writer.Standard()) WriteShapeProperty(writer, "fillType", fill.style - dwSFSSolid);
     WriteShapeProperty(writer, "fillColor", fill.color);
     WriteOpacity(writer, "fillOpacity", fill.opacity);
     WriteShapeProperty(writer, "fillBackColor", fill.backColor);
@@ -59,7 +62,10 @@ void EmitShapeFill(RtfWriter& writer, const ShapeFill::Values& fill) {
 }
 
 void EmitShapeLine(RtfWriter& writer, const ShapeLine::Values& line) {
-    if (line.style == dwSLSNone) return;
+    if (line.style == dwSLSNone) {
+        if (writer.Standard()) WriteShapeProperty(writer, "fLine", 0);
+        return;
+    }
     WriteShapeProperty(writer, "lineColor", line.color);
     WriteShapeProperty(writer, "lineBackColor", line.backColor);
     WriteShapeProperty(writer, "lineType", line.texture - 1);
@@ -79,12 +85,12 @@ void EmitShapeShadow(RtfWriter& writer, const ShapeShadow::Values& shadow) {
     };
     if (shadow.style == dwSSSNone) return;
     WriteShapeProperty(writer, "fShadow", 1);
-    static constexpr std::string_view Types[] = {"", "0", "1"};
-    WriteShapeProperty(writer, "shadowType", WordList{Types}[shadow.style]);
+    static constexpr Words<dwShapeShadowStyle> Types{"", "0", "1"};
+    WriteShapeProperty(writer, "shadowType", Types[shadow.style]);
     WriteShapeProperty(writer, "shadowColor", shadow.color);
     WriteOpacity(writer, "shadowOpacity", shadow.opacity);
     emu("shadowOffsetX", shadow.offsetX);
-    emu("shadowoffsetY", shadow.offsetY);  // the spelling is part of the format we promise
+    emu(writer.Of({"shadowoffsetY", "shadowOffsetY"}), shadow.offsetY);
     if (shadow.style == dwSSSDouble) {
         WriteShapeProperty(writer, "shadowHighlight", shadow.color2);
         emu("shadowSecondOffsetX", shadow.offsetX2);

@@ -6,7 +6,7 @@ void EmitShapeThreeD(RtfWriter& writer, const ShapeThreeD::Values& effect) {
     using V = ShapeThreeD::Values;
     if (!effect.visible) return;
     const ShapeDifferences changed(writer, effect);
-    WriteShapeProperty(writer, "fc3D", 1);
+    WriteShapeProperty(writer, writer.Of({"fc3D", "f3D"}), 1);
     changed.Length("c3DExtrudeBackward", &V::depth);
     changed.Length("c3DExtrudeForward", &V::depthForward);
     // The surface.

@@ -8,7 +8,7 @@ void EmitShapeWordArt(RtfWriter& writer, const ShapeWordArt::Values& wordArt) {
     using V = ShapeWordArt::Values;
     if (wordArt.text.empty()) return;
     const ShapeDifferences changed(writer, wordArt);
-    WriteShapeProperty(writer, "fGText", 1);
+    WriteShapeProperty(writer, writer.Of({"fGText", "fGtext"}), 1);
     WriteShapeProperty(writer, "gtextUNICODE", wordArt.text);
     if (wordArt.font) WriteShapeProperty(writer, "gtextFont", wordArt.font.In(*writer.names->fonts).Name());
     changed.Real("gtextSize", &V::size);

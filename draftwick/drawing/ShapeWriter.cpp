@@ -6,16 +6,13 @@ namespace draftwick {
 
 namespace {
 
-constexpr std::string_view ReferenceXWords[] = {"shpbxpage", "shpbxcolumn", "shpbxmargin"};
-constexpr std::string_view ReferenceYWords[] = {"shpbypage", "shpbypara", "shpbymargin"};
+constexpr Words<dwShapeReferenceX> ReferenceXWords{"shpbxpage", "shpbxcolumn", "shpbxmargin"};
+constexpr Words<dwShapeReferenceY> ReferenceYWords{"shpbypage", "shpbypara", "shpbymargin"};
 constexpr std::array<std::string_view, 10> AdjustNames{
     "adjustValue",  "adjust2Value", "adjust3Value", "adjust4Value", "adjust5Value",
     "adjust6Value", "adjust7Value", "adjust8Value", "adjust9Value", "adjust10Value"};
-// Both vertical directions are one number.
-constexpr std::string_view FlowValues[] = {"0", "2", "2"};
-
-/// A turn of one degree. The format has 65536 parts; this number is part of the format we promise.
-constexpr double PartsOfDegree = 63356;
+/// From top to bottom with upright letters is 3 in the format; classic knows one number for both vertical directions.
+constexpr Words<dwShapeTextFlow> FlowValues{"0", "3", "2"}, ClassicFlowValues{"0", "2", "2"};
 
 void WriteEmu(RtfWriter& writer, std::string_view name, Length length) {
     WriteShapeProperty(writer, name, TwipsToEmu(length.Twips()));
@@ -30,12 +27,24 @@ void WritePosition(RtfWriter& writer, const Shape::Values& shape) {
     writer.Word(ReferenceXWords, shape.referenceX);
     writer.Word(ReferenceYWords, shape.referenceY);
     writer.Word("shpwr", shape.wrap);
-    writer.Word("shpwrk", shape.wrapSides - 1);
+    // Sides mean something only where text stands on them: readers put text there when they are told of sides.
+    const bool besides = shape.wrap == dwSWAround || shape.wrap == dwSWTightly || shape.wrap == dwSWThrough;
+    if (besides || !writer.Standard()) writer.Word("shpwrk", shape.wrapSides - 1);
     if (shape.lockAnchor) writer.Word("shplockanchor");
 }
 
+/// In 65536ths of a degree, of either sign; classic has another number, and turns to the right alone.
+void WriteRotation(RtfWriter& writer, double degrees) {
+    constexpr double ClassicParts = 63356;
+    if (writer.Standard()) {
+        if (degrees != 0) WriteShapeProperty(writer, "rotation", ToFixedPoint(degrees));
+    } else if (degrees > 0) {
+        WriteShapeProperty(writer, "Rotation", degrees * ClassicParts);
+    }
+}
+
 void WriteGeometry(RtfWriter& writer, const Shape::Values& shape) {
-    if (shape.rotation > 0) WriteShapeProperty(writer, "Rotation", shape.rotation * PartsOfDegree);
+    WriteRotation(writer, shape.rotation);
     WriteEmu(writer, "dxWrapDistLeft", shape.wrapLeft);
     WriteEmu(writer, "dxWrapDistRight", shape.wrapRight);
     WriteEmu(writer, "dxWrapDistTop", shape.wrapTop);
@@ -53,43 +62,61 @@ void WriteTextFormat(RtfWriter& writer, const ShapeSettings& settings) {
     WriteEmu(writer, "dxTextRight", format.spacingRight);
     WriteEmu(writer, "dxTextTop", format.spacingTop);
     WriteEmu(writer, "dxTextBottom", format.spacingBottom);
-    WriteShapeProperty(writer, "txflTextFlow", WordList{FlowValues}[format.flow]);
+    WriteShapeProperty(writer, "txflTextFlow",
+                       (writer.Standard() ? FlowValues : ClassicFlowValues)[format.flow]);
     if (settings.shape.nextIndex != 0) WriteShapeProperty(writer, "hspNext", settings.shape.nextIndex);
 }
 
-/// What every shape says about itself.
-void WriteIdentity(RtfWriter& writer, const ShapeSettings& settings) {
-    writer.Word("shplid", settings.index);
-    WriteShapeProperty(writer, "ShapeType", settings.shape.kind);
-    if (settings.shape.flipH) WriteShapeProperty(writer, "FFlipH", 1);
-    if (settings.shape.flipV) WriteShapeProperty(writer, "FFlipV", 1);
+void WriteKind(RtfWriter& writer, const Shape::Values& shape) {
+    WriteShapeProperty(writer, writer.Of({"ShapeType", "shapeType"}), shape.kind);
+    if (shape.flipH) WriteShapeProperty(writer, writer.Of({"FFlipH", "fFlipH"}), 1);
+    if (shape.flipV) WriteShapeProperty(writer, writer.Of({"FFlipV", "fFlipV"}), 1);
+}
+
+/// The size that a picture has to a reader that does not scale it: its own, or the shape's when it has none.
+PictureSize SizeOf(const ShapeSettings& settings, const OpenPicture& picture) {
+    return picture.SizeOr({settings.shape.width.Twips(), settings.shape.height.Twips()});
 }
 
 void WriteInstance(RtfWriter& writer, const ShapeSettings& settings, const ShapePictures& pictures) {
-    WriteIdentity(writer, settings);
+    writer.Word("shplid", settings.index);
+    // The format has all words before the first property.
+    if (!writer.Standard()) WriteKind(writer, settings.shape);
     WritePosition(writer, settings.shape);
+    if (writer.Standard()) WriteKind(writer, settings.shape);
     WriteGeometry(writer, settings.shape);
     EmitShapeFill(writer, settings.fill);
     EmitShapeLine(writer, settings.line);
     EmitShapeShadow(writer, settings.shadow);
     EmitShapeThreeD(writer, settings.threeD);
     EmitShapeWordArt(writer, settings.wordArt);
-    if (pictures.fill != nullptr)
-        WriteShapeProperty(writer, settings.IsPictureFrame() ? "pib" : "fillBlip", *pictures.fill);
-    if (pictures.line != nullptr) WriteShapeProperty(writer, "lineFillBlip", *pictures.line);
+    const auto show = [&](std::string_view name, const OpenPicture& picture) {
+        WriteShapeProperty(writer, name, picture, SizeOf(settings, picture));
+    };
+    if (pictures.fill != nullptr) show(settings.IsPictureFrame() ? "pib" : "fillBlip", *pictures.fill);
+    if (pictures.line != nullptr) show("lineFillBlip", *pictures.line);
 }
 
-/// An in-line picture is scaled to the numbers that its size has in the document's unit, taken as twips.
+/// A picture in the text, of the size that was asked for; of its own where that is none.
+void WriteInlinePicture(RtfWriter& writer, const ShapeSettings& settings, const OpenPicture& picture) {
+    const PictureSize asked{settings.shape.width.Twips(), settings.shape.height.Twips()};
+    EmitPicture(writer, picture, asked.width > 0 && asked.height > 0 ? asked : SizeOf(settings, picture));
+}
+
+/// Classic scales an in-line picture to the numbers that its size has in the document's unit, taken as twips.
 std::optional<OpenPicture::Scale> ScaleOf(const ShapeSettings& settings, const OpenPicture& picture) {
     return picture.ScaleTo(RoundHalfEven(settings.width), RoundHalfEven(settings.height));
 }
 
 }  // namespace
 
-ShapePictures OpenPictures(const platform::Platform& platform, const ShapeSettings& settings) {
+ShapePictures OpenPictures(const RtfWriter& writer, const platform::Platform& platform,
+                           const ShapeSettings& settings) {
     const ShapeFill::Values& fill = settings.fill;
     const ShapeLine::Values& line = settings.line;
-    const auto open = [&](const std::string& name) { return std::make_unique<OpenPicture>(platform, name); };
+    const auto open = [&](const std::string& name) {
+        return std::make_unique<OpenPicture>(platform, name, writer.Standard());
+    };
     ShapePictures pictures;
     if (settings.IsPictureFrame()) {
         pictures.fill = open(fill.picture);
@@ -107,11 +134,20 @@ void EmitShapeStart(RtfWriter& writer, const ShapeSettings& settings, const Shap
     layout.InlinePicture = settings.IsInlinePicture();
     if (layout.InlinePicture) {
         writer.OpenGroup("pict");
-        writer.Destination("picprop", [&] { WriteIdentity(writer, settings); });
+        writer.Destination("picprop", [&] {
+            writer.Word("shplid", settings.index);
+            WriteKind(writer, settings.shape);
+        });
+        if (writer.Standard()) WriteInlinePicture(writer, settings, *pictures.fill);
+    } else if (writer.Standard()) {
+        writer.OpenGroup("shp");
+        writer.OpenDestination("shpinst");  // the text is part of it
+        WriteInstance(writer, settings, pictures);
+        WriteTextFormat(writer, settings);
     } else {
         writer.OpenGroup("shp");
         writer.Destination("shpinst", [&] {
-            // This brace is one more than the format has; it is part of what we promise.
+            // Classic has a brace more than the format.
             writer.Group([&] { WriteInstance(writer, settings, pictures); });
             WriteTextFormat(writer, settings);
         });
@@ -131,12 +167,15 @@ void EmitShapeEnd(RtfWriter& writer, const ShapeSettings& settings, const OpenPi
     std::optional<OpenPicture::Scale> scale;
     if (inlinePicture != nullptr) scale = ScaleOf(settings, *inlinePicture);
     if (!writer.layout.ShapeTextPending) {
+        const bool endsInRow = writer.layout.TableEndsSection;
+        if (endsInRow && writer.Standard()) writer.Word("par");
         writer.CloseGroup();
-        if (writer.layout.TableEndsSection) writer.Word("par");
+        if (endsInRow && !writer.Standard()) writer.Word("par");
     }
+    if (writer.Standard() && !settings.IsInlinePicture()) writer.CloseGroup();
     writer.CloseGroup();
-    // Readers look for the data within the group; that it stands behind it is part of the format we promise.
-    if (inlinePicture != nullptr) EmitPicture(writer, *inlinePicture, scale);
+    // Classic has the data behind its group, where readers take it for text.
+    if (inlinePicture != nullptr && !writer.Standard()) EmitClassicPicture(writer, *inlinePicture, scale);
 }
 
 }  // namespace draftwick

@@ -1,64 +1,87 @@
 #include <draftwick/format/internal/Writers.h>
 #include <draftwick/model/internal/Access.h>
 
+#include <bitset>
+
 namespace draftwick {
 
 namespace {
 
-constexpr std::string_view StyleWords[] = {"",
-                                           "brdrs",
-                                           "brdrsh",
-                                           "brdrdb",
-                                           "brdrdot",
-                                           "brdrdash",
-                                           "brdrdashsm",
-                                           "brdrdashd",
-                                           "brdrdashdd",
-                                           "brdrtriple",
-                                           "brdrtnthsg",
-                                           "brdrthtnsg",
-                                           "brdrtnthtnsg",
-                                           "brdrtnthmg",
-                                           "brdrthtnmg",
-                                           "brdrtnthtnmg",
-                                           "brdrtnthlg",
-                                           "brdrthtnlg",
-                                           "brdrtnthtnlg",
-                                           "brdrwavy",
-                                           "brdrwavydb",
-                                           "brdrdashdotstr",
-                                           "brdremboss",
-                                           "brdrengrave"};
+constexpr Words<dwBorderStyle> StyleWords{"",
+                                          "brdrs",
+                                          "brdrsh",
+                                          "brdrdb",
+                                          "brdrdot",
+                                          "brdrdash",
+                                          "brdrdashsm",
+                                          "brdrdashd",
+                                          "brdrdashdd",
+                                          "brdrtriple",
+                                          "brdrtnthsg",
+                                          "brdrthtnsg",
+                                          "brdrtnthtnsg",
+                                          "brdrtnthmg",
+                                          "brdrthtnmg",
+                                          "brdrtnthtnmg",
+                                          "brdrtnthlg",
+                                          "brdrthtnlg",
+                                          "brdrtnthtnlg",
+                                          "brdrwavy",
+                                          "brdrwavydb",
+                                          "brdrdashdotstr",
+                                          "brdremboss",
+                                          "brdrengrave"};
 
-constexpr std::string_view SideWords[] = {"brdrt", "brdrl", "brdrr", "brdrb", "brdrbtw", "brdrbar"};
+constexpr Words<dwParagraphBorder> SideWords{"brdrt", "brdrl", "brdrr", "brdrb", "brdrbtw", "brdrbar"};
 
 }  // namespace
 
-std::string_view BorderStyleWord(std::int32_t style) noexcept { return WordList{StyleWords}[style]; }
-
-void EmitBorderLine(RtfWriter& writer, std::int32_t style, std::int32_t twips, std::string_view colorWord,
-                    std::int32_t color) {
-    writer.Word(StyleWords, style);
-    writer.Word("brdrw", twips);
-    writer.Color(colorWord, color);
+void EmitBorderLine(RtfWriter& writer, const BorderLine& line) {
+    if (line.art != 0) {
+        writer.Word("brdrart", line.art);
+    } else {
+        // A shadow is none without its line.
+        if (line.style == dwBSShadow) writer.Word(Spelled{"", "brdrs"});
+        writer.Word(StyleWords, line.style);
+    }
+    if (line.spacing) writer.Word("brsp", *line.spacing);
+    writer.Word("brdrw", line.width);
+    writer.Color(line.colorWord, line.color);
 }
 
-void EmitTextBorder(RtfWriter& writer, const TextBorder::Values& border) {
-    if (border.style == dwBSNone) return;
+void EmitTextBorder(RtfWriter& writer, const TextBorder::Values& border, const TextBorder::Values* style) {
+    if (border.style == dwBSNone) {
+        if (style == nullptr || style->style == dwBSNone) return;
+        writer.Word("chbrdr");
+        writer.Word("brdrnone");
+        return;
+    }
     writer.Word("chbrdr");
-    // The colour of a text border is spelled brdrref, the one of rows and cells brdref: all three are promised.
-    EmitBorderLine(writer, border.style, border.width.Written(), "brdrref", border.color);
+    EmitBorderLine(writer, {.style = border.style,
+                            .width = border.width.Written(),
+                            .color = border.color,
+                            .colorWord = {"brdrref", "brdrcf"}});
 }
 
-void EmitParagraphBorders(RtfWriter& writer, const ParagraphBorders& borders) {
+void EmitParagraphBorders(RtfWriter& writer, const ParagraphBorders& borders, const ParagraphBorders* style) {
+    std::bitset<7> drawn;
+    if (style != nullptr) {
+        style->ForEach([&](dwParagraphBorder side, const ParagraphBorder& border) {
+            drawn[static_cast<std::size_t>(side)] = Stored(border).style != dwBSNone;
+        });
+    }
     borders.ForEach([&](dwParagraphBorder side, const ParagraphBorder& border) {
         const ParagraphBorder::Values& values = Stored(border);
-        if (values.style == dwBSNone) return;
-        writer.Word(SideWords, side);
-        writer.Word(StyleWords, values.style);
-        writer.Word("brsp", values.spacing.Written());
-        writer.Word("brdrw", values.width.Written());
-        writer.Color("brdrcf", values.color);
+        if (values.style != dwBSNone) {
+            writer.Word(SideWords, side);
+            EmitBorderLine(writer, {.style = values.style,
+                                    .width = values.width.Written(),
+                                    .color = values.color,
+                                    .spacing = values.spacing.Written()});
+        } else if (drawn[static_cast<std::size_t>(side)]) {
+            writer.Word(SideWords, side);
+            writer.Word("brdrnone");
+        }
     });
 }
 

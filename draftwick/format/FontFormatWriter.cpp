@@ -4,73 +4,132 @@ namespace draftwick {
 
 namespace {
 
-constexpr std::string_view UnderlineWords[] = {"ulnone", "ul",      "uld",      "uldb",  "ulw",
-                                               "ulth",   "uldashd", "uldashdd", "ulwave"};
+using V = FontFormat::Values;
+
+constexpr Words<dwUnderlineStyle> UnderlineWords{"ulnone", "ul",      "uld",      "uldb",  "ulw",
+                                                 "ulth",   "uldashd", "uldashdd", "ulwave"};
 // Not in the order of the values: the format numbers the effects differently.
-constexpr std::string_view AnimationWords[] = {"animtext0", "animtext2", "animtext1", "animtext4",
-                                               "animtext5", "animtext6", "animtext3"};
+constexpr Words<dwTextAnimation> AnimationWords{"animtext0", "animtext2", "animtext1", "animtext4",
+                                                "animtext5", "animtext6", "animtext3"};
+/// Classic spells the toggle with a number of its own in front: "\striked11" and "\striked10".
+constexpr Spelled DoubleStrike{"striked1", "striked"};
+
+/// How text is set off the line, in one word: superscript holds where a host set both.
+std::string_view ScriptWord(const V& format) {
+    return format.superscript ? "super" : format.subscript ? "sub" : "nosupersub";
+}
+
+void WriteSubscript(RtfWriter& writer, const V& format) {
+    writer.Word("dn", PointsToHalfPoints(format.subscriptPosition));
+}
+
+void WriteSuperscript(RtfWriter& writer, const V& format) {
+    writer.Word("up", PointsToHalfPoints(format.superscriptPosition));
+}
 
 }  // namespace
 
-void EmitFontFormat(RtfWriter& writer, const FontFormat::Values& format, bool withPlain) {
+void EmitFontFormat(RtfWriter& writer, const V& format, bool withPlain, const V* style) {
+    const auto flag = [&](std::string_view word, bool V::*field) {
+        if (format.*field) {
+            writer.Word(word);
+        } else if (style != nullptr && style->*field) {
+            writer.Toggle(word, false);
+        }
+    };
+    const auto effect = [&](const WordList& words, std::int32_t value, std::int32_t none,
+                            std::int32_t styles) {
+        if (value != none || value != styles) writer.Word(words, value);
+    };
+    const bool standard = writer.Standard();
     if (withPlain) writer.Word("plain");
-    if (format.bold) writer.Word("b");
-    if (format.allCaps) writer.Word("caps");
-    if (format.subscript) {
+    flag("b", &V::bold);
+    flag("caps", &V::allCaps);
+    if (standard) {
+        const bool set = format.subscript || format.superscript;
+        if (set || (style != nullptr && (style->subscript || style->superscript)))
+            writer.Word(ScriptWord(format));
+    } else if (format.subscript) {
         writer.Word("sub");
-        writer.Word("dn", PointsToHalfPoints(format.subscriptPosition));
+        WriteSubscript(writer, format);
     }
     if (format.font) writer.Word("f", format.font.Position());
     writer.Word("fs", format.size.Written());
-    if (format.italic) writer.Word("i");
-    if (format.outline) writer.Word("outl");
-    if (format.smallCaps) writer.Word("scaps");
-    if (format.shadow) writer.Word("shad");
-    if (format.strikethrough) writer.Word("strike");
-    if (format.underline != dwUnderlineNone) writer.Word(UnderlineWords, format.underline);
-    if (format.superscript) {
-        writer.Word("super");
-        writer.Word("up", PointsToHalfPoints(format.superscriptPosition));
-    }
-    if (format.hidden) writer.Word("v");
-    writer.Color("cf", format.color);
-    if (format.animation != dwTxAnimNone) writer.Word(AnimationWords, format.animation);
-    if (format.emboss) writer.Word("embo");
-    if (format.engrave) writer.Word("impr");
-    if (format.strikethroughDouble) writer.Word("striked", 1);
-}
-
-void EmitFontFormatChanges(RtfWriter& writer, const FontFormat::Values& format,
-                           const FontFormat::Values& reference) {
-    const auto flag = [&](std::string_view word, bool FontFormat::Values::*field) {
-        const bool differs = format.*field != reference.*field;
-        if (differs) writer.Flag(word, format.*field);
-        return differs && format.*field;
-    };
-    using V = FontFormat::Values;
-    flag("b", &V::bold);
-    flag("caps", &V::allCaps);
-    if (flag("sub", &V::subscript)) writer.Word("dn", PointsToHalfPoints(format.subscriptPosition));
-    if (format.font != reference.font && format.font) writer.Word("f", format.font.Position());
-    if (format.size != reference.size) writer.Word("fs", format.size.Written());
     flag("i", &V::italic);
     flag("outl", &V::outline);
     flag("scaps", &V::smallCaps);
     flag("shad", &V::shadow);
     flag("strike", &V::strikethrough);
-    if (format.underline != reference.underline) writer.Word(UnderlineWords, format.underline);
-    if (flag("super", &V::superscript)) writer.Word("up", PointsToHalfPoints(format.superscriptPosition));
+    effect(UnderlineWords, format.underline, dwUnderlineNone,
+           style != nullptr ? std::int32_t{style->underline} : dwUnderlineNone);
+    if (!standard && format.superscript) {
+        writer.Word("super");
+        WriteSuperscript(writer, format);
+    }
     flag("v", &V::hidden);
-    if (format.color != reference.color) writer.Color("cf", format.color);
-    if (format.animation != reference.animation) writer.Word(AnimationWords, format.animation);
-    // Here engraving comes first; in the whole format embossing does.
-    flag("impr", &V::engrave);
+    writer.Color("cf", format.color);
+    effect(AnimationWords, format.animation, dwTxAnimNone,
+           style != nullptr ? std::int32_t{style->animation} : dwTxAnimNone);
     flag("embo", &V::emboss);
-    flag("striked1", &V::strikethroughDouble);  // "\striked11" and "\striked10" are the spellings we promise
+    flag("impr", &V::engrave);
+    if (standard) {
+        flag("striked", &V::strikethroughDouble);
+    } else if (format.strikethroughDouble) {
+        writer.Word("striked", 1);
+    }
 }
 
-FontFormat::Values DefaultFontFormat(const DocumentSettings& document) {
-    FontFormat::Values values;
+void EmitFontFormatChanges(RtfWriter& writer, const V& format, const V& reference, const V* style) {
+    const auto differs = [&](auto field) {
+        return format.*field != reference.*field || (style != nullptr && format.*field != style->*field);
+    };
+    const auto flag = [&](const Spelled& word, bool V::*field) {
+        const bool written = differs(field);
+        if (written) writer.Toggle(word, format.*field);
+        return written && format.*field;
+    };
+    const auto plain = [&](std::string_view word, bool V::*field) { return flag({word, word}, field); };
+    const bool standard = writer.Standard();
+    plain("b", &V::bold);
+    plain("caps", &V::allCaps);
+    if (standard) {
+        if (differs(&V::subscript) || differs(&V::superscript)) writer.Word(ScriptWord(format));
+    } else if (plain("sub", &V::subscript)) {
+        WriteSubscript(writer, format);
+    }
+    if (differs(&V::font) && format.font) writer.Word("f", format.font.Position());
+    if (differs(&V::size)) writer.Word("fs", format.size.Written());
+    plain("i", &V::italic);
+    plain("outl", &V::outline);
+    plain("scaps", &V::smallCaps);
+    plain("shad", &V::shadow);
+    plain("strike", &V::strikethrough);
+    if (differs(&V::underline)) writer.Word(UnderlineWords, format.underline);
+    if (!standard && plain("super", &V::superscript)) WriteSuperscript(writer, format);
+    plain("v", &V::hidden);
+    if (differs(&V::color)) writer.Color("cf", format.color);
+    if (differs(&V::animation)) writer.Word(AnimationWords, format.animation);
+    // Here engraving comes first; in the whole format embossing does.
+    plain("impr", &V::engrave);
+    plain("embo", &V::emboss);
+    flag(DoubleStrike, &V::strikethroughDouble);
+}
+
+void EmitScripts(RtfWriter& writer, const Scripts& scripts, const V& format) {
+    if (scripts.eastAsian && format.font) {
+        writer.Word("dbch");
+        writer.Word("af", format.font.Position());
+    }
+    if (!scripts.rightToLeft) return;
+    writer.Word("rtlch");
+    if (format.font) writer.Word("af", format.font.Position());
+    writer.Word("afs", format.size.Written());
+    if (format.bold) writer.Word("ab");
+    if (format.italic) writer.Word("ai");
+}
+
+V DefaultFontFormat(const DocumentSettings& document) {
+    V values;
     values.font = document.defaultFont;
     return values;
 }

@@ -4,10 +4,10 @@ namespace draftwick {
 
 namespace {
 
-constexpr std::string_view ReferenceXWords[] = {"phpg", "phcol", "phmrg"};
-constexpr std::string_view ReferenceYWords[] = {"pvpg", "pvpara", "pvmrg"};
-constexpr std::string_view AlignXWords[] = {"", "posxl", "posxc", "posxr", "posxi", "posxo"};
-constexpr std::string_view AlignYWords[] = {"", "posyil", "posyt", "posyc", "posyb", "posyin", "posyout"};
+constexpr Words<dwFrameReferenceX> ReferenceXWords{"phpg", "phcol", "phmrg"};
+constexpr Words<dwFrameReferenceY> ReferenceYWords{"pvpg", "pvpara", "pvmrg"};
+constexpr Words<dwFrameAlignX> AlignXWords{"", "posxl", "posxc", "posxr", "posxi", "posxo"};
+constexpr Words<dwFrameAlignY> AlignYWords{"", "posyil", "posyt", "posyc", "posyb", "posyin", "posyout"};
 
 void WriteUnlessZero(RtfWriter& writer, std::string_view word, std::int32_t twips) {
     if (twips != 0) writer.Word(word, twips);
@@ -46,6 +46,25 @@ void EmitFrame(RtfWriter& writer, const Frame::Values& frame) {
         writer.Word("dropcapli", frame.dropCapLines);
         writer.Word("dropcapt", frame.dropCapInMargin ? 2 : 1);
     }
+}
+
+void EmitRowFrame(RtfWriter& writer, const Frame::Values& frame) {
+    static constexpr Words<dwFrameReferenceX> XWords{"tphpg", "tphcol", "tphmrg"};
+    static constexpr Words<dwFrameReferenceY> YWords{"tpvpg", "tpvpara", "tpvmrg"};
+    static constexpr Words<dwFrameAlignX> LeftWords{"", "tposxl", "tposxc", "tposxr", "tposxi", "tposxo"};
+    static constexpr Words<dwFrameAlignY> TopWords{"",       "tposyil", "tposyt",   "tposyc",
+                                                   "tposyb", "tposyin", "tposyoutv"};
+    if (frame == Frame::Values{}) return;
+    writer.Word(XWords, frame.referenceX);
+    if (frame.alignX == dwFAXNone) WritePlace(writer, "tposx", "tposnegx", frame.left.Twips());
+    writer.Word(LeftWords, frame.alignX);
+    writer.Word(YWords, frame.referenceY);
+    if (frame.alignY == dwFAYNone) WritePlace(writer, "tposy", "tposnegy", frame.top.Twips());
+    writer.Word(TopWords, frame.alignY);
+    WriteUnlessZero(writer, "tdfrmtxtLeft", frame.spacingX.Twips());
+    WriteUnlessZero(writer, "tdfrmtxtRight", frame.spacingX.Twips());
+    WriteUnlessZero(writer, "tdfrmtxtTop", frame.spacingY.Twips());
+    WriteUnlessZero(writer, "tdfrmtxtBottom", frame.spacingY.Twips());
 }
 
 }  // namespace draftwick

@@ -1,6 +1,10 @@
 #include <draftwick/format/internal/Writers.h>
 #include <draftwick/model/internal/Access.h>
+#include <draftwick/text/Escape.h>
 #include <draftwick/text/Utf8.h>
+
+#include <array>
+#include <charconv>
 
 namespace draftwick {
 
@@ -11,10 +15,12 @@ constexpr std::string_view StyleWords[] = {"levelnfc6", "levelnfc0", "levelnfc3"
 constexpr std::string_view AlignWords[] = {"leveljc0", "leveljc2", "leveljc1"};
 constexpr std::string_view FollowWords[] = {"levelfollow2", "levelfollow1", "levelfollow0"};
 
-/// \' and two decimal digits, three from 100 on. Decimal although the escape is hexadecimal in form: promised so.
-std::string DecimalEscape(std::int32_t number) {
-    const std::string digits = std::to_string(number);
-    return digits.size() < 2 ? "\\'0" + digits : "\\'" + digits;
+/// \' and two hexadecimal digits: a length or position, at most 255. Classic: two or three decimal digits.
+std::string NumberEscape(std::int32_t number, bool standard) {
+    std::array<char, 4> digits;
+    const auto end = std::to_chars(digits.begin(), digits.end(), number, standard ? 16 : 10).ptr;
+    const std::string_view text{digits.data(), static_cast<std::size_t>(end - digits.data())};
+    return std::string{"\\'"}.append(text.size() < 2 ? "0" : "").append(text);
 }
 
 struct LevelText {
@@ -23,17 +29,24 @@ struct LevelText {
     std::int32_t length = 0;
 };
 
-LevelText ReadLevelFormat(std::string_view format) {
+/// The standard spelling escapes what stands between the numbers and counts in UTF-16 units, of which the format knows
+/// 255.
+LevelText ReadLevelFormat(std::string_view format, bool standard) {
+    constexpr std::int32_t MostUnits = 255;
     LevelText result;
     std::size_t at = 0;
-    while (at < format.size()) {
+    while (at < format.size() && !(standard && result.length >= MostUnits - 1)) {
         ++result.length;
         if (format.compare(at, 2, "\\L") == 0 && at + 2 < format.size() && format[at + 2] >= '1'
             && format[at + 2] <= '9') {
             result.text += "\\'0";
             result.text += static_cast<char>(format[at + 2] - 1);
-            result.positions += DecimalEscape(result.length);
+            result.positions += NumberEscape(result.length, standard);
             at += 3;
+        } else if (standard) {
+            const std::size_t first = at;
+            if (DecodeUtf8(format, at) > 0xFFFF) ++result.length;
+            AppendEscaped(result.text, format.substr(first, at - first), Escaping::OneLine);
         } else {
             AppendUtf8(result.text, DecodeUtf8(format, at));
         }
@@ -43,7 +56,8 @@ LevelText ReadLevelFormat(std::string_view format) {
 
 void EmitListLevel(RtfWriter& writer, const ListLevel& level) {
     const ListLevel::Values& values = Stored(level);
-    const LevelText text = ReadLevelFormat(values.format);
+    const bool standard = writer.Standard();
+    const LevelText text = ReadLevelFormat(values.format, standard);
     writer.output.FlushLine();
     writer.Group("listlevel", [&] {
         writer.Word(StyleWords, values.style);
@@ -54,7 +68,7 @@ void EmitListLevel(RtfWriter& writer, const ListLevel& level) {
         writer.Word("levelindent", 0);
         if (values.legal) writer.Word("levellegal", 1);
         if (values.noLevelRestart) writer.Word("levelnorestart", 1);
-        writer.Group("leveltext", [&] { writer.Raw(DecimalEscape(text.length) + text.text + ";"); });
+        writer.Group("leveltext", [&] { writer.Raw(NumberEscape(text.length, standard) + text.text + ";"); });
         writer.Group("levelnumbers", [&] { writer.Raw(text.positions + ";"); });
         writer.Word("jclisttab");
         writer.Word("tx", values.tabPosition.Twips());
@@ -66,7 +80,7 @@ void EmitList(RtfWriter& writer, const List& list, std::int32_t position, std::i
     const std::int32_t identifier = position + 1;
     writer.Group("list", [&] {
         writer.Word("listtemplateid", identifier + listCount);
-        writer.Group("listname", [&] { writer.Raw(list.Name() + ";"); });
+        writer.Group("listname", [&] { writer.Entry(list.Name()); });
         writer.Word("listid", identifier);
         if (writer.lists.UsesLevels(position)) {
             for (const ListLevel& level : StoredParts(list).levels) EmitListLevel(writer, level);
@@ -97,7 +111,11 @@ void EmitListOverrideTable(RtfWriter& writer, const Lists& lists) {
         for (std::int32_t position = 0; position < lists.Count(); ++position) {
             writer.Group("listoverride", [&] {
                 writer.Word("listid", position + 1);
-                writer.Word("listoverridecount");  // without a number: promised so
+                if (writer.Standard()) {
+                    writer.Word("listoverridecount", 0);
+                } else {
+                    writer.Word("listoverridecount");
+                }
                 writer.Word("ls", ListNumbers::OverrideNumber(position));
             });
         }

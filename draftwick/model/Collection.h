@@ -57,6 +57,8 @@ public:
 
     /// The index from 0 of the item of that name. dwErrItemNotFound when there is none.
     std::int32_t IndexOf(std::string_view name) const;
+    /// Whether there is an item of that name.
+    bool Contains(std::string_view name) const;
 
 protected:
     using Maker = std::shared_ptr<Object> (*)(const Origin& origin, std::string name, std::int32_t index);
@@ -67,7 +69,6 @@ protected:
     const std::shared_ptr<Object>& ItemAtIndex(std::int32_t index) const noexcept {
         return items_[static_cast<std::size_t>(index)];
     }
-    bool Contains(std::string_view name) const;
     /// An empty name is dwErrZeroLengthName with the collection's name, one that is taken error 457. The item's
     /// parent is the collection's: a font belongs to the document.
     const std::shared_ptr<Object>& AddItem(std::string_view name, std::string_view collection, Maker make);

@@ -9,6 +9,15 @@ namespace draftwick {
 
 class Fonts;
 
+/// How the file is spelled.
+enum dwSpelling : std::int32_t {
+    /// As the first version of the library spelled it, to the byte: for programs and archives that compare bytes. Readers
+    /// do not know some of the words, and a character that the code page does not have is "?".
+    dwSpellingClassic = 1,
+    /// As RTF 1.9.1 has it: what was set is what readers show, and every character of Unicode is kept.
+    dwSpellingStandard = 2,
+};
+
 /// Which side of the paper is up.
 enum dwOrientation : std::int32_t { dwPortrait = 1, dwLandscape = 2 };
 
@@ -60,6 +69,7 @@ struct PageSetup {
 /// The settings of a document, as they are stored.
 struct DocumentSettings {
     rule::Choice<"ScaleMode", dwInches, dwPoints> scaleMode{dwInches};
+    rule::Choice<"Document.Spelling", dwSpellingClassic, dwSpellingStandard> spelling{dwSpellingClassic};
     PageSetup page;
     rule::Choice<"Document.Format.Orientation", dwPortrait, dwLandscape> orientation{dwPortrait};
     std::string caption;

@@ -24,6 +24,7 @@ enum class PictureKind {
     /// Decoded: Windows and OS/2 bitmaps of 1 to 32 bits per pixel, plain or run-length encoded. Alpha is
     /// ignored; what run lengths skip is white.
     Bmp,
+    Png,  ///< Embedded as it is.
 };
 
 /// Why a file that could be read is of no use.
@@ -53,7 +54,7 @@ public:
     /// The size of the picture in HIMETRIC, hundredths of a millimetre (2540 per inch); never negative.
     /// - GIF and BMP: their pixels at the screen's resolution, rounded up, so that
     ///   floor(size / 2540 * 1440 / TwipsPerPixel()) is the number of pixels again.
-    /// - JPEG: the pixels at the density of the JFIF header, or at the screen's when it has none. At least 1.
+    /// - JPEG and PNG: the pixels at the density that the file gives, or at the screen's when it gives none. At least 1.
     /// - EMF: the frame rectangle of the header. 0 when nothing was drawn.
     /// - WMF: the bounding box of the placeable header, at its units per inch. 0 without such a header.
     std::int32_t Width() const { return width_; }

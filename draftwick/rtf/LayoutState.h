@@ -1,5 +1,7 @@
 #pragma once
 
+#include <draftwick/text/Scripts.h>
+
 #include <cstdint>
 
 namespace draftwick {
@@ -15,9 +17,10 @@ struct LayoutState {
     bool FirstSection = true;                ///< no section is written yet
     bool SuppressNextParagraphMark = false;  ///< the next paragraph is not preceded by \par
     bool TableEndsSection = false;           ///< a row came last: the end of the section needs a \par
-    RowState row;
-    bool ShapeTextPending = false;  ///< the first paragraph or row of a shape opens its text group
-    bool InlinePicture = false;     ///< the shape being written is a picture in the text
+    RowState row{};
+    Direction direction = Direction::None;  ///< of the paragraph, as far as its text is known
+    bool ShapeTextPending = false;          ///< the first paragraph or row of a shape opens its text group
+    bool InlinePicture = false;             ///< the shape being written is a picture in the text
 };
 
 }  // namespace draftwick

@@ -20,7 +20,7 @@ void ListNumbers::NoteLevel(std::int32_t list, std::int32_t level) {
 
 void ListNumbers::NotePairing(std::int32_t list, std::int32_t look) {
     std::vector<Pairing>& pairings = UseOf(list).pairings;
-    const auto [entry, isNew] = numbers_.try_emplace(KeyOf(list, look), lastPairing_ + 1);
+    const auto [entry, isNew] = numbers_.try_emplace(KeyOf(list, look), nextPairing_);
     if (!isNew) return;
     try {
         pairings.emplace_back(look, entry->second);
@@ -28,7 +28,7 @@ void ListNumbers::NotePairing(std::int32_t list, std::int32_t look) {
         numbers_.erase(entry);
         throw;
     }
-    ++lastPairing_;
+    nextPairing_ += step_;
 }
 
 std::int32_t ListNumbers::OverrideNumber(std::int32_t list, std::int32_t look) const {

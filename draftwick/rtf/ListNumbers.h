@@ -15,6 +15,11 @@ public:
 
     /// A paragraph is numbered at a level of a list.
     void NoteLevel(std::int32_t list, std::int32_t level);
+    /// The format knows override numbers from 1 to 2000: those of pairings count down from there. Before the first one.
+    void CountDown() noexcept {
+        nextPairing_ = 2000;
+        step_ = -1;
+    }
     /// A paragraph of one list has the look of another one. Its override number counts up from 10001.
     void NotePairing(std::int32_t list, std::int32_t look);
 
@@ -35,7 +40,8 @@ private:
 
     std::vector<Use> uses_;
     std::unordered_map<std::uint64_t, std::int32_t> numbers_;  // by both positions
-    std::int32_t lastPairing_ = 10000;
+    std::int32_t nextPairing_ = 10001;
+    std::int32_t step_ = 1;
 };
 
 }  // namespace draftwick

@@ -5,7 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace draftwick {
 
@@ -15,10 +17,16 @@ namespace draftwick {
 /// A line ends after the append that brings it to 128 characters or more, never inside an append; CR LF pairs
 /// that the host sent in raw text are taken out of such a line. FlushLine ends a line where it stands and leaves
 /// its content alone. Every line ends in CR LF. Characters are counted as the file has them, one byte each.
+///
+/// In the standard spelling the file is ASCII: other characters are written as escapes, and a host's line breaks in raw
+/// text, which can end a control word, stay.
 class Output {
 public:
     /// Where lines go from now on; nullptr drops them. Not owned. The line that was begun stays.
     BlockWriter* SetStream(BlockWriter* stream) noexcept;
+
+    void UseStandardSpelling() noexcept { standard_ = true; }
+    bool Standard() const noexcept { return standard_; }
 
     /// "\word". A line break after it delimits it as well as a space would.
     void WriteControlWord(std::string_view word) {
@@ -38,6 +46,11 @@ public:
     void WriteGroupEnd() { WriteBrace('}'); }
     /// Ends the line that was begun, if there is one.
     void FlushLine();
+    /// From here on lines are kept in memory, until TakeKept gives them back; once within the other, too.
+    void Keep();
+    std::string TakeKept();
+    /// Lines that were kept, behind the line that was begun.
+    void PutLines(std::string_view lines);
     /// Reports a failure of the file that lines go to. Called between two objects, never within one.
     void Checkpoint() {
         if (stream_ != nullptr) stream_->Checkpoint();
@@ -62,6 +75,7 @@ private:
         if (length_ >= LongLine) FlushLongLine();
     }
     void AppendEncoded(std::string_view text);
+    void Send(const char* bytes, std::size_t size);
     void MakeRoom();
     void FlushLongLine();
     void DropLineBreaks();
@@ -70,8 +84,10 @@ private:
     static constexpr std::size_t Room = 1024;
 
     BlockWriter* stream_ = nullptr;
+    std::vector<std::string> kept_;
     std::size_t length_ = 0;
     bool afterControlWord_ = false;
+    bool standard_ = false;
     bool spilled_ = false;  // the line is longer than the buffer: its beginning is on its way already
     char line_[Room];
 };

@@ -8,6 +8,7 @@
 #include <draftwick/rtf/Words.h>
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -29,23 +30,67 @@ public:
     ListNumbers lists;
     const Collections* names = nullptr;
 
+    /// From now on all is spelled as RTF 1.9.1 has it. Before the first word.
+    void UseStandardSpelling() {
+        output.UseStandardSpelling();
+        colors.ReserveFirst();
+        lists.CountDown();
+    }
+    /// Where the spellings differ in more than a word.
+    bool Standard() const noexcept { return output.Standard(); }
+
+    std::string_view Of(const Spelled& word) const noexcept {
+        return Standard() ? word.standard : word.classic;
+    }
+
     /// "\word"
     void Word(std::string_view word) { output.WriteControlWord(word); }
     /// "\li-360"
     void Word(std::string_view word, std::int32_t number) { output.WriteControlWord(word, number); }
+    void Word(const Spelled& word) {
+        if (!Of(word).empty()) Word(Of(word));
+    }
+    void Word(const Spelled& word, std::int32_t number) {
+        if (!Of(word).empty()) Word(Of(word), number);
+    }
     /// The word of an enumeration value; nothing when it has none.
     void Word(const WordList& words, std::int32_t value) {
         const std::string_view word = words[value];
         if (!word.empty()) Word(word);
     }
-    /// "\word" with 1 or 0.
-    void Flag(std::string_view word, bool on) { Word(word, on ? 1 : 0); }
+    /// What the format calls a flag, which is on where its word stands: "\facingp" or nothing. Classic: "\facingp1" or
+    /// "\facingp0".
+    void Flag(std::string_view word, bool on) {
+        if (!Standard()) {
+            Word(word, on ? 1 : 0);
+        } else if (on) {
+            Word(word);
+        }
+    }
+    /// What the format calls a toggle: "\b" or "\b0". Classic: "\b1" or "\b0".
+    void Toggle(const Spelled& word, bool on) {
+        if (Standard() && on) {
+            Word(word.standard);
+        } else {
+            Word(Of(word), on ? 1 : 0);
+        }
+    }
+    void Toggle(std::string_view word, bool on) { Toggle(Spelled{word, word}, on); }
     /// "\word" with the index of a colour, which is registered if it is new.
+    void Color(const Spelled& word, std::int32_t color) {
+        if (!Of(word).empty()) Word(Of(word), colors.GetColorIndex(color));
+    }
     void Color(std::string_view word, std::int32_t color) { Word(word, colors.GetColorIndex(color)); }
 
     /// UTF-8 text, escaped.
     void Text(std::string_view text);
-    /// UTF-8 text as it is: RTF already, or a text that the format promised to hosts takes unescaped.
+    /// Likewise of one line: in the standard spelling a line break is a blank.
+    void Line(std::string_view text);
+    /// A name: of one line, escaped with its semicolons. Classic: as it is, so that braces in it break the file.
+    void Name(std::string_view name);
+    /// Likewise with the semicolon that ends it in a table.
+    void Entry(std::string_view name);
+    /// UTF-8 text as it is: RTF already.
     void Raw(std::string_view text) { output.WriteText(text); }
 
     /// "{" and "}" around what `content` writes.
@@ -82,28 +127,46 @@ public:
         output.WriteGroupStart();
         Word(word);
     }
+    void OpenDestination(std::string_view word) {
+        output.WriteDestinationStart();
+        Word(word);
+    }
     void CloseGroup() { output.WriteGroupEnd(); }
 
-    /// A row begins, perhaps within the cell of another one; where the writers stood comes back with LeaveRow.
+    /// A row begins, perhaps within the cell of another one; where the writers stood comes back with LeaveRow. In the
+    /// standard spelling its text is kept until then and comes behind what `definition` writes.
     void EnterRow() {
         outerRows_.push_back(layout.row);
         layout.row = {};
+        if (Standard()) output.Keep();
     }
-    void LeaveRow() {
+    template <class Definition>
+    void LeaveRow(Definition&& definition) {
+        if (Standard()) {
+            const std::string text = output.TakeKept();
+            std::forward<Definition>(definition)();
+            output.PutLines(text);
+        }
         layout.row = outerRows_.back();
         outerRows_.pop_back();
     }
-    /// A shape begins, perhaps within the cell of another one's text; LeaveShape gives back where the writers stood.
-    void EnterShape() { outerShapes_.push_back(layout); }
-    LayoutState LeaveShape() {
-        const LayoutState outer = outerShapes_.back();
-        outerShapes_.pop_back();
+    /// A text of its own begins within another one: a note, a header, a shape. In the standard spelling it begins anew,
+    /// and where the writers stood comes back with LeaveStory. In the classic one the two flow into each other, and the
+    /// caller takes back what it wants of what LeaveStory gives.
+    void EnterStory() {
+        outerStories_.push_back(layout);
+        if (Standard()) layout = {.FirstSection = layout.FirstSection, .SuppressNextParagraphMark = true};
+    }
+    LayoutState LeaveStory() {
+        const LayoutState outer = outerStories_.back();
+        outerStories_.pop_back();
+        if (Standard()) layout = outer;
         return outer;
     }
 
 private:
     std::vector<RowState> outerRows_;
-    std::vector<LayoutState> outerShapes_;
+    std::vector<LayoutState> outerStories_;
 };
 
 }  // namespace draftwick::detail

@@ -8,6 +8,11 @@
 
 namespace draftwick {
 
+/// A word in both spellings, side by side where it is written; an empty one is not written.
+struct Spelled {
+    std::string_view classic, standard;
+};
+
 /// What stands for each value of an enumeration, in the order of the values from 1: as many as the enumeration has,
 /// which the compiler checks. "" is a value without a word.
 template <class Enumeration, class Word = std::string_view>

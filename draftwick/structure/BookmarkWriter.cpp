@@ -3,7 +3,7 @@
 namespace draftwick {
 
 void EmitBookmark(RtfWriter& writer, const Bookmark::Values& bookmark) {
-    writer.Destination(bookmark.isStart ? "bkmkstart" : "bkmkend", [&] { writer.Raw(bookmark.name); });
+    writer.Destination(bookmark.isStart ? "bkmkstart" : "bkmkend", [&] { writer.Name(bookmark.name); });
 }
 
 }  // namespace draftwick

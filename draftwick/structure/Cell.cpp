@@ -6,7 +6,11 @@
 
 namespace draftwick {
 
-void Cell::WriteStart() { EmitCellDefinition(Writer(), values_, background_.Find(), borders_.Find()); }
+CellSettings Cell::Settings() const {
+    return {.values = values_, .background = background_.Find(), .borders = borders_.Find()};
+}
+
+void Cell::WriteStart() { EmitCellStart(Writer(), Settings()); }
 void Cell::WriteEnd() { EmitCellEnd(Writer(), CurrentParagraph() == nullptr); }
 void Cell::WriteParagraphMark() { EmitCellParagraphMark(Writer()); }
 void Cell::WriteParagraphPlace(const Frame*) { EmitCellParagraphPlace(Writer(), Holder().frame_.Find()); }

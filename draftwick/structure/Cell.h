@@ -6,6 +6,10 @@
 
 namespace draftwick {
 
+namespace detail {
+struct CellSettings;
+}  // namespace detail
+
 /// Which cells are one to the reader (RTF \clmgf and its siblings).
 enum dwCellMerge : std::int32_t {
     dwMergeNone = 1,
@@ -68,6 +72,9 @@ protected:
 
 private:
     friend struct detail::Access;
+    friend class Table;
+
+    detail::CellSettings Settings() const;
 
     Values values_;
     detail::Lazy<draftwick::Background> background_;

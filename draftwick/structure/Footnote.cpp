@@ -6,6 +6,12 @@
 namespace draftwick {
 
 void Footnote::WriteStart() { EmitFootnoteStart(Writer(), isEndnote_); }
+void Footnote::WriteParagraphMark() {
+    if (Writer().Standard()) RowContainer::WriteParagraphMark();
+}
+void Footnote::WriteRowMark() {
+    if (Writer().Standard()) RowContainer::WriteRowMark();
+}
 void Footnote::WriteEnd() { EmitFootnoteEnd(Writer()); }
 bool Footnote::StandsInCell() const { return Holder().StandsInCell(); }
 

@@ -8,8 +8,8 @@ namespace draftwick {
 /// its next child or is closed ("Footnote").
 ///
 /// The number of the note is the host's business: add Special::Footnote to the paragraph before the note and to the
-/// note's first paragraph. Nothing is written between the paragraphs of a note, so that they run together in a
-/// reader: one paragraph is what a note should have.
+/// note's first paragraph. In the classic spelling nothing is written between the paragraphs of a note, so that they
+/// run together in a reader: one paragraph is what a note should have there.
 class DRAFTWICK_API Footnote final : public detail::HeldBy<Paragraph, RowContainer> {
 public:
     Footnote(const detail::Origin& origin, bool isEndnote) : HeldBy(origin), isEndnote_(isEndnote) {}
@@ -21,8 +21,8 @@ public:
     const Class& Description() const override { return Describe(); }
 
 protected:
-    void WriteParagraphMark() override {}
-    void WriteRowMark() override {}
+    void WriteParagraphMark() override;
+    void WriteRowMark() override;
     bool StandsInCell() const override;
     void WriteStart() override;
     void WriteEnd() override;

@@ -17,16 +17,13 @@ void WriteOptions(RtfWriter& writer, const PageBorders::Values& borders) {
 }
 
 void WritePageBorder(RtfWriter& writer, dwPageBorder side, const PageBorder::Values& border) {
-    static constexpr std::string_view SideWords[] = {"pgbrdrt", "pgbrdrl", "pgbrdrr", "pgbrdrb"};
+    static constexpr Words<dwPageBorder> SideWords{"pgbrdrt", "pgbrdrl", "pgbrdrr", "pgbrdrb"};
     writer.Word(SideWords, side);
-    if (border.art != 0) {
-        writer.Word("brdrart", border.art);
-    } else {
-        writer.Word(BorderStyleWord(border.style));
-    }
-    writer.Word("brsp", border.spacing.Written());
-    writer.Word("brdrw", border.width.Written());
-    writer.Color("brdrcf", border.color);
+    EmitBorderLine(writer, {.style = border.style,
+                            .width = border.width.Written(),
+                            .color = border.color,
+                            .spacing = border.spacing.Written(),
+                            .art = border.art});
 }
 
 }  // namespace

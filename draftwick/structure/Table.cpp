@@ -1,20 +1,38 @@
 #include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/internal/Writers.h>
 
 namespace draftwick {
 
-std::shared_ptr<Cell> Table::AddCell() { return Add(currentCell_); }
+std::shared_ptr<Cell> Table::AddCell() {
+    if (Session().settings.spelling != dwSpellingStandard) return Add(currentCell_);
+    if (cells_.size() == cells_.capacity()) cells_.reserve(cells_.size() * 2 + 4);
+    return cells_.emplace_back(Add(currentCell_));
+}
 
 void Table::WriteStart() {
+    below_ = Writer().layout.TableEndsSection;
     Holder().WriteRowMark();
     Writer().EnterRow();
-    EmitTableRow(Writer(), values_, borders_.Find());
+    if (!Writer().Standard()) EmitTableRow(Writer(), values_, borders_.Find(), frame_.Find());
+}
+
+void Table::WriteDefinition() {
+    EmitTableRow(Writer(), values_, borders_.Find(), frame_.Find());
+    CellPlace place{.rightEdge = values_.left.Twips(), .below = below_};
+    for (const auto& cell : cells_) {
+        place.rightEdge += cell->values_.width.Twips();
+        place.first = cell == cells_.front();
+        place.last = cell == cells_.back();
+        EmitCellDefinition(Writer(), cell->Settings(), borders_.Find(), place);
+    }
+    cells_.clear();
 }
 
 void Table::WriteEnd() {
+    Writer().LeaveRow([&] { WriteDefinition(); });
     EmitTableRowEnd(Writer());
-    Writer().LeaveRow();
 }
 
 const Class& Table::Describe() {

@@ -4,6 +4,8 @@
 #include <draftwick/format/Frame.h>
 #include <draftwick/structure/TableBorders.h>
 
+#include <vector>
+
 namespace draftwick {
 
 class Cell;
@@ -12,7 +14,9 @@ class Cell;
 enum dwTableAlign : std::int32_t { dwTALeft = 1, dwTACenter = 2, dwTARight = 3 };
 
 /// One row of a table (RTF \trowd); rows that are added one after the other make one table. Its settings are
-/// written when its first cell is added; from then on setters refuse ("Table"). Lengths are 16 bits in twips.
+/// written when its first cell is added; from then on setters refuse ("Table"). Lengths are 16 bits in twips. In the
+/// standard spelling a row is kept in memory until it is closed: what it says about all of its cells comes before their
+/// texts in the file.
 class DRAFTWICK_API Table final : public detail::HeldBy<RowContainer> {
 public:
     struct Values {
@@ -77,10 +81,14 @@ private:
     friend struct detail::Access;
     friend class Cell;
 
+    void WriteDefinition();
+
     Values values_;
     detail::Lazy<TableBorders> borders_;
     detail::Lazy<draftwick::Frame> frame_;
     std::shared_ptr<Cell> currentCell_;
+    bool below_ = false;                        // follows another row
+    std::vector<std::shared_ptr<Cell>> cells_;  // in the standard spelling, until the row is written
 };
 
 }  // namespace draftwick

@@ -10,13 +10,13 @@ namespace draftwick {
 
 namespace {
 
-bool IsPlain(char c) {
-    return static_cast<unsigned char>(c) < 0x80 && c != '\\' && c != '{' && c != '}' && c != '\t'
-           && c != '\r';
+bool IsPlain(char c, Escaping how) {
+    return static_cast<unsigned char>(c) < 0x80 && c != '\\' && c != '{' && c != '}' && c != '\t' && c != '\r'
+           && (how == Escaping::Classic || (c != '\n' && c != '\0'));
 }
 
 /// The position of the first byte at or after `position` that cannot simply be copied.
-std::size_t SkipPlain(std::string_view text, std::size_t position) {
+std::size_t SkipPlain(std::string_view text, std::size_t position, Escaping how) {
     while (position < text.size()) {
         const std::uint64_t bytes = NextBytes(text, position);
         // The first byte that is below a space, a backslash, or from "{" up: all special ones are among these.
@@ -25,7 +25,7 @@ std::size_t SkipPlain(std::string_view text, std::size_t position) {
                        | (bytes + InEachByte(0x80 - '{')) | bytes);
         position += plain;
         if (plain == 8) continue;
-        if (position == text.size() || !IsPlain(text[position])) break;
+        if (position == text.size() || !IsPlain(text[position], how)) break;
         ++position;
     }
     return position;
@@ -33,12 +33,12 @@ std::size_t SkipPlain(std::string_view text, std::size_t position) {
 
 }  // namespace
 
-void AppendEscaped(std::string& to, std::string_view text) {
+void AppendEscaped(std::string& to, std::string_view text, Escaping how) {
     std::size_t copied = 0;
     std::size_t at = 0;
     const auto copy = [&] { to.append(text, copied, at - copied); };
     if (to.empty()) to.reserve(text.size() + text.size() / 16);  // most texts have few special characters
-    while ((at = SkipPlain(text, at)) < text.size()) {
+    while ((at = SkipPlain(text, at, how)) < text.size()) {
         const char c = text[at];
         if (static_cast<unsigned char>(c) >= 0x80) {
             std::size_t next = at;
@@ -54,10 +54,16 @@ void AppendEscaped(std::string& to, std::string_view text) {
         if (c == '\t') {
             to += "\\tab ";
             ++at;
-        } else if (c != '\r') {
+        } else if (c == '\0') {
+            AppendUtf8(to, ReplacementCharacter);
+            ++at;
+        } else if (c != '\r' && c != '\n') {
             to += '\\';
             to += c;
             ++at;
+        } else if (how != Escaping::Classic) {
+            to += how == Escaping::Lines ? "\\line " : " ";
+            at += text.compare(at, 2, "\r\n") == 0 ? 2 : 1;
         } else if (text.compare(at, 3, "\r\n ") == 0) {
             to += "\\line ";
             at += 3;
@@ -75,9 +81,9 @@ void AppendEscaped(std::string& to, std::string_view text) {
     copy();
 }
 
-std::string EscapeText(std::string_view text) {
+std::string EscapeText(std::string_view text, Escaping how) {
     std::string escaped;
-    AppendEscaped(escaped, text);
+    AppendEscaped(escaped, text, how);
     return escaped;
 }
 

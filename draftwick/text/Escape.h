@@ -6,11 +6,18 @@
 
 namespace draftwick {
 
-/// Appends the host's text in its RTF form to `to`: "\", "{" and "}" get a backslash, a tab becomes "\tab ", CR LF
-/// becomes "\line" and takes a space that follows it along ("\line "); malformed UTF-8 becomes U+FFFD. Nothing
-/// else changes: a lone CR or LF, control characters and characters above 127 pass through.
-void AppendEscaped(std::string& to, std::string_view text);
-std::string EscapeText(std::string_view text);
+/// What becomes of line breaks and NUL.
+enum class Escaping {
+    Classic,  ///< CR LF becomes "\line" and takes a space that follows it along; a lone CR or LF and NUL pass through
+    Lines,    ///< each CR LF, CR or LF becomes "\line ", NUL becomes U+FFFD
+    OneLine,  ///< each CR LF, CR or LF becomes a blank, NUL becomes U+FFFD
+};
+
+/// Appends the host's text in its RTF form to `to`: "\", "{" and "}" get a backslash, a tab becomes "\tab ", malformed
+/// UTF-8 becomes U+FFFD. Nothing else but line breaks changes: other control characters and characters above 127 pass
+/// through.
+void AppendEscaped(std::string& to, std::string_view text, Escaping how = Escaping::Classic);
+std::string EscapeText(std::string_view text, Escaping how = Escaping::Classic);
 
 /// The RTF escape of one byte: \' and upper-case hexadecimal without a leading zero. Error 6 outside of a byte.
 std::string ASCIIChar(std::int32_t byte);

@@ -27,12 +27,12 @@ namespace detail {
 /// By GCC "... [with auto ...Values = {draftwick::dwInches, (draftwick::dwScaleMode)4, true}]", by Clang
 /// "... [Values = <draftwick::dwInches, (draftwick::dwScaleMode)4, true>]": a number that is no value is a cast.
 template <auto... Values>
-constexpr const char* Spelled() {
+constexpr const char* SourceText() {
     return __PRETTY_FUNCTION__;
 }
 /// By GCC "... [with Named = draftwick::dwScaleMode]", by Clang "... [Named = draftwick::dwScaleMode]".
 template <class Named>
-constexpr std::string_view Spelled() {
+constexpr std::string_view SourceText() {
     std::string_view name = __PRETTY_FUNCTION__;
     name = name.substr(0, name.find_first_of(";]"));
     return name.substr(name.find_last_of(" :") + 1);
@@ -61,7 +61,7 @@ struct Values {
 template <class Enumeration, std::int32_t First, std::int32_t... Offset>
 constexpr auto ReadBlock(std::integer_sequence<std::int32_t, Offset...>) {
     // One more, so that a comma ends each number.
-    const char* at = Spelled<static_cast<Enumeration>(First + Offset)..., true>();
+    const char* at = SourceText<static_cast<Enumeration>(First + Offset)..., true>();
     while (*at != '=') ++at;
     at += 3;
     Values<BlockSize> block;
@@ -107,7 +107,7 @@ constexpr auto ReadBlocks(std::integer_sequence<std::int32_t, Number...>) {
 
 template <class Named>
 inline constexpr auto LettersOf = [] {
-    constexpr std::string_view name = Spelled<Named>();
+    constexpr std::string_view name = SourceText<Named>();
     std::array<char, name.size()> letters{};
     for (std::size_t i = 0; i < name.size(); ++i) letters[i] = name[i];
     return letters;

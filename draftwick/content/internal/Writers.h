@@ -42,11 +42,15 @@ struct detail::RunSettings {
     const Background* background;
     const TextBorder* border;
 };
-/// \cs2\b1\chbgcross...\chbrdr...: what stands in a run's group before its text.
-void EmitRunFormat(RtfWriter& writer, const RunSettings& run, const DocumentSettings& document);
+/// \rtlpar, in the standard spelling, when this is the first text of its paragraph that has a direction, and runs to the
+/// left. It stands before the run's group, in which it would end.
+void EmitDirection(RtfWriter& writer, const Scripts& scripts);
+/// \cs2\b\chbgcross...\chbrdr...: what stands in a run's group before its text.
+void EmitRunFormat(RtfWriter& writer, const RunSettings& run, const Scripts& scripts,
+                   const DocumentSettings& document);
 
-/// "{\b1 text}"; the text is RTF already.
-void EmitTextItem(RtfWriter& writer, const RunSettings& run, std::string_view text,
+/// "{\b text}"; the text is RTF already.
+void EmitTextItem(RtfWriter& writer, const RunSettings& run, std::string_view text, const Scripts& scripts,
                   const DocumentSettings& document);
 /// "{\b1{\field{\*\fldinst PAGE}{\fldrslt 1}}}"
 void EmitField(RtfWriter& writer, const RunSettings& run, const Field::Values& field,

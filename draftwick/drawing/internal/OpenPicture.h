@@ -5,19 +5,29 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace draftwick::detail {
 
+/// A size in twips.
+struct PictureSize {
+    std::int32_t width, height;
+};
+
+/// Whether the bytes of a Windows metafile begin with the header that gives it a size.
+bool IsPlaceable(std::span<const unsigned char> bytes);
+
 /// A picture that was found, understood, converted if it must be, and read: everything that can fail before a byte of
 /// it is written.
 class OpenPicture {
 public:
     /// dwErrPictureFileNotFound when there is no such file, dwErrUnsupportedFileType for a name without one of the
-    /// known extensions, error 481 when the content is not what the name says; std::system_error.
-    OpenPicture(const platform::Platform& platform, const std::string& fileName);
+    /// known extensions, error 481 when the content is not what the name says; std::system_error. In the standard spelling
+    /// PNG is taken, too, capitals in the extension do not matter, and the first bytes say what the content is.
+    OpenPicture(const platform::Platform& platform, const std::string& fileName, bool standard);
 
     struct Scale {
         std::int32_t x = 100;  ///< percent
@@ -26,6 +36,9 @@ public:
     /// What makes the picture as large as that, in twips; nothing unless both are above 0. Error 11 when the picture
     /// itself has no size, error 6 when the percentage does not fit 32 bits.
     std::optional<Scale> ScaleTo(std::int32_t width, std::int32_t height) const;
+
+    /// The picture's own size, or the other one if it has none.
+    PictureSize SizeOr(const PictureSize& other) const noexcept;
 
     platform::PictureKind Kind() const noexcept { return kind_; }
     /// The bytes of the picture's file, or of what it was converted to.

@@ -14,8 +14,9 @@ namespace draftwick {
 void WriteShapeProperty(RtfWriter& writer, std::string_view name, std::string_view value);
 void WriteShapeProperty(RtfWriter& writer, std::string_view name, std::int32_t value);
 void WriteShapeProperty(RtfWriter& writer, std::string_view name, double value);
-/// {\sp{\sn pib}{\sv {\pict\jpegblip FFD8...}}}
-void WriteShapeProperty(RtfWriter& writer, std::string_view name, const OpenPicture& picture);
+/// {\sp{\sn pib}{\sv {\pict\jpegblip\picw...FFD8...}}}
+void WriteShapeProperty(RtfWriter& writer, std::string_view name, const OpenPicture& picture,
+                        const PictureSize& size);
 
 /// {\sp{\sn fFilled}{\sv 1}}{\sp{\sn fillType}{\sv 0}}...
 void EmitShapeFill(RtfWriter& writer, const ShapeFill::Values& fill);
@@ -28,9 +29,12 @@ void EmitShapeThreeD(RtfWriter& writer, const ShapeThreeD::Values& effect);
 /// {\sp{\sn fGText}{\sv 1}}{\sp{\sn gtextUNICODE}{\sv Sale}}...; nothing without a text.
 void EmitShapeWordArt(RtfWriter& writer, const ShapeWordArt::Values& wordArt);
 
-/// \emfblip\picscalex100\picscaley50 0100...: what stands in a \pict group. Never fails.
-void EmitPicture(RtfWriter& writer, const OpenPicture& picture,
-                 const std::optional<OpenPicture::Scale>& scale = {});
+/// \emfblip\picw2540\pich2540\picwgoal1440\pichgoal1440 0100...: what stands in a \pict group. Never fails. Classic
+/// without a size.
+void EmitPicture(RtfWriter& writer, const OpenPicture& picture, const PictureSize& size);
+/// \emfblip\picscalex100\picscaley50 0100...
+void EmitClassicPicture(RtfWriter& writer, const OpenPicture& picture,
+                        const std::optional<OpenPicture::Scale>& scale = {});
 
 /// A shape as it is about to be written.
 struct detail::ShapeSettings {
@@ -56,7 +60,8 @@ struct ShapePictures {
 };
 
 /// All that can fail in the first half of a shape.
-ShapePictures OpenPictures(const platform::Platform& platform, const ShapeSettings& shape);
+ShapePictures OpenPictures(const RtfWriter& writer, const platform::Platform& platform,
+                           const ShapeSettings& shape);
 
 /// {\shp{\*\shpinst{\shplid1{\sp{\sn ShapeType}{\sv 1}}...}{\sp{\sn lTxid}{\sv 1}}...}: all settings. Of an in-line
 /// picture {\pict{\*\picprop\shplid1{\sp{\sn ShapeType}{\sv 75}}}.
@@ -65,7 +70,7 @@ void EmitShapeStart(RtfWriter& writer, const ShapeSettings& shape, const ShapePi
 /// {\shptxt, once: before the shape's first paragraph or row.
 void EmitShapeTextStart(RtfWriter& writer);
 
-/// The closing braces; after them an in-line picture's data. Error 11 before the first byte, as in the first half.
+/// The closing braces; in the classic spelling after them an in-line picture's data. Error 11 before the first byte, as in the first half.
 void EmitShapeEnd(RtfWriter& writer, const ShapeSettings& shape, const OpenPicture* inlinePicture);
 
 }  // namespace draftwick

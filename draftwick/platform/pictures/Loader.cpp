@@ -38,6 +38,7 @@ std::unique_ptr<const Picture> Loader::Load(FileSystem& files, const std::string
 Loader::Loaded Loader::Read(PictureSource& source, PictureKind kind) const {
     switch (kind) {
     case PictureKind::Jpeg: return Sized(ReadJpegSize(source, twipsPerPixel_));
+    case PictureKind::Png: return Sized(ReadPngSize(source, twipsPerPixel_));
     case PictureKind::Emf: return Sized(ReadEmfSize(source));
     case PictureKind::Wmf: return Sized(ReadWmfSize(source));
     case PictureKind::Gif: return ReadGif(source);

@@ -45,6 +45,7 @@ inline constexpr std::int64_t MaxGifPixelsPerByte = 4096;
 std::optional<Bitmap> ReadBmp(PictureSource& source);
 /// At the density that the headers give, or else at the screen's.
 std::optional<Size> ReadJpegSize(PictureSource& source, double twipsPerPixel);
+std::optional<Size> ReadPngSize(PictureSource& source, double twipsPerPixel);
 std::optional<Size> ReadEmfSize(PictureSource& source);
 std::optional<Size> ReadWmfSize(PictureSource& source);
 

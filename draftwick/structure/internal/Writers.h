@@ -9,6 +9,8 @@
 #include <draftwick/structure/PageBorders.h>
 #include <draftwick/structure/Table.h>
 
+#include <array>
+
 namespace draftwick {
 
 /// "{\*\bkmkstart Total}"
@@ -30,15 +32,32 @@ void EmitFootnoteStart(RtfWriter& writer, bool isEndnote);
 /// "}"
 void EmitFootnoteEnd(RtfWriter& writer);
 
-/// \trowd\trgaph95\trql\trleft-95\trrh0\trbrdrt...: what a row says before its first cell.
-void EmitTableRow(RtfWriter& writer, const Table::Values& row, const TableBorders* borders);
+/// \trowd\trgaph95\trql\trleft-95\trrh0\trbrdrt...: what a row says about itself.
+void EmitTableRow(RtfWriter& writer, const Table::Values& row, const TableBorders* borders,
+                  const Frame* frame);
 /// \intbl\row\pard
 void EmitTableRowEnd(RtfWriter& writer);
 
-/// \clvertalt\clbrdrt...\cellx1440: a cell, after the words of the cells before it and their texts. Error 6,
-/// before the first word, when its right edge does not fit 16 bits.
-void EmitCellDefinition(RtfWriter& writer, const Cell::Values& cell, const Background* background,
-                        const CellBorders* borders);
+/// A cell as it is about to be written; null for the parts that it does not have.
+struct detail::CellSettings {
+    const Cell::Values& values;
+    const Background* background;
+    const CellBorders* borders;
+};
+/// Where a cell stands.
+struct CellPlace {
+    std::int32_t rightEdge;
+    bool first = false, last = false;  ///< in its row
+    bool below = false;                ///< its row follows another one
+};
+/// The borders of a row by their numbers; null for those that were never read.
+using RowBorders = std::array<const TableBorder*, 7>;
+/// \clvertalt\clbrdrt...\cellx1440: what a row says about a cell.
+void EmitCellDefinition(RtfWriter& writer, const CellSettings& cell, const TableBorders* rowBorders,
+                        const CellPlace& place);
+/// A cell begins. Error 6, before the first word, when its right edge does not fit 16 bits. Its definition stands here,
+/// after the texts of the cells before it; in the standard spelling all definitions come before the first text.
+void EmitCellStart(RtfWriter& writer, const CellSettings& cell);
 /// \intbl before each paragraph of a cell, \par between two of them.
 void EmitCellParagraphMark(RtfWriter& writer);
 /// \pard\intbl and the row's frame: \pard takes a paragraph out of its row, and a row has no words for its frame.
