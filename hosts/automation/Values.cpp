@@ -74,14 +74,8 @@ Date ReadDate(double days) {
 
 double WriteDate(const Date& date) {
     const auto word = [](std::int32_t number) { return static_cast<WORD>(number); };
-    SYSTEMTIME time{.wYear = word(date.year),
-                    .wMonth = word(date.month),
-                    .wDayOfWeek = 0,
-                    .wDay = word(date.day),
-                    .wHour = word(date.hour),
-                    .wMinute = word(date.minute),
-                    .wSecond = word(date.second),
-                    .wMilliseconds = 0};
+    SYSTEMTIME time{word(date.year),   word(date.month),  0, word(date.day), word(date.hour),
+                    word(date.minute), word(date.second), 0};  // the third: of the week
     double days = 0;
     // Automation takes a year below 100 for one of this or the last century.
     if (date.year < 100 || ::SystemTimeToVariantTime(&time, &days) == 0)

@@ -179,7 +179,7 @@ int CompareNames(const char* list, bool onlyCheck) {
     if (complaints != 0 || frozen.size() == now.size()) return complaints;
     if (onlyCheck) {
         std::cerr << list << " lacks " << now.size() - frozen.size()
-                  << " names; scripts/docs names adds them\n";
+                  << " names; scripts/docs reference adds them\n";
         return 1;
     }
     std::ofstream out(list, std::ios::binary);
