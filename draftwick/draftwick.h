@@ -1,6 +1,6 @@
 #pragma once
 
-/// All of Draftwick: what a host includes.
+/// All of Draftwick: what a host includes. Services of its own in place of the system's need platform/Platform.h, too.
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Version.h>
 #include <draftwick/content/Field.h>
@@ -16,7 +16,6 @@
 #include <draftwick/format/Lists.h>
 #include <draftwick/format/Styles.h>
 #include <draftwick/model/Class.h>
-#include <draftwick/platform/Platform.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Columns.h>

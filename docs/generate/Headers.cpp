@@ -1,5 +1,6 @@
 #include "Headers.h"
 
+#include <algorithm>
 #include <fstream>
 #include <regex>
 #include <stdexcept>

@@ -12,6 +12,8 @@
 
 namespace draftwick {
 
+Paragraph::Paragraph(const Origin& origin) : HeldBy(origin), format_(AsOwner()) {}
+
 std::string Paragraph::StyleName() const { return style_.Name(*Session().collections->paragraphStyles); }
 
 void Paragraph::SetStyleName(std::string_view name) {
@@ -29,6 +31,13 @@ void Paragraph::SetStyleName(std::string_view name) {
     }
     style_ = named;
 }
+
+std::shared_ptr<ParagraphFormat> Paragraph::Format() { return Share(format_); }
+std::shared_ptr<draftwick::FontFormat> Paragraph::FontFormat() { return Share(fontFormat_.Get(AsOwner())); }
+std::shared_ptr<draftwick::Background> Paragraph::Background() { return Share(background_.Get(AsOwner())); }
+std::shared_ptr<ParagraphBorders> Paragraph::Borders() { return Share(borders_.Get(AsOwner())); }
+std::shared_ptr<draftwick::TabStops> Paragraph::TabStops() { return Share(tabStops_.Get(AsOwner())); }
+std::shared_ptr<draftwick::Frame> Paragraph::Frame() { return Share(frame_.Get(AsOwner())); }
 
 std::shared_ptr<Bookmark> Paragraph::AddBookmark(std::string_view name, bool isStart) {
     return Add(currentBookmark_, name, isStart);

@@ -27,7 +27,7 @@ class TextItem;
 /// closed itself; then it takes no more children.
 class DRAFTWICK_API Paragraph final : public detail::HeldBy<Container> {
 public:
-    explicit Paragraph(const detail::Origin& origin) : HeldBy(origin), format_(AsOwner()) {}
+    explicit Paragraph(const detail::Origin& origin);
 
     /// The name of a paragraph style; empty (default) for none. Setting it looks the style up (dwErrItemNotFound),
     /// takes its spelling and copies everything that the style has into the paragraph, over what was set before;
@@ -37,14 +37,14 @@ public:
     void SetStyleName(std::string_view name);
 
     /// Alignment, indents, spacing, page breaks, outline level and list.
-    std::shared_ptr<ParagraphFormat> Format() { return Share(format_); }
+    std::shared_ptr<ParagraphFormat> Format();
     /// The look of the paragraph's runs unless they say otherwise. Reading it once makes it the paragraph's own.
-    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(fontFormat_.Get(AsOwner())); }
-    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(AsOwner())); }
-    std::shared_ptr<ParagraphBorders> Borders() { return Share(borders_.Get(AsOwner())); }
-    std::shared_ptr<draftwick::TabStops> TabStops() { return Share(tabStops_.Get(AsOwner())); }
+    std::shared_ptr<draftwick::FontFormat> FontFormat();
+    std::shared_ptr<draftwick::Background> Background();
+    std::shared_ptr<ParagraphBorders> Borders();
+    std::shared_ptr<draftwick::TabStops> TabStops();
     /// Styles have none.
-    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(AsOwner())); }
+    std::shared_ptr<draftwick::Frame> Frame();
 
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);

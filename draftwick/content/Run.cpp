@@ -16,6 +16,9 @@ std::shared_ptr<draftwick::FontFormat> Run::FontFormat() {
     return Share(fontFormat_.Get(AsOwner()));
 }
 
+std::shared_ptr<draftwick::Background> Run::Background() { return Share(background_.Get(AsOwner())); }
+std::shared_ptr<TextBorder> Run::Border() { return Share(border_.Get(AsOwner())); }
+
 RunSettings Run::Settings() const {
     const TextStyles& styles = *Session().collections->textStyles;
     return {.style = styleName_.empty() ? nullptr : &styles.At(styles.IndexOf(styleName_)),

@@ -32,9 +32,9 @@ public:
     /// Before it is read nothing differs: with a text style, reading alone can change what is written.
     std::shared_ptr<draftwick::FontFormat> FontFormat();
     /// What stands behind the text.
-    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(AsOwner())); }
+    std::shared_ptr<draftwick::Background> Background();
     /// The line around the text.
-    std::shared_ptr<TextBorder> Border() { return Share(border_.Get(AsOwner())); }
+    std::shared_ptr<TextBorder> Border();
 
 protected:
     /// What is written of the run before its text. dwErrItemNotFound when there is no such style.

@@ -21,6 +21,9 @@ void Section::SetOrientation(dwOrientation orientation) {
     if (orientation != before) std::swap(values_.page.pageWidth, values_.page.pageHeight);
 }
 
+std::shared_ptr<draftwick::PageBorders> Section::PageBorders() { return Share(pageBorders_); }
+std::shared_ptr<draftwick::Columns> Section::Columns() { return Share(columns_); }
+
 std::shared_ptr<Header> Section::AddHeader(dwHeaderKind kind) {
     const auto& session = Session();
     CheckNotFinished();

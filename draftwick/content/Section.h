@@ -142,10 +142,10 @@ public:
     void SetVerticalAlign(dwVerticalAlign align) { Change(values_.verticalAlign, align); }
 
     /// The lines around the pages of the section.
-    std::shared_ptr<draftwick::PageBorders> PageBorders() { return Share(pageBorders_); }
+    std::shared_ptr<draftwick::PageBorders> PageBorders();
 
     /// The columns that the text runs in.
-    std::shared_ptr<draftwick::Columns> Columns() { return Share(columns_); }
+    std::shared_ptr<draftwick::Columns> Columns();
 
     /// Adds a header or footer after everything that the section holds; they belong at its beginning. Refuses once
     /// the section is finished ("Section"). dwErrInvalidHeaderKind for the kinds for left and right pages in a

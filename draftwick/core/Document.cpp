@@ -17,6 +17,12 @@
 
 namespace draftwick {
 
+struct Document::Inside {
+    Collections collections;
+    OutputFiles files;
+    Viewer viewer;
+};
+
 std::shared_ptr<Document> Document::Create() { return Create(platform::SystemPlatform()); }
 
 std::shared_ptr<Document> Document::Create(platform::Platform services) {
@@ -27,22 +33,23 @@ std::shared_ptr<Document> Document::Create(platform::Platform services) {
 }
 
 Document::Document(const Origin& origin, DocumentSettings& settings)
-    : Content(origin), settings_(settings), collections_(std::make_unique<Collections>()),
-      files_(std::make_unique<OutputFiles>()), viewer_(std::make_unique<Viewer>(SharedSession()->platform)) {}
+    : Content(origin), settings_(settings),
+      inside_(new Inside{.collections = {}, .files = {}, .viewer = Viewer(SharedSession()->platform)}) {}
 
 /// Children need a reference to their parent, so they come after the constructor.
 void Document::Open() {
     const Origin origin = OriginOfChild();
-    collections_->fonts = std::make_shared<draftwick::Fonts>(origin);
-    collections_->lists = std::make_shared<draftwick::Lists>(origin);
-    collections_->paragraphStyles = std::make_shared<draftwick::ParagraphStyles>(origin);
-    collections_->textStyles = std::make_shared<draftwick::TextStyles>(origin);
-    collections_->properties = std::make_shared<draftwick::Properties>(origin);
+    Collections& collections = inside_->collections;
+    collections.fonts = std::make_shared<draftwick::Fonts>(origin);
+    collections.lists = std::make_shared<draftwick::Lists>(origin);
+    collections.paragraphStyles = std::make_shared<draftwick::ParagraphStyles>(origin);
+    collections.textStyles = std::make_shared<draftwick::TextStyles>(origin);
+    collections.properties = std::make_shared<draftwick::Properties>(origin);
     detail::Session& session = *SharedSession();
     session.document = this;
     session.documentLink = weak_from_this();
-    session.collections = collections_.get();
-    session.writer.names = collections_.get();
+    session.collections = &collections;
+    session.writer.names = &collections;
 }
 
 Document::~Document() {
@@ -53,29 +60,33 @@ Document::~Document() {
     session.collections = nullptr;
 }
 
-std::shared_ptr<draftwick::Fonts> Document::Fonts() const { return collections_->fonts; }
-std::shared_ptr<draftwick::Lists> Document::Lists() const { return collections_->lists; }
+std::shared_ptr<draftwick::Fonts> Document::Fonts() const { return inside_->collections.fonts; }
+std::shared_ptr<draftwick::Lists> Document::Lists() const { return inside_->collections.lists; }
 std::shared_ptr<draftwick::ParagraphStyles> Document::ParagraphStyles() const {
-    return collections_->paragraphStyles;
+    return inside_->collections.paragraphStyles;
 }
-std::shared_ptr<draftwick::TextStyles> Document::TextStyles() const { return collections_->textStyles; }
-std::shared_ptr<draftwick::Properties> Document::Properties() const { return collections_->properties; }
+std::shared_ptr<draftwick::TextStyles> Document::TextStyles() const {
+    return inside_->collections.textStyles;
+}
+std::shared_ptr<draftwick::Properties> Document::Properties() const {
+    return inside_->collections.properties;
+}
 
 std::shared_ptr<Section> Document::AddSection() {
     // Once the file's last brace is written nothing can follow it, even if Finish failed after that.
-    if (files_->Ended()) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
+    if (inside_->files.Ended()) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
     return Add(currentSection_);
 }
 
 void Document::Finish() { Close(); }
 
 void Document::WriteStart() {
-    files_->OpenBody(Session());
+    inside_->files.OpenBody(Session());
     if (settings_.spelling == dwSpellingStandard) Writer().UseStandardSpelling();
     WriteDocumentFormatting(Writer(), settings_);
 }
 
-void Document::WriteEnd() { files_->AssembleOutputFile(Session()); }
+void Document::WriteEnd() { inside_->files.AssembleOutputFile(Session()); }
 
 dwViewer Document::Preview(dwViewer program) { return RunViewer(program, false); }
 dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true); }
@@ -83,18 +94,20 @@ dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true);
 dwViewer Document::RunViewer(dwViewer program, bool printIt) {
     Finish();
     // Other programs have a current folder of their own.
-    return viewer_->RunViewer(OriginOfChild(), files_->FullFileName(), program, printIt);
+    return inside_->viewer.RunViewer(OriginOfChild(), inside_->files.FullFileName(), program, printIt);
 }
 
-std::shared_ptr<AutomationObject> Document::ViewerApp() const { return viewer_->App(); }
-std::int32_t Document::ViewerTaskID() const { return viewer_->TaskID(); }
-const std::string& Document::ActualFileName() const { return files_->ActualFileName(); }
+std::shared_ptr<AutomationObject> Document::ViewerApp() const { return inside_->viewer.App(); }
+std::int32_t Document::ViewerTaskID() const { return inside_->viewer.TaskID(); }
+const std::string& Document::ActualFileName() const { return inside_->files.ActualFileName(); }
 
-std::string Document::DefaultFontName() const { return settings_.defaultFont.Name(*collections_->fonts); }
+std::string Document::DefaultFontName() const {
+    return settings_.defaultFont.Name(*inside_->collections.fonts);
+}
 
 void Document::SetDefaultFontName(std::string_view name) {
     OpenForChange();
-    settings_.defaultFont.Set(*collections_->fonts, name);
+    settings_.defaultFont.Set(*inside_->collections.fonts, name);
 }
 
 void Document::SetOrientation(dwOrientation orientation) {

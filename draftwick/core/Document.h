@@ -2,7 +2,6 @@
 
 #include <draftwick/model/Content.h>
 #include <draftwick/model/DocumentSettings.h>
-#include <draftwick/platform/Platform.h>
 #include <draftwick/viewer/ViewerKind.h>
 
 #include <memory>
@@ -11,11 +10,9 @@
 
 namespace draftwick {
 
-namespace detail {
-class OutputFiles;
-class Viewer;
-struct Collections;
-}  // namespace detail
+namespace platform {
+struct Platform;
+}  // namespace platform
 
 class AutomationObject;
 class Fonts;
@@ -39,7 +36,7 @@ class DRAFTWICK_API Document final : public detail::Content {
 public:
     /// A new document with the system's services.
     static std::shared_ptr<Document> Create();
-    /// A new document with the host's own services in place of the system's.
+    /// A new document with the host's own services in place of the system's (draftwick/platform/Platform.h).
     static std::shared_ptr<Document> Create(platform::Platform services);
     ~Document() override;
 
@@ -227,10 +224,10 @@ private:
     dwViewer RunViewer(dwViewer program, bool printIt);
     void SetPath(std::string& field, std::string_view path);
 
+    struct Inside;
+
     detail::DocumentSettings& settings_;  // the session's
-    std::unique_ptr<detail::Collections> collections_;
-    std::unique_ptr<detail::OutputFiles> files_;
-    std::unique_ptr<detail::Viewer> viewer_;
+    std::unique_ptr<Inside> inside_;      // collections, files and viewer
     std::shared_ptr<Section> currentSection_;
 };
 

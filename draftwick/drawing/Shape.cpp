@@ -35,6 +35,13 @@ void Shape::SetAdjustValues(std::int32_t index, std::int32_t value) {
     values_.adjustValues[static_cast<std::size_t>(index - 1)] = value;
 }
 
+std::shared_ptr<ShapeFill> Shape::Fill() { return Share(fill_.Get(AsOwner())); }
+std::shared_ptr<ShapeLine> Shape::Line() { return Share(line_.Get(AsOwner())); }
+std::shared_ptr<ShapeShadow> Shape::Shadow() { return Share(shadow_.Get(AsOwner())); }
+std::shared_ptr<ShapeTextFormat> Shape::TextFormat() { return Share(textFormat_.Get(AsOwner())); }
+std::shared_ptr<ShapeThreeD> Shape::ThreeD() { return Share(threeD_.Get(AsOwner())); }
+std::shared_ptr<ShapeWordArt> Shape::WordArt() { return Share(wordArt_.Get(AsOwner())); }
+
 ShapeSettings Shape::Settings() const {
     return {.index = index_,
             .shape = values_,

@@ -156,12 +156,12 @@ public:
 
     /// The inside, the outline, the shadow, the text box, the depth and the drawn text of the shape. Each is there from
     /// its first use on and refuses when the shape refuses.
-    std::shared_ptr<ShapeFill> Fill() { return Share(fill_.Get(AsOwner())); }
-    std::shared_ptr<ShapeLine> Line() { return Share(line_.Get(AsOwner())); }
-    std::shared_ptr<ShapeShadow> Shadow() { return Share(shadow_.Get(AsOwner())); }
-    std::shared_ptr<ShapeTextFormat> TextFormat() { return Share(textFormat_.Get(AsOwner())); }
-    std::shared_ptr<ShapeThreeD> ThreeD() { return Share(threeD_.Get(AsOwner())); }
-    std::shared_ptr<ShapeWordArt> WordArt() { return Share(wordArt_.Get(AsOwner())); }
+    std::shared_ptr<ShapeFill> Fill();
+    std::shared_ptr<ShapeLine> Line();
+    std::shared_ptr<ShapeShadow> Shadow();
+    std::shared_ptr<ShapeTextFormat> TextFormat();
+    std::shared_ptr<ShapeThreeD> ThreeD();
+    std::shared_ptr<ShapeWordArt> WordArt();
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

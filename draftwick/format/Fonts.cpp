@@ -3,6 +3,11 @@
 
 namespace draftwick {
 
+std::shared_ptr<Font> Fonts::Add(std::string_view name) {
+    OpenForChange();
+    return AddItem(name, "Fonts");
+}
+
 const Class& Font::Describe() {
     static const Class description{
         "Font",

@@ -61,10 +61,7 @@ public:
 
     /// Adds a font. Refuses once the document is emitted ("Document"); an empty name is dwErrZeroLengthName
     /// ("Fonts"), a name that is there, in any case of letters, error 457.
-    std::shared_ptr<Font> Add(std::string_view name) {
-        OpenForChange();
-        return AddItem(name, "Fonts");
-    }
+    std::shared_ptr<Font> Add(std::string_view name);
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

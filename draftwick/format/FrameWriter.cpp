@@ -31,6 +31,7 @@ void WriteSpacing(RtfWriter& writer, const Frame::Values& frame) {
 
 void EmitFrame(RtfWriter& writer, const Frame::Values& frame) {
     if (frame == Frame::Values{}) return;
+    writer.hasFrame = true;
     WriteUnlessZero(writer, "absw", frame.width.Twips());
     WriteUnlessZero(writer, "absh", frame.heightExactly ? -frame.height.Twips() : frame.height.Twips());
     writer.Word(ReferenceXWords, frame.referenceX);

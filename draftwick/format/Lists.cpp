@@ -8,6 +8,8 @@ ListLevel::ListLevel(Owner list, std::int32_t number) : Part(list), parts_{draft
     values_.format = "\\L" + std::to_string(number) + ".";
 }
 
+std::shared_ptr<draftwick::FontFormat> ListLevel::FontFormat() { return Share(parts_.fontFormat); }
+
 List::List(const Origin& origin, std::string name, std::int32_t)
     : Node(origin), name_(std::move(name)), parts_{{ListLevel{AsOwner(), 1}, ListLevel{AsOwner(), 2},
                                                     ListLevel{AsOwner(), 3}, ListLevel{AsOwner(), 4},

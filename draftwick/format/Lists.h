@@ -78,7 +78,7 @@ public:
     void SetTabPosition(double length) { Change(values_.tabPosition, length); }
 
     /// The look of the number.
-    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(parts_.fontFormat); }
+    std::shared_ptr<draftwick::FontFormat> FontFormat();
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

@@ -41,10 +41,20 @@ void ParagraphStyle::SetNextStyle(std::string_view name) {
     values_.nextStyle.Set(*Session().collections->paragraphStyles, name);
 }
 
+std::shared_ptr<ParagraphFormat> ParagraphStyle::Format() { return Share(parts_.format); }
+std::shared_ptr<draftwick::FontFormat> ParagraphStyle::FontFormat() { return Share(parts_.fontFormat); }
+std::shared_ptr<ParagraphBorders> ParagraphStyle::Borders() { return Share(parts_.borders); }
+std::shared_ptr<draftwick::Background> ParagraphStyle::Background() { return Share(parts_.background); }
+std::shared_ptr<draftwick::TabStops> ParagraphStyle::TabStops() { return Share(parts_.tabStops); }
+
 TextStyle::TextStyle(const Origin& origin, std::string name, std::int32_t index)
     : Style(origin, std::move(name), index), parts_{.fontFormat = draftwick::FontFormat(AsOwner()),
                                                     .border = TextBorder(AsOwner()),
                                                     .background = draftwick::Background(AsOwner())} {}
+
+std::shared_ptr<draftwick::FontFormat> TextStyle::FontFormat() { return Share(parts_.fontFormat); }
+std::shared_ptr<TextBorder> TextStyle::Border() { return Share(parts_.border); }
+std::shared_ptr<draftwick::Background> TextStyle::Background() { return Share(parts_.background); }
 
 std::string TextStyle::BasedOn() const { return values_.basedOn.Name(*Session().collections->textStyles); }
 
@@ -57,6 +67,16 @@ void TextStyle::SetBasedOn(std::string_view name) {
     CopyValues(parts_.background, base.background);
     CopyValues(parts_.border, base.border);
     CopyValues(parts_.fontFormat, base.fontFormat);
+}
+
+std::shared_ptr<ParagraphStyle> ParagraphStyles::Add(std::string_view name) {
+    OpenForChange();
+    return AddItem(name, "Paragraph Styles");
+}
+
+std::shared_ptr<TextStyle> TextStyles::Add(std::string_view name) {
+    OpenForChange();
+    return AddItem(name, "Text Styles");
 }
 
 const Class& ParagraphStyle::Describe() {

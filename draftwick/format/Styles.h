@@ -49,12 +49,12 @@ public:
     void SetNextStyle(std::string_view name);
 
     /// What paragraphs of the style get: layout, look of the text, lines around, what stands behind.
-    std::shared_ptr<ParagraphFormat> Format() { return Share(parts_.format); }
-    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(parts_.fontFormat); }
-    std::shared_ptr<ParagraphBorders> Borders() { return Share(parts_.borders); }
-    std::shared_ptr<draftwick::Background> Background() { return Share(parts_.background); }
+    std::shared_ptr<ParagraphFormat> Format();
+    std::shared_ptr<draftwick::FontFormat> FontFormat();
+    std::shared_ptr<ParagraphBorders> Borders();
+    std::shared_ptr<draftwick::Background> Background();
     /// Copied to paragraphs with the style, but not written in the stylesheet.
-    std::shared_ptr<draftwick::TabStops> TabStops() { return Share(parts_.tabStops); }
+    std::shared_ptr<draftwick::TabStops> TabStops();
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
@@ -88,9 +88,9 @@ public:
     void SetBasedOn(std::string_view name);
 
     /// What runs of the style look like: the text, the line around it, what stands behind.
-    std::shared_ptr<draftwick::FontFormat> FontFormat() { return Share(parts_.fontFormat); }
-    std::shared_ptr<TextBorder> Border() { return Share(parts_.border); }
-    std::shared_ptr<draftwick::Background> Background() { return Share(parts_.background); }
+    std::shared_ptr<draftwick::FontFormat> FontFormat();
+    std::shared_ptr<TextBorder> Border();
+    std::shared_ptr<draftwick::Background> Background();
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
@@ -118,10 +118,7 @@ public:
 
     /// Adds a style. Refuses once the document is emitted ("Document"); an empty name is dwErrZeroLengthName
     /// ("Paragraph Styles"), a name that is there, in any case of letters, error 457.
-    std::shared_ptr<ParagraphStyle> Add(std::string_view name) {
-        OpenForChange();
-        return AddItem(name, "Paragraph Styles");
-    }
+    std::shared_ptr<ParagraphStyle> Add(std::string_view name);
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
@@ -133,10 +130,7 @@ public:
     using NamedCollection::NamedCollection;
 
     /// As ParagraphStyles::Add, with "Text Styles".
-    std::shared_ptr<TextStyle> Add(std::string_view name) {
-        OpenForChange();
-        return AddItem(name, "Text Styles");
-    }
+    std::shared_ptr<TextStyle> Add(std::string_view name);
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

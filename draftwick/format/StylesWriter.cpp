@@ -10,7 +10,8 @@ namespace {
 /// default.
 constexpr Spelled NoBase{"sbasedon", ""};
 
-/// {\s0 Normal;}, or another name if the host has a style of that one.
+/// {\s0 Normal;}, or another name if the host has a style of that one. LibreOffice lets no text stand beside frames whose
+/// paragraphs have a style: where there are frames, readers are left their own Normal.
 void EmitNormalStyle(RtfWriter& writer, const ParagraphStyles& paragraphStyles,
                      const TextStyles& textStyles) {
     std::string name = "Normal";
@@ -74,9 +75,10 @@ std::int32_t TextStyleNumber(const RtfWriter& writer, std::int32_t index) {
 
 void EmitStylesheet(RtfWriter& writer, const ParagraphStyles& paragraphStyles, const TextStyles& textStyles,
                     const DocumentSettings& settings) {
-    if (!writer.Standard() && paragraphStyles.Count() == 0 && textStyles.Count() == 0) return;
+    const bool hasNormal = writer.Standard() && !writer.hasFrame;
+    if (!hasNormal && paragraphStyles.Count() == 0 && textStyles.Count() == 0) return;
     writer.Group("stylesheet", [&] {
-        if (writer.Standard()) EmitNormalStyle(writer, paragraphStyles, textStyles);
+        if (hasNormal) EmitNormalStyle(writer, paragraphStyles, textStyles);
         for (const auto& style : paragraphStyles) EmitParagraphStyle(writer, *style, settings);
         for (const auto& style : textStyles) EmitTextStyle(writer, *style);
     });

@@ -3,10 +3,8 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <string_view>
 
 /// The kinds of setting. A settings class keeps its values in a plain struct whose fields have these types: the
@@ -21,7 +19,9 @@ using namespace detail;
 template <std::size_t Size>
 struct Name {
     char text[Size]{};
-    constexpr Name(const char (&from)[Size]) { std::copy_n(from, Size, text); }
+    constexpr Name(const char (&from)[Size]) {
+        for (std::size_t i = 0; i < Size; ++i) text[i] = from[i];
+    }
     constexpr std::string_view View() const { return {text, Size - 1}; }
 };
 

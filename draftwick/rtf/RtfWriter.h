@@ -29,6 +29,7 @@ public:
     LayoutState layout;
     ListNumbers lists;
     const Collections* names = nullptr;
+    bool hasFrame = false;  ///< a paragraph was written that stands in a frame
 
     /// From now on all is spelled as RTF 1.9.1 has it. Before the first word.
     void UseStandardSpelling() {

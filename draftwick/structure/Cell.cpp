@@ -6,6 +6,9 @@
 
 namespace draftwick {
 
+std::shared_ptr<draftwick::Background> Cell::Background() { return Share(background_.Get(AsOwner())); }
+std::shared_ptr<CellBorders> Cell::Borders() { return Share(borders_.Get(AsOwner())); }
+
 CellSettings Cell::Settings() const {
     return {.values = values_, .background = background_.Find(), .borders = borders_.Find()};
 }

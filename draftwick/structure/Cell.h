@@ -57,8 +57,8 @@ public:
     void SetWidth(double length) { Change(values_.width, length); }
 
     /// What stands behind the cell, and the lines around it. Each is there from its first use on.
-    std::shared_ptr<draftwick::Background> Background() { return Share(background_.Get(AsOwner())); }
-    std::shared_ptr<CellBorders> Borders() { return Share(borders_.Get(AsOwner())); }
+    std::shared_ptr<draftwick::Background> Background();
+    std::shared_ptr<CellBorders> Borders();
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

@@ -5,6 +5,9 @@
 
 namespace draftwick {
 
+std::shared_ptr<TableBorders> Table::Borders() { return Share(borders_.Get(AsOwner())); }
+std::shared_ptr<draftwick::Frame> Table::Frame() { return Share(frame_.Get(AsOwner())); }
+
 std::shared_ptr<Cell> Table::AddCell() {
     if (Session().settings.spelling != dwSpellingStandard) return Add(currentCell_);
     if (cells_.size() == cells_.capacity()) cells_.reserve(cells_.size() * 2 + 4);

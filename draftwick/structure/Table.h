@@ -66,9 +66,9 @@ public:
     void SetKeepTogether(bool on) { Change(values_.keepTogether, on); }
 
     /// The lines around and in the row. Readers that draw only those of cells are common.
-    std::shared_ptr<TableBorders> Borders() { return Share(borders_.Get(AsOwner())); }
+    std::shared_ptr<TableBorders> Borders();
     /// Where the row stands on the page; all rows of a table should say the same.
-    std::shared_ptr<draftwick::Frame> Frame() { return Share(frame_.Get(AsOwner())); }
+    std::shared_ptr<draftwick::Frame> Frame();
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }

@@ -1,5 +1,6 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/platform/Automation.h>
 #include <draftwick/viewer/AutomationObject.h>
 
 #include <string>
@@ -11,20 +12,6 @@ namespace draftwick {
 AutomationObject::AutomationObject(const Origin& origin, std::shared_ptr<platform::AutomationObject> object)
     : Node(origin), object_(std::move(object)) {}
 
-Variant AutomationObject::Receive(const platform::AutomationValue& value) const {
-    return std::visit(
-        [this](const auto& plain) -> Variant {
-            if constexpr (std::is_convertible_v<decltype(plain),
-                                                std::shared_ptr<platform::AutomationObject>>) {
-                if (plain == nullptr) return {};
-                return std::make_shared<AutomationObject>(OriginOfChild(), plain);
-            } else {
-                return plain;
-            }
-        },
-        value);
-}
-
 namespace {
 
 [[noreturn]] void RaiseCannotSend() {
@@ -33,29 +20,47 @@ namespace {
 
 }  // namespace
 
-platform::AutomationValue AutomationObject::Send(const Variant& value) {
-    return std::visit(
-        [](const auto& plain) -> platform::AutomationValue {
-            using Plain = std::decay_t<decltype(plain)>;
-            if constexpr (std::is_same_v<Plain, std::shared_ptr<Object>>) {
-                const auto other = std::dynamic_pointer_cast<AutomationObject>(plain);
-                if (other == nullptr) RaiseCannotSend();
-                return other->object_;
-            } else if constexpr (std::is_same_v<Plain, Date>) {
-                RaiseCannotSend();
-            } else {
-                return plain;
-            }
-        },
-        value);
-}
+/// Values as they go to another program and come from it.
+struct AutomationObject::Exchange {
+    static platform::AutomationValue Send(const Variant& value) {
+        return std::visit(
+            [](const auto& plain) -> platform::AutomationValue {
+                using Plain = std::decay_t<decltype(plain)>;
+                if constexpr (std::is_same_v<Plain, std::shared_ptr<Object>>) {
+                    const auto other = std::dynamic_pointer_cast<AutomationObject>(plain);
+                    if (other == nullptr) RaiseCannotSend();
+                    return other->object_;
+                } else if constexpr (std::is_same_v<Plain, Date>) {
+                    RaiseCannotSend();
+                } else {
+                    return plain;
+                }
+            },
+            value);
+    }
+
+    /// An object belongs to the one that gave it.
+    static Variant Receive(const AutomationObject& from, const platform::AutomationValue& value) {
+        return std::visit(
+            [&](const auto& plain) -> Variant {
+                if constexpr (std::is_convertible_v<decltype(plain),
+                                                    std::shared_ptr<platform::AutomationObject>>) {
+                    if (plain == nullptr) return {};
+                    return std::make_shared<AutomationObject>(from.OriginOfChild(), plain);
+                } else {
+                    return plain;
+                }
+            },
+            value);
+    }
+};
 
 Variant AutomationObject::GetProperty(std::string_view name) const {
-    return Receive(object_->Get(std::string{name}));
+    return Exchange::Receive(*this, object_->Get(std::string{name}));
 }
 
 void AutomationObject::SetProperty(std::string_view name, const Variant& value) const {
-    object_->Put(std::string{name}, Send(value));
+    object_->Put(std::string{name}, Exchange::Send(value));
 }
 
 Variant AutomationObject::CallMethod(std::string_view name, const Variant& first, const Variant& second,
@@ -63,9 +68,9 @@ Variant AutomationObject::CallMethod(std::string_view name, const Variant& first
     std::vector<platform::AutomationValue> arguments;
     for (const Variant* argument : {&first, &second, &third, &fourth}) {
         if (std::holds_alternative<std::monostate>(*argument)) break;
-        arguments.push_back(Send(*argument));
+        arguments.push_back(Exchange::Send(*argument));
     }
-    return Receive(object_->Call(std::string{name}, arguments));
+    return Exchange::Receive(*this, object_->Call(std::string{name}, arguments));
 }
 
 const Class& AutomationObject::Describe() {

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <draftwick/model/Object.h>
-#include <draftwick/platform/Automation.h>
 
 #include <memory>
 #include <string_view>
 
 namespace draftwick {
+
+namespace platform {
+class AutomationObject;
+}  // namespace platform
 
 /// An object of another program, such as the word processor that shows a document. Its members are that program's;
 /// they are used by name. For the thread that the document is used on; it stays usable when the document is gone.
@@ -28,8 +31,7 @@ public:
     const Class& Description() const override { return Describe(); }
 
 private:
-    static platform::AutomationValue Send(const Variant& value);
-    Variant Receive(const platform::AutomationValue& value) const;
+    struct Exchange;
 
     std::shared_ptr<platform::AutomationObject> object_;
 };

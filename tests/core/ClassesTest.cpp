@@ -3,6 +3,7 @@
 #include "tests/support/Script.h"
 #include "tests/support/TempFolder.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>

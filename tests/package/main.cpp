@@ -2,6 +2,7 @@
 // holds the library to what must work across the border of a shared one: errors keep their type, objects theirs, and
 // the host's own classes can stand in for the system's.
 #include <draftwick/draftwick.h>
+#include <draftwick/platform/Platform.h>
 
 #include <iostream>
 #include <string>

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cstdio>
 #include <stdexcept>
+#include <system_error>
 #include <type_traits>
 #include <utility>
 #include <vector>

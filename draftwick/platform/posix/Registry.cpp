@@ -1,6 +1,7 @@
 #include <draftwick/platform/internal/System.h>
 #include <draftwick/text/CaseFolding.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstdio>
