@@ -139,11 +139,7 @@ public:
 private:
     bool IsCollection() const { return members_.Description().items != nullptr; }
 
-    bool IsOwnInterface(REFIID id) const {
-        IID own{};
-        const Text text(members_.Description().interfaceId);
-        return SUCCEEDED(::IIDFromString(text.Get(), &own)) && own == id;
-    }
+    bool IsOwnInterface(REFIID id) const { return IsId(members_.Description().interfaceId, id); }
 
     static DISPID FindArgument(std::span<const Argument> arguments, std::wstring_view name) {
         for (std::size_t i = 0; i < arguments.size(); ++i) {

@@ -8,7 +8,6 @@
 #include <draftwick/core/Classes.h>
 
 #include <string>
-#include <system_error>
 
 // MinGW's headers lack them.
 extern "C" HRESULT WINAPI RegisterTypeLibForUser(ITypeLib*, OLECHAR*, OLECHAR*);
@@ -41,8 +40,7 @@ public:
     void Write(const std::wstring& key, const std::wstring& value, const wchar_t* name = nullptr) const {
         const LSTATUS status = ::RegSetKeyValueW(root_, (Folder + key).c_str(), name, REG_SZ, value.c_str(),
                                                  static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
-        if (status != ERROR_SUCCESS)
-            throw std::system_error(static_cast<int>(status), std::system_category(), "the registry");
+        Check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
     }
     HRESULT Delete(const std::wstring& key) const {
         const LSTATUS status = ::RegDeleteTreeW(root_, (Folder + key).c_str());
@@ -78,23 +76,16 @@ void ForEachClass(Use use) {
     }
 }
 
-HRESULT RegisterLibrary(Users users) {
-    const std::wstring file = ModuleFile();
-    ITypeLib* loaded = nullptr;
-    const HRESULT outcome = ::LoadTypeLibEx(file.c_str(), REGKIND_NONE, &loaded);
-    if (FAILED(outcome)) return outcome;
-    const Pointer<ITypeLib> library(loaded);
+void RegisterLibrary(Users users) {
     const auto enter = users == Users::All ? &::RegisterTypeLib : &::RegisterTypeLibForUser;
-    std::wstring path = file;
-    return enter(library.get(), path.data(), nullptr);
+    std::wstring file = ModuleFile();
+    Check(enter(OpenTypeLibrary().get(), file.data(), nullptr));
 }
 
 /// That it is not there is no failure, and where there are no rights the classes tell.
 void UnregisterLibrary(Users users) {
-    GUID id{};
-    ::CLSIDFromString(Wide(TypeLibraryId).c_str(), &id);
     const auto take = users == Users::All ? &::UnRegisterTypeLib : &::UnRegisterTypeLibForUser;
-    take(id, VersionMajor, 0, LOCALE_NEUTRAL, SYS_WIN64);
+    take(IdOf(TypeLibraryId), VersionMajor, 0, LOCALE_NEUTRAL, SYS_WIN64);
 }
 
 }  // namespace
@@ -103,7 +94,8 @@ HRESULT Register(Users users) {
     return Guarded(nullptr, [&] {
         const Root root(users);
         ForEachClass([&](const Class& one) { WriteClass(root, one); });
-        return RegisterLibrary(users);
+        RegisterLibrary(users);
+        return S_OK;
     });
 }
 

@@ -44,9 +44,7 @@ STDAPI DllGetClassObject(REFCLSID id, REFIID interfaceId, void** result) {
     *result = nullptr;
     return Guarded(nullptr, [&]() -> HRESULT {
         for (const Class* one : Classes()) {
-            CLSID own{};
-            const Text text(one->classId);
-            if (one->create == nullptr || FAILED(::CLSIDFromString(text.Get(), &own)) || own != id) continue;
+            if (one->create == nullptr || !IsId(one->classId, id)) continue;
             const Pointer<IClassFactory> factory(new Factory(*one));
             return factory->QueryInterface(interfaceId, result);
         }

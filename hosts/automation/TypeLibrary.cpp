@@ -4,6 +4,7 @@
 #include "Values.h"
 
 #include <mutex>
+#include <system_error>
 
 namespace draftwick::automation {
 
@@ -26,19 +27,21 @@ std::wstring ModuleFile() {
     return name;
 }
 
+void Check(HRESULT result) {
+    if (FAILED(result)) throw std::system_error(static_cast<int>(result), std::system_category());
+}
+
+Pointer<ITypeLib> OpenTypeLibrary() {
+    ITypeLib* library = nullptr;
+    Check(::LoadTypeLibEx(ModuleFile().c_str(), REGKIND_NONE, &library));
+    return Pointer<ITypeLib>(library);
+}
+
 HRESULT FindTypeInfo(std::string_view interfaceId, ITypeInfo** info) {
-    return Guarded(nullptr, [&]() -> HRESULT {
+    return Guarded(nullptr, [&] {
         const std::lock_guard lock(opened.mutex);
-        if (opened.library == nullptr) {
-            ITypeLib* library = nullptr;
-            const HRESULT outcome = ::LoadTypeLibEx(ModuleFile().c_str(), REGKIND_NONE, &library);
-            if (FAILED(outcome)) return outcome;
-            opened.library.reset(library);
-        }
-        IID id{};
-        const Text text(interfaceId);
-        const HRESULT outcome = ::IIDFromString(text.Get(), &id);
-        return FAILED(outcome) ? outcome : opened.library->GetTypeInfoOfGuid(id, info);
+        if (opened.library == nullptr) opened.library = OpenTypeLibrary();
+        return opened.library->GetTypeInfoOfGuid(IdOf(interfaceId), info);
     });
 }
 

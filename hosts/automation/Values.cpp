@@ -3,6 +3,7 @@
 #include "Dispatch.h"
 #include "Errors.h"
 
+#include <charconv>
 #include <limits>
 #include <new>
 
@@ -23,6 +24,18 @@ std::string FromWide(std::wstring_view text) {
                                              bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
     bytes.resize(static_cast<std::size_t>(length));
     return bytes;
+}
+
+GUID IdOf(std::string_view text) {
+    GUID id{};
+    ::CLSIDFromString(Text(text).Get(), &id);
+    return id;
+}
+
+bool IsId(std::string_view text, REFGUID id) {
+    unsigned long first = 0;  // hosts ask for many others, and often
+    std::from_chars(text.data() + 1, text.data() + 9, first, 16);
+    return first == id.Data1 && IdOf(text) == id;
 }
 
 namespace {

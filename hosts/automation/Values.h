@@ -30,6 +30,11 @@ private:
 /// As UTF-8. A half of a surrogate pair becomes U+FFFD.
 std::string FromWide(std::wstring_view text);
 
+/// An identifier that a class's description has in braces.
+GUID IdOf(std::string_view text);
+/// Whether it is this one.
+bool IsId(std::string_view text, REFGUID id);
+
 /// A variant that frees what it holds.
 struct OwnedVariant : VARIANT {
     OwnedVariant() { ::VariantInit(this); }
