@@ -13,8 +13,6 @@ using namespace draftwick;
 
 namespace {
 
-// Colours are 32-bit integers with red in the lowest byte.
-constexpr std::int32_t Rgb(int red, int green, int blue) { return red + green * 0x100 + blue * 0x10000; }
 constexpr std::int32_t Pine = Rgb(20, 83, 72);
 constexpr std::int32_t Sand = Rgb(243, 237, 222);
 constexpr std::int32_t Reed = Rgb(228, 219, 196);

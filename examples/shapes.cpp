@@ -10,8 +10,6 @@ using namespace draftwick;
 
 namespace {
 
-constexpr std::int32_t Rgb(int red, int green, int blue) { return red + green * 0x100 + blue * 0x10000; }
-
 // [shape]
 // A shape is anchored in a paragraph. Where it stands is counted from the margins, unless it says otherwise.
 std::shared_ptr<Shape> AddShape(Paragraph& anchor, dwShapeKind kind, double left, double top, double width,

@@ -12,7 +12,6 @@ namespace {
 
 // [color]
 // Colours are 32-bit numbers with red in the lowest byte.
-constexpr std::int32_t Rgb(int red, int green, int blue) { return red + green * 0x100 + blue * 0x10000; }
 constexpr std::int32_t Brick = Rgb(165, 60, 40);
 // [color]
 

@@ -52,6 +52,8 @@ std::string TypeText(const Type* type, bool optional = false) {
 }
 
 std::string ValueText(const Variant& value, const Type& type) {
+    for (const EnumerationValue& constant : type.values)
+        if (value == Variant{constant.value}) return std::string{constant.name};
     std::ostringstream text;
     if (const auto* on = std::get_if<bool>(&value)) {
         text << (*on ? "true" : "false");

@@ -74,10 +74,21 @@ void detail::RaiseError(std::int32_t number, std::initializer_list<Variant> para
     Raise(Error(number, text, source, HelpFileName));
 }
 
-void detail::RaiseRuntimeError(dwRuntimeError number, const std::string& detail) {
+void detail::RaiseRuntimeError(dwRuntimeError number, const std::string& detail, std::string advice) {
     std::string text{RuntimeErrorText(number)};
     if (!detail.empty()) text += ": " + detail;
-    Raise(Error(number, text, {}, {}));
+    Error error(number, text, {}, {});
+    if (!advice.empty()) error.SetAdvice(std::move(advice));
+    Raise(error);
+}
+
+const std::string& Error::Advice() const noexcept {
+    static const std::string none;
+    return advice_ == nullptr ? none : *advice_;
+}
+
+void Error::SetAdvice(std::string advice) {
+    advice_ = std::make_shared<const std::string>(std::move(advice));
 }
 
 std::string ErrorNumberText(std::int32_t number) {

@@ -5,9 +5,11 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace draftwick {
 
@@ -42,7 +44,7 @@ enum dwRuntimeError : std::int32_t {
 };
 
 /// Every refusal of the library. What was refused changed nothing. Failures of the file system are not among
-/// them: these are std::system_error with the file's name in the text.
+/// them: these are FileError.
 class DRAFTWICK_API Error : public std::runtime_error {
 public:
     /// The last two are texts that live as long as the program: copying an exception must not fail.
@@ -56,11 +58,32 @@ public:
     std::string Source() const { return std::string{source_}; }
     /// "Draftwick.chm" for a dwErrCode, empty for a dwRuntimeError.
     std::string HelpFile() const { return std::string{helpFile_}; }
+    /// What was refused, by the names of the object model and with the limits in the document's unit, and what to do
+    /// about it: "Cell.Width 200 inches: -22.7556 to 22.7549 (ScaleMode is dwInches)".
+    const std::string& Advice() const noexcept;
+
+    // The rest is for the library.
+
+    void SetAdvice(std::string advice);
 
 private:
     std::int32_t number_;
     std::string_view source_;
     std::string_view helpFile_;
+    std::shared_ptr<const std::string> advice_;  // shared: copying must not fail
+};
+
+/// A file that cannot be created, written, read or deleted: what() has the name and what the system says.
+class DRAFTWICK_API FileError : public std::system_error {
+public:
+    FileError(std::error_code error, const std::string& what, const std::string& filename)
+        : std::system_error(error, what), filename_(std::make_shared<const std::string>(filename)) {}
+
+    /// The name, in the system's bytes. Empty for a stream.
+    const std::string& Filename() const noexcept { return *filename_; }
+
+private:
+    std::shared_ptr<const std::string> filename_;  // shared: copying must not fail
 };
 
 /// "X" and the message number for the library's own range of numbers (X109), any other number in decimal.
@@ -77,7 +100,8 @@ namespace detail {
                                            std::initializer_list<Variant> parameters = {});
 
 /// Raises Error for a run-time refusal: the number's own text, then what was wrong.
-[[noreturn]] DRAFTWICK_API void RaiseRuntimeError(dwRuntimeError number, const std::string& detail = {});
+[[noreturn]] DRAFTWICK_API void RaiseRuntimeError(dwRuntimeError number, const std::string& detail = {},
+                                                  std::string advice = {});
 
 /// Writes a description of the error to the event log when error logging is on.
 DRAFTWICK_API void LogError(const Error& error);

@@ -39,7 +39,9 @@ std::int16_t RoundToShort(double value) { return Fit<std::int16_t>(NearestEven(v
 std::int32_t RoundDown(double value) { return Fit<std::int32_t>(Floor(value)); }
 std::int16_t ToShort(std::int32_t value) { return Fit<std::int16_t>(value); }
 
-std::int32_t ToTwips(double value, dwScaleMode scale) {
+std::int32_t ToTwips(Measure length, dwScaleMode scale) {
+    const double value = length.Value();
+    if (length.TwipsPerUnit() != 0) return RoundHalfEven(value * length.TwipsPerUnit());
     switch (scale) {
     case dwInches: return RoundHalfEven(value * 1440.0);
     case dwTwips: return RoundHalfEven(value);

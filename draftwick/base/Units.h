@@ -14,6 +14,57 @@ enum dwScaleMode : std::int32_t {
     dwPoints = 3,  ///< 20 twips
 };
 
+/// A length that is given to a setter: a plain number is in the document's ScaleMode, one with a unit of its own
+/// (2.5_cm, 12_pt, 1_in) is that long whatever the ScaleMode says.
+class Measure {
+public:
+    /// In the document's ScaleMode.
+    constexpr Measure(double value) noexcept : value_(value) {}
+    /// In a unit of that many twips.
+    constexpr Measure(double value, double twipsPerUnit) noexcept
+        : value_(value), twipsPerUnit_(twipsPerUnit) {}
+
+    /// The number that was given.
+    constexpr double Value() const noexcept { return value_; }
+    /// How many twips the unit has; 0 for a plain number.
+    constexpr double TwipsPerUnit() const noexcept { return twipsPerUnit_; }
+
+    constexpr Measure operator-() const noexcept { return {-value_, twipsPerUnit_}; }
+    friend constexpr Measure operator*(Measure length, double factor) noexcept {
+        return {length.value_ * factor, length.twipsPerUnit_};
+    }
+    friend constexpr Measure operator*(double factor, Measure length) noexcept { return length * factor; }
+    friend constexpr Measure operator/(Measure length, double divisor) noexcept {
+        return {length.value_ / divisor, length.twipsPerUnit_};
+    }
+
+private:
+    double value_;
+    double twipsPerUnit_ = 0;
+};
+
+/// Lengths with their units.
+inline namespace literals {
+
+/// Inches.
+constexpr Measure operator""_in(long double length) { return {static_cast<double>(length), 1440}; }
+constexpr Measure operator""_in(unsigned long long length) { return {static_cast<double>(length), 1440}; }
+/// Centimetres.
+constexpr Measure operator""_cm(long double length) { return {static_cast<double>(length), 1440 / 2.54}; }
+constexpr Measure operator""_cm(unsigned long long length) {
+    return {static_cast<double>(length), 1440 / 2.54};
+}
+/// Millimetres.
+constexpr Measure operator""_mm(long double length) { return {static_cast<double>(length), 1440 / 25.4}; }
+constexpr Measure operator""_mm(unsigned long long length) {
+    return {static_cast<double>(length), 1440 / 25.4};
+}
+/// Points of 1/72 inch.
+constexpr Measure operator""_pt(long double length) { return {static_cast<double>(length), 20}; }
+constexpr Measure operator""_pt(unsigned long long length) { return {static_cast<double>(length), 20}; }
+
+}  // namespace literals
+
 /// @cond LIBRARY
 namespace detail {
 
@@ -28,7 +79,7 @@ DRAFTWICK_API std::int32_t RoundDown(double value);
 DRAFTWICK_API std::int16_t ToShort(std::int32_t value);
 
 /// A length in the given unit as whole twips, ties to even; 0 for an unknown unit.
-DRAFTWICK_API std::int32_t ToTwips(double value, dwScaleMode scale);
+DRAFTWICK_API std::int32_t ToTwips(Measure length, dwScaleMode scale);
 /// Whole twips as a length in the given unit; 0 for an unknown unit.
 DRAFTWICK_API double FromTwips(std::int32_t twips, dwScaleMode scale) noexcept;
 

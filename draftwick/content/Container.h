@@ -2,6 +2,8 @@
 
 #include <draftwick/model/Content.h>
 
+#include <string_view>
+
 namespace draftwick {
 
 class Frame;
@@ -15,8 +17,9 @@ public:
     using Content::Content;
 
     /// Adds a paragraph after everything that the container holds. Refuses once it is finished, with the name of its
-    /// class.
-    std::shared_ptr<Paragraph> AddParagraph();
+    /// class. A style is set as by SetStyleName, and dwErrItemNotFound adds nothing; a text is added as by AddTextItem,
+    /// so that the paragraph's settings are written.
+    std::shared_ptr<Paragraph> AddParagraph(std::string_view style = {}, std::string_view text = {});
 
     /// The paragraph that was added last; empty before the first.
     std::shared_ptr<Paragraph> CurrentParagraph() const { return currentParagraph_; }

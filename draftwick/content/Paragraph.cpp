@@ -3,6 +3,7 @@
 #include <draftwick/content/TextItem.h>
 #include <draftwick/content/internal/Writers.h>
 #include <draftwick/drawing/Shape.h>
+#include <draftwick/drawing/internal/OpenPicture.h>
 #include <draftwick/format/Styles.h>
 #include <draftwick/model/internal/Access.h>
 #include <draftwick/model/internal/ClassTable.h>
@@ -49,17 +50,69 @@ std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw
     return Add(currentTextItem_, text, raw);
 }
 
+void Paragraph::AddFirstText(std::string_view text) { AddFirst(currentTextItem_, text, false); }
+
 std::shared_ptr<Field> Paragraph::AddField(std::string_view code, std::string_view text) {
     return Add(currentField_, code, text);
 }
 
 std::shared_ptr<Shape> Paragraph::AddShape(dwShapeKind kind) {
+    CheckCanAddShape();
+    return Add(currentShape_, kind);
+}
+
+void Paragraph::CheckCanAddShape() const {
     Session();
     CheckNotFinished();
     if (dynamic_cast<Shape*>(&Holder()) != nullptr) {
         RaiseError(dwErrShapesCantContainShapes);
     }
-    return Add(currentShape_, kind);
+}
+
+void Paragraph::CheckCanAddPicture() const {
+    CheckCanAddShape();
+    if (Session().settings.spelling == dwSpellingStandard) return;
+    RaiseRuntimeError(
+        dwRunInvalidCall, "the classic spelling has no pictures in the line",
+        "Paragraph.AddPicture: readers show the data of such a picture as text; set Document.Spelling "
+        "to dwSpellingStandard, or use AddShape(dwSKPictureFrame)");
+}
+
+std::shared_ptr<Shape> Paragraph::AddPicture(std::string_view file, Measure width, Measure height) {
+    CheckCanAddPicture();
+    return AddInLine(std::make_shared<const OpenPicture>(Session(), std::string{file}), file, width, height);
+}
+
+std::shared_ptr<Shape> Paragraph::AddPictureData(std::string_view bytes, Measure width, Measure height) {
+    CheckCanAddPicture();
+    return AddInLine(OpenPicture::FromBytes(Session(), bytes), {}, width, height);
+}
+
+std::shared_ptr<Shape> Paragraph::AddInLine(std::shared_ptr<const OpenPicture> picture, std::string_view file,
+                                            Measure width, Measure height) {
+    const dwScaleMode scale = Session().settings.scaleMode;
+    const auto [ownWidth, ownHeight] = picture->SizeOr({0, 0});
+    Length wide{0}, high{0};
+    wide.Set(width, scale);
+    high.Set(height, scale);
+    const bool hasWidth = wide.Twips() != 0, hasHeight = high.Twips() != 0;
+    if (!hasWidth || !hasHeight) {
+        if (ownWidth == 0 || ownHeight == 0) {
+            RaiseRuntimeError(dwRunDivisionByZero, "the picture has no size that could be scaled",
+                              "Paragraph.AddPicture: give a width and a height");
+        }
+        if (hasWidth) {
+            high.Set(wide.Twips() * static_cast<double>(ownHeight) / ownWidth, dwTwips);
+        } else if (hasHeight) {
+            wide.Set(high.Twips() * static_cast<double>(ownWidth) / ownHeight, dwTwips);
+        } else {
+            wide.Set(ownWidth, dwTwips);
+            high.Set(ownHeight, dwTwips);
+        }
+    }
+    auto shape = Add(currentShape_, dwSKPictureFrame);
+    shape->ShowInLine(std::move(picture), file, wide, high);
+    return shape;
 }
 
 void Paragraph::WriteStart() {
@@ -103,6 +156,11 @@ const Class& Paragraph::Describe() {
             MethodOf<&P::AddField>("AddField",
                                    {{"Code", Variant{std::string{}}}, {"Text", Variant{std::string{}}}}),
             MethodOf<&P::AddFootnote>("AddFootnote", {{"IsEndnote", Variant{false}}}),
+            MethodOf<&P::AddPicture>(
+                "AddPicture", {{"File", Kind::Path}, {"Width", Variant{0.0}}, {"Height", Variant{0.0}}}),
+            MethodOf<&P::AddPictureData>(
+                "AddPictureData",
+                {{"Bytes", Kind::Bytes}, {"Width", Variant{0.0}}, {"Height", Variant{0.0}}}),
             MethodOf<&P::AddShape>("AddShape", {{"Kind"}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};

@@ -14,6 +14,10 @@
 
 namespace draftwick {
 
+namespace detail {
+class OpenPicture;
+}
+
 class Bookmark;
 class Field;
 class Footnote;
@@ -59,6 +63,14 @@ public:
     /// cells and notes of a text box there can be shapes.
     std::shared_ptr<Shape> AddShape(dwShapeKind kind);
 
+    /// Adds a picture to the text, in the line (RTF \pict): a picture frame whose InLine is set, with the picture of a
+    /// file or of bytes, as ShapeFill::SetPicture and SetPictureData take them. Without a width and a height it has its
+    /// own size; with one of them it keeps its proportion. A picture that is not found, of no known kind or damaged is
+    /// refused at once, as is one without a size of its own (error 11) unless both are given. Error 5 in the classic
+    /// spelling, whose in-line pictures readers show as text.
+    std::shared_ptr<Shape> AddPicture(std::string_view file, Measure width = 0, Measure height = 0);
+    std::shared_ptr<Shape> AddPictureData(std::string_view bytes, Measure width = 0, Measure height = 0);
+
     /// The children that were added last, by kind; empty before the first.
     std::shared_ptr<Bookmark> CurrentBookmark() const { return currentBookmark_; }
     std::shared_ptr<Field> CurrentField() const { return currentField_; }
@@ -73,10 +85,16 @@ protected:
     void WriteStart() override;
 
 private:
+    friend class Container;
     friend class Footnote;
     friend class Run;
     friend class Shape;
 
+    void AddFirstText(std::string_view text);
+    void CheckCanAddShape() const;
+    void CheckCanAddPicture() const;
+    std::shared_ptr<Shape> AddInLine(std::shared_ptr<const detail::OpenPicture> picture,
+                                     std::string_view file, Measure width, Measure height);
     bool StandsInCell() const { return Holder().StandsInCell(); }
 
     rule::Ref<ParagraphStyles> style_;

@@ -1,5 +1,6 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/Section.h>
+#include <draftwick/content/internal/Members.h>
 #include <draftwick/content/internal/Writers.h>
 #include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/model/internal/Session.h>
@@ -13,6 +14,11 @@ Section::Section(const Origin& origin) : RowContainer(origin), columns_(AsOwner(
     const DocumentSettings& document = Session().settings;
     values_.page = document.page;
     values_.orientation = dwOrientation{document.orientation};
+}
+
+void Section::SetPaperSize(dwPaperSize paper) {
+    OpenForChange();
+    values_.page.SetPaper(paper, values_.orientation, "Section.PaperSize");
 }
 
 void Section::SetOrientation(dwOrientation orientation) {
@@ -72,6 +78,7 @@ const Class& Section::Describe() {
             PropertyOf<&S::PageWidth, &S::SetPageWidth, &P::pageWidth>("PageWidth").DefaultDepends(),
             PropertyOf<&S::PageHeight, &S::SetPageHeight, &P::pageHeight>("PageHeight").DefaultDepends(),
             PropertyOf<&S::Gutter, &S::SetGutter, &P::gutter>("Gutter").DefaultDepends(),
+            PropertyOf<&S::PaperSize, &S::SetPaperSize>("PaperSize"),
             PropertyOf<&S::Orientation, &S::SetOrientation, &V::orientation>("Orientation").DefaultDepends(),
             PropertyOf<&S::Break, &S::SetBreak, &V::sectionBreak>("Break"),
             PropertyOf<&S::HeaderY, &S::SetHeaderY, &V::headerY>("HeaderY"),
@@ -99,7 +106,7 @@ const Class& Section::Describe() {
         },
         {
             MethodOf<&S::AddHeader>("AddHeader", {{"Kind"}}),
-            MethodOf<&S::AddParagraph>("AddParagraph"),
+            AddParagraphOf<S>(),
             MethodOf<&S::AddTable>("AddTable"),
         }};
     return description;

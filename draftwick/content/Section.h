@@ -66,21 +66,26 @@ public:
     /// From the edge of the page to the text, and the size of the paper. Default: the document's when the section was
     /// added.
     double MarginTop() const { return Read(values_.page.marginTop); }
-    void SetMarginTop(double length) { Change(values_.page.marginTop, length); }
+    void SetMarginTop(Measure length) { Change(values_.page.marginTop, length); }
     double MarginLeft() const { return Read(values_.page.marginLeft); }
-    void SetMarginLeft(double length) { Change(values_.page.marginLeft, length); }
+    void SetMarginLeft(Measure length) { Change(values_.page.marginLeft, length); }
     double MarginRight() const { return Read(values_.page.marginRight); }
-    void SetMarginRight(double length) { Change(values_.page.marginRight, length); }
+    void SetMarginRight(Measure length) { Change(values_.page.marginRight, length); }
     double MarginBottom() const { return Read(values_.page.marginBottom); }
-    void SetMarginBottom(double length) { Change(values_.page.marginBottom, length); }
+    void SetMarginBottom(Measure length) { Change(values_.page.marginBottom, length); }
     double PageWidth() const { return Read(values_.page.pageWidth); }
-    void SetPageWidth(double length) { Change(values_.page.pageWidth, length); }
+    void SetPageWidth(Measure length) { Change(values_.page.pageWidth, length); }
     double PageHeight() const { return Read(values_.page.pageHeight); }
-    void SetPageHeight(double length) { Change(values_.page.pageHeight, length); }
+    void SetPageHeight(Measure length) { Change(values_.page.pageHeight, length); }
     /// Room for binding, on the inner side of the page. Default: the document's when the section was added.
     double Gutter() const { return Read(values_.page.gutter); }
-    void SetGutter(double length) { Change(values_.page.gutter, length); }
+    void SetGutter(Measure length) { Change(values_.page.gutter, length); }
 
+    /// The paper that PageWidth and PageHeight are those of, in either orientation; dwPaperOther when there is none.
+    /// Setting it sets both, the way up that Orientation says. dwErrPropertyOutOfRange ("Section.PaperSize") for
+    /// dwPaperOther.
+    dwPaperSize PaperSize() const { return values_.page.Paper(); }
+    void SetPaperSize(dwPaperSize paper);
     /// A change swaps PageWidth and PageHeight. Default: the document's when the section was added.
     dwOrientation Orientation() const { return values_.orientation; }
     void SetOrientation(dwOrientation orientation);
@@ -91,10 +96,10 @@ public:
 
     /// From the edge of the page to the header. Default 720 twips.
     double HeaderY() const { return Read(values_.headerY); }
-    void SetHeaderY(double length) { Change(values_.headerY, length); }
+    void SetHeaderY(Measure length) { Change(values_.headerY, length); }
     /// From the edge of the page to the footer. Default 720 twips.
     double FooterY() const { return Read(values_.footerY); }
-    void SetFooterY(double length) { Change(values_.footerY, length); }
+    void SetFooterY(Measure length) { Change(values_.footerY, length); }
 
     /// Every how many lines a number stands, 16 bits. Default 1.
     std::int32_t LineNumberingInterval() const { return values_.lineNumberingInterval; }
@@ -112,7 +117,7 @@ public:
     void SetLineNumberingVisible(bool visible) { Change(values_.lineNumberingVisible, visible); }
     /// From the number to the text. Default 720 twips.
     double LineNumberingX() const { return Read(values_.lineNumberingX); }
-    void SetLineNumberingX(double length) { Change(values_.lineNumberingX, length); }
+    void SetLineNumberingX(Measure length) { Change(values_.lineNumberingX, length); }
 
     /// Default dwPNDecimal.
     dwPageNumberingFormat PageNumberingFormat() const { return values_.pageNumberingFormat; }

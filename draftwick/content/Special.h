@@ -48,7 +48,7 @@ public:
     static std::string_view LineBreak() { return "\\line"; }
     /// A line ended here where the document was last laid out (RTF \softline).
     static std::string_view LineBreakSoft() { return "\\softline"; }
-    /// A hyphen at which no line breaks (RTF \_).
+    /// A hyphen at which no line breaks (RTF: a backslash and an underscore).
     static std::string_view NonBreakingHyphen() { return "\\_"; }
     /// A space at which no line breaks (RTF \~).
     static std::string_view NonBreakingSpace() { return "\\~"; }

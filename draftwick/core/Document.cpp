@@ -13,6 +13,8 @@
 #include <draftwick/viewer/AutomationObject.h>
 #include <draftwick/viewer/internal/Viewer.h>
 
+#include <limits>
+#include <ostream>
 #include <utility>
 
 namespace draftwick {
@@ -54,6 +56,7 @@ void Document::Open() {
 
 Document::~Document() {
     detail::Session& session = *SharedSession();
+    if (settings_.discardOnRelease && !Finished()) inside_->files.Discard();
     session.writer.output.SetStream(nullptr);
     session.writer.names = nullptr;
     session.document = nullptr;
@@ -78,7 +81,67 @@ std::shared_ptr<Section> Document::AddSection() {
     return Add(currentSection_);
 }
 
-void Document::Finish() { Close(); }
+void Document::Finish() {
+    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    Close();
+}
+
+void Document::FinishTo(std::ostream& stream) {
+    const auto check = [&] {
+        if (!stream)
+            throw FileError(std::make_error_code(std::errc::io_error), "cannot write the stream", {});
+    };
+    FinishInto({.write =
+                    [&](std::string_view bytes) {
+                        stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+                        check();
+                    },
+                .end =
+                    [&] {
+                        stream.flush();
+                        check();
+                    }});
+}
+
+void Document::FinishTo(const Sink& sink) {
+    if (!sink)
+        RaiseRuntimeError(dwRunInvalidCall, "there is no function", "Document.FinishTo: give a function");
+    FinishInto({.write = sink, .end = {}});
+}
+
+void Document::FinishInto(const detail::Sink& sink) {
+    Session();
+    CheckNotFinished();
+    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    const auto self = Self();  // the sink may let the document go
+    struct Scope {
+        const detail::Sink*& sink;
+        ~Scope() { sink = nullptr; }
+    } const scope{sink_ = &sink};
+    Close();
+}
+
+void Document::Discard() {
+    detail::Session& session = *SharedSession();
+    if (Finished() || session.discarded) return;
+    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    session.discarded = true;
+    session.writer.output.SetStream(nullptr);
+    const std::error_code error = inside_->files.Discard();
+    if (error) RaiseFileError(error, "delete", inside_->files.BodyFileName());
+}
+
+void Document::SetDiscardOnRelease(bool on) {
+    Session();
+    CheckNotFinished();
+    settings_.discardOnRelease = on;
+}
+
+std::int32_t Document::LostCharacters() const {
+    const std::uint64_t lost = SharedSession()->writer.output.Lost() + inside_->files.LostInHeader();
+    constexpr std::int32_t Most = std::numeric_limits<std::int32_t>::max();
+    return lost < Most ? static_cast<std::int32_t>(lost) : Most;
+}
 
 void Document::WriteStart() {
     inside_->files.OpenBody(Session());
@@ -86,13 +149,23 @@ void Document::WriteStart() {
     WriteDocumentFormatting(Writer(), settings_);
 }
 
-void Document::WriteEnd() { inside_->files.AssembleOutputFile(Session()); }
+void Document::WriteEnd() {
+    if (sink_ != nullptr) {
+        inside_->files.AssembleInto(Session(), *sink_);
+    } else {
+        inside_->files.AssembleOutputFile(Session());
+    }
+}
 
 dwViewer Document::Preview(dwViewer program) { return RunViewer(program, false); }
 dwViewer Document::PrintOut(dwViewer program) { return RunViewer(program, true); }
 
 dwViewer Document::RunViewer(dwViewer program, bool printIt) {
     Finish();
+    if (inside_->files.FullFileName().empty()) {
+        RaiseRuntimeError(dwRunInvalidCall, "the document was finished into a stream",
+                          "Document.Preview: there is no file to show; call Finish in place of FinishTo");
+    }
     // Other programs have a current folder of their own.
     return inside_->viewer.RunViewer(OriginOfChild(), inside_->files.FullFileName(), program, printIt);
 }
@@ -108,6 +181,11 @@ std::string Document::DefaultFontName() const {
 void Document::SetDefaultFontName(std::string_view name) {
     OpenForChange();
     settings_.defaultFont.Set(*inside_->collections.fonts, name);
+}
+
+void Document::SetPaperSize(dwPaperSize paper) {
+    OpenForChange();
+    settings_.page.SetPaper(paper, settings_.orientation, "Document.PaperSize");
 }
 
 void Document::SetOrientation(dwOrientation orientation) {
@@ -138,6 +216,7 @@ const Class& Document::Describe() {
         "{BD7B1DD0-EAFD-4C2D-BD88-CD1EC9EA7B64}",
         {
             PropertyOf<&D::ActualFileName>("ActualFileName").As(Kind::Path),
+            PropertyOf<&D::LostCharacters>("LostCharacters"),
             PropertyOf<&D::ViewerApp>("ViewerApp").OrNothing(),
             PropertyOf<&D::ViewerTaskID>("ViewerTaskID"),
             PropertyOf<&D::VerMajor>("VerMajor"),
@@ -153,6 +232,9 @@ const Class& Document::Describe() {
             PropertyOf<&D::TextStyles>("TextStyles"),
             PropertyOf<&D::Filename, &D::SetFilename, &V::filename>("Filename").As(Kind::Path),
             PropertyOf<&D::TempPath, &D::SetTempPath, &V::tempPath>("TempPath").As(Kind::Path),
+            PropertyOf<&D::BodyInMemory, &D::SetBodyInMemory, &V::bodyInMemory>("BodyInMemory"),
+            PropertyOf<&D::DiscardOnRelease, &D::SetDiscardOnRelease, &V::discardOnRelease>(
+                "DiscardOnRelease"),
             PropertyOf<&D::ScaleMode, &D::SetScaleMode, &V::scaleMode>("ScaleMode"),
             PropertyOf<&D::Spelling, &D::SetSpelling, &V::spelling>("Spelling"),
             PropertyOf<&D::MarginTop, &D::SetMarginTop, &P::marginTop>("MarginTop"),
@@ -190,11 +272,13 @@ const Class& Document::Describe() {
             PropertyOf<&D::EndnoteRestart, &D::SetEndnoteRestart, &V::endnoteRestart>("EndnoteRestart"),
             PropertyOf<&D::FootnoteStartAt, &D::SetFootnoteStartAt, &V::footnoteStartAt>("FootnoteStartAt"),
             PropertyOf<&D::EndnoteStartAt, &D::SetEndnoteStartAt, &V::endnoteStartAt>("EndnoteStartAt"),
+            PropertyOf<&D::PaperSize, &D::SetPaperSize>("PaperSize"),
             PropertyOf<&D::Orientation, &D::SetOrientation, &V::orientation>("Orientation"),
             PropertyOf<&D::DefaultFontName, &D::SetDefaultFontName>("DefaultFontName"),
         },
         {
             MethodOf<&D::AddSection>("AddSection"),
+            MethodOf<&D::Discard>("Discard"),
             MethodOf<&D::Finish>("Finish"),
             MethodOf<&D::Preview>("Preview", {{"Program", dwViewerAuto}}),
             MethodOf<&D::PrintOut>("PrintOut", {{"Program", dwViewerAuto}}),

@@ -4,11 +4,17 @@
 #include <draftwick/model/DocumentSettings.h>
 #include <draftwick/viewer/ViewerKind.h>
 
+#include <functional>
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace draftwick {
+
+namespace detail {
+struct Sink;
+}  // namespace detail
 
 namespace platform {
 struct Platform;
@@ -30,13 +36,14 @@ class TextStyles;
 ///
 /// The host's reference keeps the document alive; once it is let go, everything that belonged to it refuses
 /// with error 91. A document that is let go without Finish leaves its temporary file behind, with the lines
-/// that were written so far. One document is for one thread; different documents can be used in different
+/// that were written so far, unless DiscardOnRelease is set. One document is for one thread; different documents can be used in different
 /// threads at the same time.
 class DRAFTWICK_API Document final : public detail::Content {
 public:
     /// A new document with the system's services.
     static std::shared_ptr<Document> Create();
-    /// A new document with the host's own services in place of the system's (draftwick/platform/Platform.h).
+    /// A new document with the host's own services in place of the system's (draftwick/platform/Platform.h). A service
+    /// that is empty is refused with error 5 by the call that needs it.
     static std::shared_ptr<Document> Create(platform::Platform services);
     ~Document() override;
 
@@ -55,6 +62,32 @@ public:
     /// permissions of new files, a symbolic link becomes a file, other hard links keep what they had. A device or a
     /// pipe is written to as it is. Nothing is promised about a system that stops: no file is forced to the disk.
     void Finish();
+
+    /// Takes the bytes of a file, one piece after the other. It fails by an exception, which FinishTo passes on.
+    using Sink = std::function<void(std::string_view bytes)>;
+    /// Finishes the document into a stream, in place of a file: ActualFileName stays empty and Filename does not count.
+    /// FileError when the stream fails: the document is then not finished, and a later Finish or FinishTo writes the
+    /// whole. Refuses on a document that is finished or is being finished ("Document").
+    void FinishTo(std::ostream& stream);
+    /// The same, with a function that takes the bytes.
+    void FinishTo(const Sink& sink);
+
+    /// Gives the document up: its temporary file is deleted, and everything that belongs to it refuses from then on
+    /// (dwErrTargetEmitted, "Document"). A finished document stays what it is, and a second call does nothing.
+    /// FileError when the file cannot be deleted; the document is given up nevertheless.
+    void Discard();
+    /// Whether a document that is let go unfinished is given up, as by Discard; else its temporary file stays, with
+    /// all that was written. Default false. Can be set until the document is finished.
+    bool DiscardOnRelease() const { return settings_.discardOnRelease; }
+    void SetDiscardOnRelease(bool on);
+    /// Whether the document is kept in memory in place of a temporary file until it is finished: for small documents, in
+    /// servers above all. Nothing is created in TempPath then, nor for pictures that must be converted. Default false.
+    bool BodyInMemory() const { return settings_.bodyInMemory; }
+    void SetBodyInMemory(bool on) { Change(settings_.bodyInMemory, on); }
+
+    /// How many characters of the host's texts the file could not hold, of what is written so far; "?" stands in their
+    /// place.
+    std::int32_t LostCharacters() const;
 
     /// Finishes the document and shows it in the viewer. Returns the one that was used.
     /// dwErrPropertyOutOfRange ("Viewer") for a number that is no dwViewer. dwErrNoViewer when no viewer is found.
@@ -106,25 +139,30 @@ public:
 
     /// From the edge of the page to the text. Default 720 twips each.
     double MarginTop() const { return Read(settings_.page.marginTop); }
-    void SetMarginTop(double length) { Change(settings_.page.marginTop, length); }
+    void SetMarginTop(Measure length) { Change(settings_.page.marginTop, length); }
     double MarginLeft() const { return Read(settings_.page.marginLeft); }
-    void SetMarginLeft(double length) { Change(settings_.page.marginLeft, length); }
+    void SetMarginLeft(Measure length) { Change(settings_.page.marginLeft, length); }
     double MarginRight() const { return Read(settings_.page.marginRight); }
-    void SetMarginRight(double length) { Change(settings_.page.marginRight, length); }
+    void SetMarginRight(Measure length) { Change(settings_.page.marginRight, length); }
     double MarginBottom() const { return Read(settings_.page.marginBottom); }
-    void SetMarginBottom(double length) { Change(settings_.page.marginBottom, length); }
+    void SetMarginBottom(Measure length) { Change(settings_.page.marginBottom, length); }
     /// Left and right margins change places on left pages.
     bool MarginMirror() const { return settings_.marginMirror; }
     void SetMarginMirror(bool on) { Change(settings_.marginMirror, on); }
     /// Room for binding. Default 0.
     double Gutter() const { return Read(settings_.page.gutter); }
-    void SetGutter(double length) { Change(settings_.page.gutter, length); }
+    void SetGutter(Measure length) { Change(settings_.page.gutter, length); }
     /// The width of the paper. Default 12240 twips (8.5 inches).
     double PageWidth() const { return Read(settings_.page.pageWidth); }
-    void SetPageWidth(double length) { Change(settings_.page.pageWidth, length); }
+    void SetPageWidth(Measure length) { Change(settings_.page.pageWidth, length); }
     /// The height of the paper. Default 15840 twips (11 inches).
     double PageHeight() const { return Read(settings_.page.pageHeight); }
-    void SetPageHeight(double length) { Change(settings_.page.pageHeight, length); }
+    void SetPageHeight(Measure length) { Change(settings_.page.pageHeight, length); }
+    /// The paper that PageWidth and PageHeight are those of, in either orientation; dwPaperOther when there is none.
+    /// Setting it sets both, the way up that Orientation says. dwErrPropertyOutOfRange ("Document.PaperSize") for
+    /// dwPaperOther.
+    dwPaperSize PaperSize() const { return settings_.page.Paper(); }
+    void SetPaperSize(dwPaperSize paper);
     /// A change swaps PageWidth and PageHeight. Default dwPortrait.
     dwOrientation Orientation() const { return settings_.orientation; }
     void SetOrientation(dwOrientation orientation);
@@ -144,7 +182,7 @@ public:
 
     /// The distance of the default tab stops. Default 720 twips.
     double TabWidth() const { return Read(settings_.tabWidth); }
-    void SetTabWidth(double length) { Change(settings_.tabWidth, length); }
+    void SetTabWidth(Measure length) { Change(settings_.tabWidth, length); }
     /// No single first or last lines of paragraphs on a page. Default true.
     bool WidowOrphanControl() const { return settings_.widowOrphanControl; }
     void SetWidowOrphanControl(bool on) { Change(settings_.widowOrphanControl, on); }
@@ -159,7 +197,7 @@ public:
     void SetHyphenConsecutiveLines(std::int32_t lines) { Change(settings_.hyphenConsecutiveLines, lines); }
     /// How much room a line may leave at its end before a word is hyphenated. Default 360 twips.
     double HyphenHotZone() const { return Read(settings_.hyphenHotZone); }
-    void SetHyphenHotZone(double length) { Change(settings_.hyphenHotZone, length); }
+    void SetHyphenHotZone(Measure length) { Change(settings_.hyphenHotZone, length); }
 
     // The reader's window.
 
@@ -221,6 +259,7 @@ protected:
 
 private:
     void Open();
+    void FinishInto(const detail::Sink& sink);
     dwViewer RunViewer(dwViewer program, bool printIt);
     void SetPath(std::string& field, std::string_view path);
 
@@ -229,6 +268,7 @@ private:
     detail::DocumentSettings& settings_;  // the session's
     std::unique_ptr<Inside> inside_;      // collections, files and viewer
     std::shared_ptr<Section> currentSection_;
+    const detail::Sink* sink_ = nullptr;  // while FinishTo runs
 };
 
 }  // namespace draftwick

@@ -1,7 +1,9 @@
 #include <draftwick/base/Error.h>
+#include <draftwick/base/internal/Required.h>
 #include <draftwick/core/internal/OutputFiles.h>
 #include <draftwick/core/internal/Writers.h>
 #include <draftwick/model/internal/Session.h>
+#include <draftwick/rtf/FileInMemory.h>
 #include <draftwick/rtf/UniqueFile.h>
 
 #include <string>
@@ -24,17 +26,15 @@ std::size_t FindExtension(const std::string& name) {
     return name[at] == '.' ? at : name.size();
 }
 
-std::unique_ptr<platform::File> Open(Session& session, const std::string& name) {
+std::unique_ptr<platform::File> Open(platform::FileSystem& files, const std::string& name) {
     std::error_code error;
-    auto file = session.platform.files->OpenForReading(name, error);
+    auto file = files.OpenForReading(name, error);
     if (file == nullptr) RaiseFileError(error, "read", name);
     return file;
 }
 
-void Delete(Session& session, const std::string& name) {
-    std::error_code error;
-    session.platform.files->Delete(name, error);
-    if (error && error != std::errc::no_such_file_or_directory) RaiseFileError(error, "delete", name);
+std::string TempFolder(const Session& session) {
+    return Required(session.platform.environment, "environment").TempFolder();
 }
 
 std::string FolderOf(platform::FileSystem& files, const std::string& name) {
@@ -94,7 +94,44 @@ private:
     BlockWriter* before_;
 };
 
+/// A sink as a file. What the sink throws is kept, and from then on it is left in peace.
+class SinkFile final : public platform::File {
+public:
+    SinkFile(const Sink& sink, std::exception_ptr& thrown) : sink_(sink), thrown_(thrown) {}
+
+    std::size_t Write(const char* bytes, std::size_t size, std::error_code& error) override {
+        return Try(error, [&] { sink_.write({bytes, size}); }) ? size : 0;
+    }
+    std::size_t Read(char*, std::size_t, std::error_code&) override { return 0; }
+    void Close(std::error_code& error) override {
+        Try(error, [&] {
+            if (sink_.end) sink_.end();
+        });
+    }
+
+private:
+    template <class Action>
+    bool Try(std::error_code& error, const Action& action) noexcept {
+        error.clear();
+        if (thrown_ == nullptr) {
+            try {
+                action();
+                return true;
+            } catch (...) {
+                thrown_ = std::current_exception();
+            }
+        }
+        error = std::make_error_code(std::errc::io_error);
+        return false;
+    }
+
+    const Sink& sink_;
+    std::exception_ptr& thrown_;
+};
+
 }  // namespace
+
+OutputFiles::OutputFiles() = default;
 
 OutputFiles::~OutputFiles() {
     try {
@@ -104,17 +141,28 @@ OutputFiles::~OutputFiles() {
 }
 
 void OutputFiles::OpenBody(Session& session) {
-    const std::string& chosen = session.settings.tempPath;
-    UniqueFile body = CreateUniqueFile(*session.platform.files,
-                                       chosen.empty() ? session.platform.environment->TempFolder() : chosen,
-                                       "~dw", ".tmp", platform::Creation::ExclusivePrivate);
-    std::string fullName = session.platform.files->FullName(body.name);
-    body_ = std::make_unique<BlockWriter>(std::move(body.file), std::move(body.name));
-    bodyFileName_ = std::move(fullName);
+    if (session.settings.bodyInMemory) {
+        memory_ = std::make_unique<FileInMemory>();
+        std::error_code none;
+        const std::string name = "(memory)";
+        body_ =
+            std::make_unique<BlockWriter>(memory_->Create(name, platform::Creation::Exclusive, none), name);
+        bodyFiles_ = memory_.get();
+        bodyFileName_ = name;
+    } else {
+        platform::FileSystem& files = Required(session.platform.files, "files");
+        const std::string& chosen = session.settings.tempPath;
+        UniqueFile body = CreateUniqueFile(files, chosen.empty() ? TempFolder(session) : chosen, "~dw",
+                                           ".tmp", platform::Creation::ExclusivePrivate);
+        std::string fullName = files.FullName(body.name);
+        body_ = std::make_unique<BlockWriter>(std::move(body.file), std::move(body.name));
+        bodyFiles_ = &files;
+        bodyFileName_ = std::move(fullName);
+    }
     session.writer.output.SetStream(body_.get());
 }
 
-void OutputFiles::AssembleOutputFile(Session& session) {
+void OutputFiles::EndBody(Session& session) {
     session.writer.output.Checkpoint();
     if (!ended_) {
         session.writer.CloseGroup();
@@ -123,20 +171,64 @@ void OutputFiles::AssembleOutputFile(Session& session) {
     }
     body_->Close();
     session.writer.output.SetStream(nullptr);
+}
+
+void OutputFiles::DeleteBody() {
+    std::error_code error;
+    bodyFiles_->Delete(bodyFileName_, error);
+    if (error && error != std::errc::no_such_file_or_directory)
+        RaiseFileError(error, "delete", bodyFileName_);
+}
+
+std::error_code OutputFiles::Discard() noexcept {
+    std::error_code error;
+    body_.reset();
+    if (bodyFiles_ == nullptr) return error;
+    bodyFiles_->Delete(bodyFileName_, error);
+    if (error == std::errc::no_such_file_or_directory) error.clear();
+    return error;
+}
+
+void OutputFiles::AssembleOutputFile(Session& session) {
+    EndBody(session);
     if (actualFileName_.empty()) {
         std::string name = CreateOutputFile(session);
-        fullFileName_ = session.platform.files->FullName(name);
+        fullFileName_ = Required(session.platform.files, "files").FullName(name);
         actualFileName_ = std::move(name);
     }
-    Delete(session, bodyFileName_);
+    DeleteBody();
+}
+
+void OutputFiles::AssembleInto(Session& session, const Sink& sink) {
+    EndBody(session);
+    RegisterHeaderColors(session.writer, session.settings);
+    // All of the header first: a host's code must not run while its tables are walked.
+    FileInMemory header;
+    std::error_code none;
+    BlockWriter memory(header.Create({}, platform::Creation::Exclusive, none), "(memory)");
+    WriteHeader(session, memory);
+    memory.Close();
+    std::exception_ptr thrown;
+    try {
+        const std::unique_ptr<platform::File> body = Open(*bodyFiles_, bodyFileName_);
+        BlockWriter output(std::make_unique<SinkFile>(sink, thrown), "(stream)");
+        output.Append(header.Bytes().data(), header.Bytes().size());
+        output.Checkpoint();
+        output.AppendFile(*body, bodyFileName_, body_->Written());
+        output.Close();
+    } catch (...) {
+        if (thrown != nullptr) std::rethrow_exception(thrown);
+        throw;
+    }
+    DeleteBody();
 }
 
 /// Returns its name.
 std::string OutputFiles::CreateOutputFile(Session& session) {
-    platform::FileSystem& files = *session.platform.files;
+    platform::FileSystem& files = Required(session.platform.files, "files");
     const std::string& name = session.settings.filename;
     const std::size_t extension = name.empty() ? 0 : FindExtension(name);
-    const std::unique_ptr<platform::File> body = Open(session, bodyFileName_);
+    const std::unique_ptr<platform::File> body = Open(*bodyFiles_, bodyFileName_);
     RegisterHeaderColors(session.writer, session.settings);
     if (!name.empty() && !files.CanReplace(name)) {
         std::error_code error;
@@ -146,8 +238,7 @@ std::string OutputFiles::CreateOutputFile(Session& session) {
         return name;
     }
     // The folder of a file that has no name yet is the environment's, not TempPath.
-    const std::string folder =
-        name.empty() ? session.platform.environment->TempFolder() : FolderOf(files, name);
+    const std::string folder = name.empty() ? TempFolder(session) : FolderOf(files, name);
     UniqueFile file = CreateTemporary(files, folder, name);
     try {
         // The host knows the file by the name that it gave.
@@ -161,11 +252,16 @@ std::string OutputFiles::CreateOutputFile(Session& session) {
     }
 }
 
+void OutputFiles::WriteHeader(Session& session, BlockWriter& output) {
+    const Redirection redirection(session.writer.output, &output);
+    const std::uint64_t before = session.writer.output.Lost();
+    EmitHeader(session.writer, session.settings);
+    lostInHeader_ = session.writer.output.Lost() - before;
+    session.writer.output.SetLost(before);  // the header can be written again
+}
+
 void OutputFiles::WriteOutput(Session& session, platform::File& body, BlockWriter output) {
-    {
-        const Redirection redirection(session.writer.output, &output);
-        EmitHeader(session.writer, session.settings);
-    }
+    WriteHeader(session, output);
     output.Checkpoint();
     output.AppendFile(body, bodyFileName_, body_->Written());
     output.Close();

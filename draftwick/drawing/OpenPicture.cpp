@@ -1,7 +1,10 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
+#include <draftwick/base/internal/Required.h>
 #include <draftwick/drawing/internal/OpenPicture.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/rtf/BlockWriter.h>
+#include <draftwick/rtf/FileInMemory.h>
 #include <draftwick/rtf/UniqueFile.h>
 
 #include <algorithm>
@@ -15,7 +18,9 @@ namespace {
 
 using platform::PictureKind;
 
-std::int32_t Percent(std::int32_t twips, std::int32_t himetric) {
+bool IsStandard(const Session& session) { return session.settings.spelling == dwSpellingStandard; }
+
+std::int32_t PercentOf(std::int32_t twips, std::int32_t himetric) {
     if (himetric == 0) RaiseRuntimeError(dwRunDivisionByZero, "the picture has no size that could be scaled");
     return RoundDown(static_cast<double>(TwipsToHimetric(twips)) / himetric * 100);
 }
@@ -28,7 +33,19 @@ bool StartsWith(std::string_view head, std::string_view signature, std::size_t a
     return head.size() >= at && head.substr(at).starts_with(signature);
 }
 
-/// What a file holds according to its first bytes; nothing for a metafile without a size, which has no signature.
+/// What bytes are according to the first of them; nothing for a metafile without a size, which has no signature.
+std::optional<PictureKind> PictureTypeFromHead(std::string_view head) {
+    if (StartsWith(head, "\xFF\xD8\xFF")) return PictureKind::Jpeg;
+    if (StartsWith(head, "\x89PNG\r\n\x1A\n")) return PictureKind::Png;
+    if (StartsWith(head, "GIF8")) return PictureKind::Gif;
+    if (StartsWith(head, "BM")) return PictureKind::Bmp;
+    if (StartsWith(head, std::string_view{"\x01\0\0\0", 4}) && StartsWith(head, " EMF", 40))
+        return PictureKind::Emf;
+    if (IsPlaceable({reinterpret_cast<const unsigned char*>(head.data()), head.size()}))
+        return PictureKind::Wmf;
+    return {};
+}
+
 std::optional<PictureKind> PictureTypeFromContent(platform::FileSystem& files, const std::string& fileName) {
     std::error_code error;
     const auto file = files.OpenForReading(fileName, error);
@@ -39,16 +56,17 @@ std::optional<PictureKind> PictureTypeFromContent(platform::FileSystem& files, c
         if (more == 0) break;
         size += more;
     }
-    const std::string_view head{bytes, error ? 0 : size};
-    if (StartsWith(head, "\xFF\xD8\xFF")) return PictureKind::Jpeg;
-    if (StartsWith(head, "\x89PNG\r\n\x1A\n")) return PictureKind::Png;
-    if (StartsWith(head, "GIF8")) return PictureKind::Gif;
-    if (StartsWith(head, "BM")) return PictureKind::Bmp;
-    if (StartsWith(head, std::string_view{"\x01\0\0\0", 4}) && StartsWith(head, " EMF", 40))
-        return PictureKind::Emf;
-    if (IsPlaceable({reinterpret_cast<const unsigned char*>(head.data()), head.size()}))
-        return PictureKind::Wmf;
-    return {};
+    return PictureTypeFromHead({bytes, error ? 0 : size});
+}
+
+/// What bytes without a name are. Metafiles without a size begin with their type, in memory or on disk, and the length
+/// of their header.
+std::optional<PictureKind> PictureTypeFromBytes(std::string_view bytes, bool standard) {
+    for (const char type : {'\1', '\2'}) {
+        if (StartsWith(bytes, std::string{type, '\0', '\x09', '\0'})) return PictureKind::Wmf;
+    }
+    const std::optional<PictureKind> kind = PictureTypeFromHead(bytes);
+    return kind == PictureKind::Png && !standard ? std::nullopt : kind;
 }
 
 /// What a file holds according to the end of its name; nothing when no picture has such a name. Classic knows small
@@ -76,47 +94,76 @@ bool detail::IsPlaceable(std::span<const unsigned char> bytes) {
     return bytes.size() >= sizeof Key && std::equal(std::begin(Key), std::end(Key), bytes.begin());
 }
 
-OpenPicture::OpenPicture(const platform::Platform& platform, const std::string& fileName, bool standard) {
-    platform::FileSystem& files = *platform.files;
+OpenPicture::OpenPicture(const Session& session, const std::string& fileName) {
+    platform::FileSystem& files = Required(session.platform.files, "files");
     if (!files.Exists(fileName)) RaiseError(dwErrPictureFileNotFound, {fileName});
+    const bool standard = IsStandard(session);
     std::optional<PictureKind> kind;
     if (standard) kind = PictureTypeFromContent(files, fileName);
     if (!kind) kind = PictureTypeFromName(fileName, standard);
     if (!kind) RaiseError(dwErrUnsupportedFileType, {fileName});
     kind_ = *kind;
+    Load(session.platform, files, fileName, session.settings.bodyInMemory);
+}
+
+std::shared_ptr<const OpenPicture> OpenPicture::FromBytes(const Session& session, std::string_view bytes) {
+    const std::string name = "(bytes)";
+    const std::optional<PictureKind> kind = PictureTypeFromBytes(bytes, IsStandard(session));
+    if (!kind) RaiseError(dwErrUnsupportedFileType, {name});
+    const std::shared_ptr<OpenPicture> picture(new OpenPicture);
+    picture->kind_ = *kind;
+    FileInMemory file{std::string{bytes}};
+    picture->Load(session.platform, file, name, true);
+    return picture;
+}
+
+void OpenPicture::Load(const platform::Platform& platform, platform::FileSystem& files,
+                       const std::string& name, bool inMemory) {
     std::error_code error;
-    const auto picture = platform.pictures->Load(files, fileName, kind_, error);
-    if (error == platform::PictureError::Unreadable) RaiseRuntimeError(dwRunInvalidPicture, fileName);
-    if (picture == nullptr) RaiseFileError(error, "read", fileName);
+    const auto picture = Required(platform.pictures, "pictures").Load(files, name, kind_, error);
+    if (error == platform::PictureError::Unreadable) RaiseRuntimeError(dwRunInvalidPicture, name);
+    if (picture == nullptr) RaiseFileError(error, "read", name);
     width_ = picture->Width();
     height_ = picture->Height();
     if (kind_ == PictureKind::Gif || kind_ == PictureKind::Bmp) {
-        Convert(platform, *picture);
+        Convert(platform, *picture, inMemory);
     } else {
-        Read(files, fileName);
+        Read(files, name);
     }
 }
 
-void OpenPicture::Convert(const platform::Platform& platform, const platform::Picture& picture) {
+void OpenPicture::Convert(const platform::Platform& platform, const platform::Picture& picture,
+                          bool inMemory) {
+    if (inMemory) {
+        FileInMemory metafile;
+        Record(*platform.pictures, picture, metafile, "(memory)");
+        return;
+    }
     platform::FileSystem& files = *platform.files;
     // The folder is the environment's, not the document's.
-    const std::string name = CreateUniqueFile(files, platform.environment->TempFolder(), "~DWGC", ".tmp",
-                                              platform::Creation::ExclusivePrivate)
-                                 .name;
+    const std::string name =
+        CreateUniqueFile(files, Required(platform.environment, "environment").TempFolder(), "~DWGC", ".tmp",
+                         platform::Creation::ExclusivePrivate)
+            .name;
     std::error_code ignored;
     try {
-        const double twipsPerPixel = platform.pictures->TwipsPerPixel();
-        std::error_code error;
-        platform.pictures->Record(picture, HimetricToPixels(width_, twipsPerPixel),
-                                  HimetricToPixels(height_, twipsPerPixel), files, name, error);
-        if (error) RaiseFileError(error, "write", name);
-        kind_ = PictureKind::Emf;
-        Read(files, name);
+        Record(*platform.pictures, picture, files, name);
     } catch (...) {
         files.Delete(name, ignored);
         throw;
     }
     files.Delete(name, ignored);
+}
+
+void OpenPicture::Record(platform::Pictures& service, const platform::Picture& picture,
+                         platform::FileSystem& files, const std::string& name) {
+    const double twipsPerPixel = service.TwipsPerPixel();
+    std::error_code error;
+    service.Record(picture, HimetricToPixels(width_, twipsPerPixel), HimetricToPixels(height_, twipsPerPixel),
+                   files, name, error);
+    if (error) RaiseFileError(error, "write", name);
+    kind_ = PictureKind::Emf;
+    Read(files, name);
 }
 
 void OpenPicture::Read(platform::FileSystem& files, const std::string& name) {
@@ -143,7 +190,7 @@ PictureSize OpenPicture::SizeOr(const PictureSize& other) const noexcept {
 
 std::optional<OpenPicture::Scale> OpenPicture::ScaleTo(std::int32_t width, std::int32_t height) const {
     if (width <= 0 || height <= 0) return {};
-    return Scale{Percent(width, width_), Percent(height, height_)};
+    return Scale{PercentOf(width, width_), PercentOf(height, height_)};
 }
 
 }  // namespace draftwick

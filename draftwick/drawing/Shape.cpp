@@ -1,4 +1,5 @@
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/content/internal/Members.h>
 #include <draftwick/drawing/Shape.h>
 #include <draftwick/drawing/internal/Writers.h>
 #include <draftwick/model/internal/Access.h>
@@ -42,6 +43,23 @@ std::shared_ptr<ShapeTextFormat> Shape::TextFormat() { return Share(textFormat_.
 std::shared_ptr<ShapeThreeD> Shape::ThreeD() { return Share(threeD_.Get(AsOwner())); }
 std::shared_ptr<ShapeWordArt> Shape::WordArt() { return Share(wordArt_.Get(AsOwner())); }
 
+void Shape::Remove() {
+    Session();
+    Withdraw();
+    const auto self = Self();
+    Holder().currentShape_.reset();
+}
+
+void Shape::ShowInLine(std::shared_ptr<const OpenPicture> picture, std::string_view file, Length width,
+                       Length height) {
+    ShapeFill& fill = fill_.Get(AsOwner());
+    fill.values_.picture = file;
+    fill.values_.pictureData = std::move(picture);
+    values_.inLine = true;
+    values_.width = width;
+    values_.height = height;
+}
+
 ShapeSettings Shape::Settings() const {
     return {.index = index_,
             .shape = values_,
@@ -67,7 +85,7 @@ void Shape::WriteRowMark() {
 
 void Shape::WriteStart() {
     const ShapeSettings settings = Settings();
-    ShapePictures pictures = OpenPictures(Writer(), Session().platform, settings);
+    ShapePictures pictures = OpenPictures(Session(), settings);
     Writer().EnterStory();
     EmitShapeStart(Writer(), settings, pictures);
     if (settings.IsInlinePicture()) inlinePicture_ = std::move(pictures.fill);
@@ -129,8 +147,9 @@ const Class& Shape::Describe() {
             PropertyOf<&S::WordArt>("WordArt"),
         },
         {
-            MethodOf<&S::AddParagraph>("AddParagraph"),
+            AddParagraphOf<S>(),
             MethodOf<&S::AddTable>("AddTable"),
+            MethodOf<&S::Remove>("Remove"),
         }};
     return description;
 }

@@ -96,14 +96,14 @@ public:
 
     /// From the references to the shape. Default 0.
     double Top() const { return Read(values_.top); }
-    void SetTop(double length) { Change(values_.top, length); }
+    void SetTop(Measure length) { Change(values_.top, length); }
     double Left() const { return Read(values_.left); }
-    void SetLeft(double length) { Change(values_.left, length); }
+    void SetLeft(Measure length) { Change(values_.left, length); }
     /// How wide and how high it is. Default 1440 twips.
     double Width() const { return Read(values_.width); }
-    void SetWidth(double length) { Change(values_.width, length); }
+    void SetWidth(Measure length) { Change(values_.width, length); }
     double Height() const { return Read(values_.height); }
-    void SetHeight(double length) { Change(values_.height, length); }
+    void SetHeight(Measure length) { Change(values_.height, length); }
     /// Default dwSRXMargin.
     dwShapeReferenceX ReferenceX() const { return values_.referenceX; }
     void SetReferenceX(dwShapeReferenceX reference) { Change(values_.referenceX, reference); }
@@ -122,13 +122,13 @@ public:
     void SetWrapSides(dwShapeWrapSides sides) { Change(values_.wrapSides, sides); }
     /// From the shape to the text around it. Default 0.
     double WrapTop() const { return Read(values_.wrapTop); }
-    void SetWrapTop(double length) { Change(values_.wrapTop, length); }
+    void SetWrapTop(Measure length) { Change(values_.wrapTop, length); }
     double WrapLeft() const { return Read(values_.wrapLeft); }
-    void SetWrapLeft(double length) { Change(values_.wrapLeft, length); }
+    void SetWrapLeft(Measure length) { Change(values_.wrapLeft, length); }
     double WrapRight() const { return Read(values_.wrapRight); }
-    void SetWrapRight(double length) { Change(values_.wrapRight, length); }
+    void SetWrapRight(Measure length) { Change(values_.wrapRight, length); }
     double WrapBottom() const { return Read(values_.wrapBottom); }
-    void SetWrapBottom(double length) { Change(values_.wrapBottom, length); }
+    void SetWrapBottom(Measure length) { Change(values_.wrapBottom, length); }
     /// Default false: in front of it.
     bool BehindText() const { return values_.behindText; }
     void SetBehindText(bool on) { Change(values_.behindText, on); }
@@ -163,6 +163,10 @@ public:
     std::shared_ptr<ShapeThreeD> ThreeD();
     std::shared_ptr<ShapeWordArt> WordArt();
 
+    /// Takes the shape out of its paragraph as long as it is not written, for example because its picture is refused.
+    /// From then on it refuses ("Shape"), as it does when it is written already.
+    void Remove();
+
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
@@ -174,7 +178,10 @@ protected:
 
 private:
     friend struct detail::Access;
+    friend class Paragraph;
 
+    void ShowInLine(std::shared_ptr<const detail::OpenPicture> picture, std::string_view file,
+                    rule::Length width, rule::Length height);
     detail::ShapeSettings Settings() const;
 
     std::int32_t index_;
@@ -185,7 +192,7 @@ private:
     detail::Lazy<ShapeTextFormat> textFormat_;
     detail::Lazy<ShapeThreeD> threeD_;
     detail::Lazy<ShapeWordArt> wordArt_;
-    std::unique_ptr<detail::OpenPicture> inlinePicture_;  // from the first half to the second
+    std::shared_ptr<const detail::OpenPicture> inlinePicture_;  // from the first half to the second
 };
 
 }  // namespace draftwick

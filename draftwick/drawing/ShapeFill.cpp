@@ -1,6 +1,8 @@
 #include <draftwick/drawing/ShapeFill.h>
+#include <draftwick/drawing/internal/OpenPicture.h>
 #include <draftwick/drawing/internal/ShadeArray.h>
 #include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
 
@@ -14,6 +16,13 @@ void ShapeFill::SetShadeArray(std::string_view colors) {
 void ShapeFill::SetPicture(std::string_view fileName) {
     OpenForChange();
     values_.picture = fileName;
+    values_.pictureData.reset();
+}
+
+void ShapeFill::SetPictureData(std::string_view bytes) {
+    OpenForChange();
+    values_.pictureData = bytes.empty() ? nullptr : OpenPicture::FromBytes(Session(), bytes);
+    values_.picture.clear();
 }
 
 const Class& ShapeFill::Describe() {
@@ -37,6 +46,7 @@ const Class& ShapeFill::Describe() {
             PropertyOf<&F::ShadeToBottom, &F::SetShadeToBottom, &V::shadeToBottom>("ShadeToBottom"),
             PropertyOf<&F::ShadeArray, &F::SetShadeArray>("ShadeArray"),
             PropertyOf<&F::Picture, &F::SetPicture, &V::picture>("Picture").As(Kind::Path),
+            WriteOnlyPropertyOf<&F::SetPictureData>("PictureData").As(Kind::Bytes),
         },
         {}};
     return description;

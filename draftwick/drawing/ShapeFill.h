@@ -2,10 +2,15 @@
 
 #include <draftwick/model/Object.h>
 
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace draftwick {
+
+namespace detail {
+class OpenPicture;
+}
 
 /// How the inside of a shape is painted.
 enum dwShapeFillStyle : std::int32_t {
@@ -36,6 +41,7 @@ public:
         rule::Percent shadeToBottom{0};
         std::string shadeArray;
         std::string picture;
+        std::shared_ptr<const detail::OpenPicture> pictureData{};
     };
 
     using Part::Part;
@@ -88,12 +94,16 @@ public:
     /// written, see Shape.
     const std::string& Picture() const { return values_.picture; }
     void SetPicture(std::string_view fileName);
+    /// The bytes of such a file, in place of Picture: what they are is told by the first of them. Empty for none. Read at
+    /// once: dwErrUnsupportedFileType when they begin as no picture does, error 481 when they are damaged.
+    void SetPictureData(std::string_view bytes);
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
 private:
     friend struct detail::Access;
+    friend class Shape;
 
     Values values_;
 };

@@ -42,14 +42,14 @@ public:
 
     /// From the shape to its shadow, to the right and down. Default 45 twips.
     double OffsetX() const { return Read(values_.offsetX); }
-    void SetOffsetX(double length) { Change(values_.offsetX, length); }
+    void SetOffsetX(Measure length) { Change(values_.offsetX, length); }
     double OffsetY() const { return Read(values_.offsetY); }
-    void SetOffsetY(double length) { Change(values_.offsetY, length); }
+    void SetOffsetY(Measure length) { Change(values_.offsetY, length); }
     /// The same for the second shadow. Default -45 twips.
     double OffsetX2() const { return Read(values_.offsetX2); }
-    void SetOffsetX2(double length) { Change(values_.offsetX2, length); }
+    void SetOffsetX2(Measure length) { Change(values_.offsetX2, length); }
     double OffsetY2() const { return Read(values_.offsetY2); }
-    void SetOffsetY2(double length) { Change(values_.offsetY2, length); }
+    void SetOffsetY2(Measure length) { Change(values_.offsetY2, length); }
 
     /// Percent from 0 to 100, which is not checked. Default 100. Error 6 when it is not finite or does not fit 32 bits as
     /// a number of 65536ths.

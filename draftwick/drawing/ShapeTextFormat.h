@@ -23,13 +23,13 @@ public:
 
     /// From the edge of the shape to its text. Default 72 twips above and below, 144 on the left and on the right.
     double SpacingTop() const { return Read(values_.spacingTop); }
-    void SetSpacingTop(double length) { Change(values_.spacingTop, length); }
+    void SetSpacingTop(Measure length) { Change(values_.spacingTop, length); }
     double SpacingBottom() const { return Read(values_.spacingBottom); }
-    void SetSpacingBottom(double length) { Change(values_.spacingBottom, length); }
+    void SetSpacingBottom(Measure length) { Change(values_.spacingBottom, length); }
     double SpacingLeft() const { return Read(values_.spacingLeft); }
-    void SetSpacingLeft(double length) { Change(values_.spacingLeft, length); }
+    void SetSpacingLeft(Measure length) { Change(values_.spacingLeft, length); }
     double SpacingRight() const { return Read(values_.spacingRight); }
-    void SetSpacingRight(double length) { Change(values_.spacingRight, length); }
+    void SetSpacingRight(Measure length) { Change(values_.spacingRight, length); }
 
     /// Default dwSTFHorizontal. Not checked: a value outside of the enumeration is written as none.
     dwShapeTextFlow Flow() const { return values_.flow; }

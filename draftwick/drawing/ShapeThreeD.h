@@ -59,10 +59,10 @@ public:
 
     /// From the shape backward. Default 720 twips.
     double Depth() const { return Read(values_.depth); }
-    void SetDepth(double length) { Change(values_.depth, length); }
+    void SetDepth(Measure length) { Change(values_.depth, length); }
     /// From the shape forward. Default 0.
     double DepthForward() const { return Read(values_.depthForward); }
-    void SetDepthForward(double length) { Change(values_.depthForward, length); }
+    void SetDepthForward(Measure length) { Change(values_.depthForward, length); }
 
     // The surface.
 

@@ -110,21 +110,22 @@ std::optional<OpenPicture::Scale> ScaleOf(const ShapeSettings& settings, const O
 
 }  // namespace
 
-ShapePictures OpenPictures(const RtfWriter& writer, const platform::Platform& platform,
-                           const ShapeSettings& settings) {
+ShapePictures OpenPictures(const Session& session, const ShapeSettings& settings) {
     const ShapeFill::Values& fill = settings.fill;
     const ShapeLine::Values& line = settings.line;
     const auto open = [&](const std::string& name) {
-        return std::make_unique<OpenPicture>(platform, name, writer.Standard());
+        return std::make_shared<const OpenPicture>(session, name);
     };
     ShapePictures pictures;
     if (settings.IsPictureFrame()) {
-        pictures.fill = open(fill.picture);
+        pictures.fill = fill.pictureData != nullptr ? fill.pictureData : open(fill.picture);
         if (settings.IsInlinePicture()) ScaleOf(settings, *pictures.fill);
         return pictures;
     }
-    const bool fillsWithPicture = fill.style >= dwSFSPattern && fill.style <= dwSFSPicStretch;
-    if (fillsWithPicture && !fill.picture.empty()) pictures.fill = open(fill.picture);
+    if (fill.style >= dwSFSPattern && fill.style <= dwSFSPicStretch) {
+        pictures.fill = fill.pictureData;
+        if (pictures.fill == nullptr && !fill.picture.empty()) pictures.fill = open(fill.picture);
+    }
     if (line.texture != dwSLTNone && !line.picture.empty()) pictures.line = open(line.picture);
     return pictures;
 }

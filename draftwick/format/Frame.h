@@ -73,19 +73,19 @@ public:
 
     /// From the left of the reference, for dwFAXNone. Default 0.
     double Left() const { return Read(values_.left); }
-    void SetLeft(double length) { Change(values_.left, length); }
+    void SetLeft(Measure length) { Change(values_.left, length); }
 
     /// From the top of the reference, for dwFAYNone. Default 0.
     double Top() const { return Read(values_.top); }
-    void SetTop(double length) { Change(values_.top, length); }
+    void SetTop(Measure length) { Change(values_.top, length); }
 
     /// Default 0: as wide as its content needs.
     double Width() const { return Read(values_.width); }
-    void SetWidth(double length) { Change(values_.width, length); }
+    void SetWidth(Measure length) { Change(values_.width, length); }
 
     /// The least height, or with HeightExactly the height. Default 0: as high as its content.
     double Height() const { return Read(values_.height); }
-    void SetHeight(double length) { Change(values_.height, length); }
+    void SetHeight(Measure length) { Change(values_.height, length); }
 
     /// Whether Height is the height of the frame, not the least height. Default false.
     bool HeightExactly() const { return values_.heightExactly; }
@@ -93,11 +93,11 @@ public:
 
     /// From the frame to the text around it, left and right. Default 0.
     double SpacingX() const { return Read(values_.spacingX); }
-    void SetSpacingX(double length) { Change(values_.spacingX, length); }
+    void SetSpacingX(Measure length) { Change(values_.spacingX, length); }
 
     /// From the frame to the text around it, above and below. Default 0.
     double SpacingY() const { return Read(values_.spacingY); }
-    void SetSpacingY(double length) { Change(values_.spacingY, length); }
+    void SetSpacingY(Measure length) { Change(values_.spacingY, length); }
 
     /// An editor does not let the frame move to another paragraph. Default false.
     bool LockAnchor() const { return values_.lockAnchor; }

@@ -75,7 +75,7 @@ public:
     /// Where the text begins after dwLNFTab (RTF \jclisttab\tx). Length of 16 bits in twips, default 360 twips. The
     /// indents are those of the paragraph.
     double TabPosition() const { return Read(values_.tabPosition); }
-    void SetTabPosition(double length) { Change(values_.tabPosition, length); }
+    void SetTabPosition(Measure length) { Change(values_.tabPosition, length); }
 
     /// The look of the number.
     std::shared_ptr<draftwick::FontFormat> FontFormat();

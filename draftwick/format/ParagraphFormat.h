@@ -58,15 +58,15 @@ public:
 
     /// Of the first line, from IndentLeft; negative to the left (RTF \fi). Length of 16 bits in twips, default 0.
     double IndentFirst() const { return Read(values_.indentFirst); }
-    void SetIndentFirst(double length) { Change(values_.indentFirst, length); }
+    void SetIndentFirst(Measure length) { Change(values_.indentFirst, length); }
 
     /// From the left margin (RTF \li). Length of 16 bits in twips, default 0.
     double IndentLeft() const { return Read(values_.indentLeft); }
-    void SetIndentLeft(double length) { Change(values_.indentLeft, length); }
+    void SetIndentLeft(Measure length) { Change(values_.indentLeft, length); }
 
     /// From the right margin (RTF \ri). Length of 16 bits in twips, default 0.
     double IndentRight() const { return Read(values_.indentRight); }
-    void SetIndentRight(double length) { Change(values_.indentRight, length); }
+    void SetIndentRight(Measure length) { Change(values_.indentRight, length); }
 
     /// Points; written in twips, rounded down (RTF \sb). Default 0. Error 6 when these do not fit 32 bits.
     double SpaceBefore() const { return values_.spaceBefore; }

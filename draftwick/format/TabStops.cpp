@@ -7,14 +7,15 @@
 
 namespace draftwick {
 
-std::shared_ptr<TabStop> TabStops::Add(double position, dwTabAlign align, dwTabLeader leader) {
+std::shared_ptr<TabStop> TabStops::Add(Measure position, dwTabAlign align, dwTabLeader leader) {
     const dwScaleMode scale = OpenForChange();
     CheckRange(align, dwTabLeft, dwTabBar, "TabStops.Add.Align");
     CheckRange(leader, dwTabLeaderNone, dwTabLeaderUnderline, "TabStops.Add.Leader");
     TabStop::Values values{.align = align, .leader = leader};
     // What is too large for single precision has no defined value there; it fits no length either.
-    const bool fits = std::abs(position) <= std::numeric_limits<float>::max();
-    values.position.Set(fits ? static_cast<float>(position) : position, scale);
+    const double number = position.Value();
+    const bool fits = std::abs(number) <= std::numeric_limits<float>::max();
+    values.position.Set({fits ? static_cast<float>(number) : number, position.TwipsPerUnit()}, scale);
     stops_.push_back(MakeStop(values));
     return stops_.back();
 }
@@ -63,8 +64,7 @@ const Class& TabStops::Describe() {
          {PropertyOf<&T::Count>("Count")},
          {
              MethodOf<&T::Items>("Items", {{"Index"}}),
-             MethodOf<&T::Add>(
-                 "Add", {{"Position", Kind::Length}, {"Align", Variant{dwTabLeft}}, {"Leader", Variant{0}}}),
+             MethodOf<&T::Add>("Add", {{"Position"}, {"Align", Variant{dwTabLeft}}, {"Leader", Variant{0}}}),
              MethodOf<&T::Clear>("Clear"),
          }});
     return description;

@@ -55,7 +55,7 @@ public:
     /// Adds a tab stop. The position is a length of 16 bits in twips, taken in single precision. Refuses when the
     /// owner refuses; dwErrPropertyOutOfRange with "TabStops.Add.Align" or "TabStops.Add.Leader". The leader has
     /// no default: it must be given, as dwTabLeaderNone for none.
-    std::shared_ptr<TabStop> Add(double position, dwTabAlign align = dwTabLeft,
+    std::shared_ptr<TabStop> Add(Measure position, dwTabAlign align = dwTabLeft,
                                  dwTabLeader leader = static_cast<dwTabLeader>(0));
     /// Removes all tab stops. Refuses as Add does.
     void Clear();

@@ -186,4 +186,13 @@ std::string_view FromVariant(const Variant& value) {
     RaiseWrongKind("a text");
 }
 
+std::shared_ptr<Object> detail::ObjectFromVariant(const Variant& value, const Class& wanted) {
+    if (std::holds_alternative<std::monostate>(value)) return nullptr;
+    const auto* object = std::get_if<std::shared_ptr<Object>>(&value);
+    if (object == nullptr || *object == nullptr || &(*object)->Description() != &wanted) {
+        RaiseWrongKind("an object of the class " + std::string{wanted.name});
+    }
+    return *object;
+}
+
 }  // namespace draftwick

@@ -27,6 +27,7 @@ enum class Kind {
     Value,   ///< nothing, a Boolean, a number, a real number, a text or a date
     Object,  ///< of the class that the type has; of any class when it has none
     Any,     ///< whatever a Variant can hold
+    Bytes,   ///< of a file's content: a text that need not be UTF-8
 };
 
 /// The type of a property, of an argument or of what a method gives. There is one object for each type: types are the

@@ -34,10 +34,21 @@ void Content::CloseCurrentChild() {
     open_ = nullptr;
 }
 
+void Content::Withdraw() {
+    CheckNotEmitted();
+    holder_->open_ = nullptr;
+    emitted_ = finished_ = true;
+}
+
+void Content::CheckDepth(int levels) const {
+    if (depth_ + levels > MaxDepth)
+        RaiseRuntimeError(dwRunOutOfStackSpace, "the objects lie too deep in each other");
+}
+
 void Content::PrepareAdd() {
     RtfWriter& writer = Writer();
     CheckNotFinished();
-    if (depth_ == MaxDepth) RaiseRuntimeError(dwRunOutOfStackSpace, "the objects lie too deep in each other");
+    CheckDepth(1);
     Emit();
     CloseCurrentChild();
     writer.output.Checkpoint();

@@ -42,6 +42,8 @@ protected:
     /// Finishes the object, once: writes what is still open of it, then its end.
     void Close();
     void CloseCurrentChild();
+    /// Takes the object out of what it was added to, as long as nothing of it is written: it is closed without a trace.
+    void Withdraw();
     /// dwErrTargetEmitted with the class's name once the object is finished.
     void CheckNotFinished() const;
 
@@ -51,17 +53,30 @@ protected:
     template <class Child, class... Arguments>
     std::shared_ptr<Child> Add(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
         PrepareAdd();
+        return Hold(slot, std::forward<Arguments>(arguments)...);
+    }
+    /// The first child of an object that was added just now, in the same call: a failure of the file is reported by the
+    /// next.
+    template <class Child, class... Arguments>
+    std::shared_ptr<Child> AddFirst(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
+        Emit();
+        return Hold(slot, std::forward<Arguments>(arguments)...);
+    }
+    /// Refuses an addition that would bring objects that many levels deeper than this one.
+    void CheckDepth(int levels) const;
+
+private:
+    template <class HolderType, class Base>
+    friend class HeldBy;
+
+    template <class Child, class... Arguments>
+    std::shared_ptr<Child> Hold(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
         slot = std::make_shared<Child>(Node::OriginOfChild(), std::forward<Arguments>(arguments)...);
         open_ = slot.get();
         open_->holder_ = this;
         open_->depth_ = depth_ + 1;
         return slot;
     }
-
-private:
-    template <class HolderType, class Base>
-    friend class HeldBy;
-
     void PrepareAdd();
 
     Content* holder_ = nullptr;

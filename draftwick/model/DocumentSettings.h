@@ -4,6 +4,7 @@
 #include <draftwick/model/Rules.h>
 
 #include <string>
+#include <string_view>
 
 namespace draftwick {
 
@@ -20,6 +21,24 @@ enum dwSpelling : std::int32_t {
 
 /// Which side of the paper is up.
 enum dwOrientation : std::int32_t { dwPortrait = 1, dwLandscape = 2 };
+
+/// Sizes of paper, as PaperSize sets and finds them.
+enum dwPaperSize : std::int32_t {
+    dwPaperOther = 0,        ///< none of those below
+    dwPaperLetter = 1,       ///< 8.5 x 11 inches
+    dwPaperLegal = 2,        ///< 8.5 x 14 inches
+    dwPaperTabloid = 3,      ///< 11 x 17 inches
+    dwPaperExecutive = 4,    ///< 7.25 x 10.5 inches
+    dwPaperA3 = 5,           ///< 297 x 420 mm
+    dwPaperA4 = 6,           ///< 210 x 297 mm
+    dwPaperA5 = 7,           ///< 148 x 210 mm
+    dwPaperA6 = 8,           ///< 105 x 148 mm
+    dwPaperB4 = 9,           ///< 250 x 353 mm
+    dwPaperB5 = 10,          ///< 176 x 250 mm
+    dwPaperEnvelopeDL = 11,  ///< 110 x 220 mm
+    dwPaperEnvelopeC5 = 12,  ///< 162 x 229 mm
+    dwPaperEnvelope10 = 13,  ///< 4.125 x 9.5 inches
+};
 
 /// The view in which a reader is asked to open the document (RTF \viewkind).
 enum dwViewKind : std::int32_t {
@@ -64,6 +83,11 @@ struct PageSetup {
     rule::Length pageWidth{12240};
     rule::Length pageHeight{15840};
     rule::Length gutter{0};
+
+    /// The paper that has this width and height, whichever way up it lies.
+    dwPaperSize Paper() const noexcept;
+    /// Takes the size of a paper. dwErrPropertyOutOfRange with the name for what is none.
+    void SetPaper(dwPaperSize paper, dwOrientation orientation, std::string_view name);
 };
 
 /// The settings of a document, as they are stored.
@@ -91,6 +115,8 @@ struct DocumentSettings {
     bool widowOrphanControl = true;
     std::string filename;
     std::string tempPath;
+    bool bodyInMemory = false;
+    bool discardOnRelease = false;
     rule::Choice<"FootnoteFormat", dwFFDecimal, dwFFRomanUpper> footnoteFormat{dwFFDecimal};
     rule::Choice<"EndnoteFormat", dwFFDecimal, dwFFRomanUpper> endnoteFormat{dwFFDecimal};
     rule::Choice<"FootnoteLocation", dwFLBeneathText, dwFLBottomOfPage> footnoteLocation{dwFLBottomOfPage};

@@ -23,6 +23,7 @@ std::shared_ptr<draftwick::Document> Object::Document() const {
 
 detail::Session& Object::Session() const {
     if (session_ == nullptr || session_->document == nullptr) RaiseRuntimeError(dwRunObjectGone);
+    if (session_->discarded) RaiseError(dwErrTargetEmitted, {"Document"});
     return *session_;
 }
 

@@ -95,7 +95,8 @@ protected:
 
     /// Raises dwErrTargetEmitted once the object is written and can no longer change.
     virtual void CheckNotEmitted() const = 0;
-    /// What the objects of one document share. Error 91 when the document is gone.
+    /// What the objects of one document share. Error 91 when the document is gone, dwErrTargetEmitted ("Document") when
+    /// it was given up.
     detail::Session& Session() const;
     virtual const std::shared_ptr<detail::Session>& SharedSession() const noexcept = 0;
     /// What a new object that belongs to this one is told.

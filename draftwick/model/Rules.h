@@ -88,7 +88,7 @@ class Length {
 public:
     constexpr Length(std::int16_t twips) noexcept : twips_(twips) {}
     constexpr std::int32_t Twips() const noexcept { return twips_; }
-    void Set(double value, dwScaleMode scale) { twips_ = ToShort(ToTwips(value, scale)); }
+    void Set(Measure length, dwScaleMode scale) { twips_ = ToShort(ToTwips(length, scale)); }
     bool operator==(const Length&) const = default;
 
 private:

@@ -15,14 +15,14 @@
 namespace draftwick::platform {
 
 /// The services of the system that a document uses. A host can put its own in their place, for example files
-/// that live in memory; every service must be set.
+/// that live in memory. One that is empty is refused by the call that needs it.
 struct Platform {
-    std::shared_ptr<FileSystem> files;         ///< all files of documents and pictures
-    std::shared_ptr<Environment> environment;  ///< where temporary files go
-    std::shared_ptr<Pictures> pictures;        ///< how pictures are read and converted
-    std::shared_ptr<RegistryStore> registry;   ///< where viewers are looked up
-    std::shared_ptr<Automation> automation;    ///< for Preview and PrintOut
-    std::shared_ptr<Programs> programs;        ///< likewise
+    std::shared_ptr<FileSystem> files{};         ///< all files of documents and pictures
+    std::shared_ptr<Environment> environment{};  ///< where temporary files go
+    std::shared_ptr<Pictures> pictures{};        ///< how pictures are read and converted
+    std::shared_ptr<RegistryStore> registry{};   ///< where viewers are looked up
+    std::shared_ptr<Automation> automation{};    ///< for Preview and PrintOut
+    std::shared_ptr<Programs> programs{};        ///< likewise
 };
 
 /// The system's own services. They hold no state and can be used from any thread.

@@ -1,7 +1,9 @@
+#include <draftwick/base/Error.h>
 #include <draftwick/rtf/BlockWriter.h>
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 #include <utility>
 
 namespace draftwick {
@@ -10,7 +12,7 @@ void RaiseFileError(std::error_code error, std::string_view action, const std::s
     std::string what = "cannot ";
     what += action;
     what += " '" + name + "'";
-    throw std::system_error(error, what);
+    throw FileError(error, what, name);
 }
 
 BlockWriter::BlockWriter(std::unique_ptr<platform::File> file, std::string name)
@@ -73,6 +75,7 @@ void BlockWriter::Flush() noexcept {
 
 void BlockWriter::Report() {
     const std::error_code failure = std::exchange(failure_, {});
+    if (failure == std::errc::not_enough_memory) throw std::bad_alloc();
     if (failure) RaiseFileError(failure, "write", name_);
 }
 

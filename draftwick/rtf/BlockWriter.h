@@ -11,7 +11,7 @@
 
 namespace draftwick {
 
-/// Raises std::system_error: "cannot write 'name': no space left on device".
+/// Raises FileError: "cannot write 'name': no space left on device".
 [[noreturn]] void RaiseFileError(std::error_code error, std::string_view action, const std::string& name);
 
 /// Collects bytes and hands them to a file in large blocks.
@@ -40,7 +40,8 @@ public:
     /// so is a file of another size.
     void AppendFile(platform::File& source, const std::string& sourceName, std::uint64_t expectedSize);
 
-    /// Reports the failure of a write since the last Checkpoint, or one that still goes on.
+    /// Reports the failure of a write since the last Checkpoint, or one that still goes on: FileError, or std::bad_alloc
+    /// for a file that memory is too small for.
     void Checkpoint() {
         if (failure_ || used_ > BlockSize) RetryAndReport();
     }

@@ -115,8 +115,13 @@ void Output::AppendEncoded(std::string_view text) {
         if (Room - length_ < LongestEscape) MakeRoom();
         char* const to = line_ + length_;
         const char32_t character = DecodeUtf8(text, at);
-        length_ += standard_ ? static_cast<std::size_t>(PutEscape(to, character) - to)
-                             : platform::EncodeAnsi(character, to);
+        if (standard_) {
+            length_ += static_cast<std::size_t>(PutEscape(to, character) - to);
+        } else {
+            const std::size_t size = platform::EncodeAnsi(character, to);
+            if (size == 1 && *to == '?' && stream_ != nullptr) ++lost_;
+            length_ += size;
+        }
     }
 }
 

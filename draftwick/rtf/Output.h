@@ -55,6 +55,9 @@ public:
     void Checkpoint() {
         if (stream_ != nullptr) stream_->Checkpoint();
     }
+    /// How many characters the file could not hold: "?" stands in their place.
+    std::uint64_t Lost() const noexcept { return lost_; }
+    void SetLost(std::uint64_t lost) noexcept { lost_ = lost; }
 
 private:
     // Between two appends the line holds less than LongLine characters, and no control word is longer than a few
@@ -86,6 +89,7 @@ private:
     BlockWriter* stream_ = nullptr;
     std::vector<std::string> kept_;
     std::size_t length_ = 0;
+    std::uint64_t lost_ = 0;
     bool afterControlWord_ = false;
     bool standard_ = false;
     bool spilled_ = false;  // the line is longer than the buffer: its beginning is on its way already

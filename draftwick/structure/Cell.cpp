@@ -1,4 +1,6 @@
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/content/internal/Members.h>
+#include <draftwick/model/internal/Access.h>
 #include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Table.h>
@@ -17,6 +19,15 @@ void Cell::WriteStart() { EmitCellStart(Writer(), Settings()); }
 void Cell::WriteEnd() { EmitCellEnd(Writer(), CurrentParagraph() == nullptr); }
 void Cell::WriteParagraphMark() { EmitCellParagraphMark(Writer()); }
 void Cell::WriteParagraphPlace(const Frame*) { EmitCellParagraphPlace(Writer(), Holder().frame_.Find()); }
+
+void Cell::BeginLike(const Cell& other) {
+    values_ = other.values_;
+    values_.merge = dwMergeNone;
+    if (const auto* background = other.background_.Find()) {
+        CopyValues(background_.Get(AsOwner()), *background);
+    }
+    if (const auto* borders = other.borders_.Find()) borders_.Get(AsOwner()).CopyFrom(*borders);
+}
 
 const Class& Cell::Describe() {
     using C = Cell;
@@ -37,7 +48,7 @@ const Class& Cell::Describe() {
             PropertyOf<&C::Width, &C::SetWidth, &V::width>("Width"),
         },
         {
-            MethodOf<&C::AddParagraph>("AddParagraph"),
+            AddParagraphOf<C>(),
         }};
     return description;
 }

@@ -54,7 +54,7 @@ public:
     /// 16 bits in twips, as is the sum over the row: where that goes beyond 32767 twips, the call that would write the
     /// cell is refused with error 6. Default 1440 twips.
     double Width() const { return Read(values_.width); }
-    void SetWidth(double length) { Change(values_.width, length); }
+    void SetWidth(Measure length) { Change(values_.width, length); }
 
     /// What stands behind the cell, and the lines around it. Each is there from its first use on.
     std::shared_ptr<draftwick::Background> Background();
@@ -74,6 +74,7 @@ private:
     friend struct detail::Access;
     friend class Table;
 
+    void BeginLike(const Cell& other);
     detail::CellSettings Settings() const;
 
     Values values_;

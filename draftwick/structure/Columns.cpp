@@ -11,7 +11,7 @@ constexpr std::int32_t MostColumns = std::numeric_limits<std::uint8_t>::max();
 
 }  // namespace
 
-std::shared_ptr<Column> Columns::Add(double width, double spacing) {
+std::shared_ptr<Column> Columns::Add(Measure width, Measure spacing) {
     const dwScaleMode scale = OpenForChange();
     if (Listed() == MostColumns) RaiseRuntimeError(dwRunOverflow, "a section has at most 255 columns");
     Column::Values values{.number = static_cast<std::uint8_t>(Listed() + 1)};
@@ -20,7 +20,7 @@ std::shared_ptr<Column> Columns::Add(double width, double spacing) {
     return list_.emplace_back(std::make_shared<Column>(OriginOfChild(), values));
 }
 
-void Columns::Auto(std::int32_t count, double spacing) {
+void Columns::Auto(std::int32_t count, Measure spacing) {
     Length converted{0};
     converted.Set(spacing, OpenForChange());
     list_.clear();
@@ -83,8 +83,8 @@ const Class& Columns::Describe() {
                       },
                       {
                           MethodOf<&C::Items>("Items", {{"Index"}}).OrNothing(),
-                          MethodOf<&C::Add>("Add", {{"Width", Kind::Length}, {"Spacing", Kind::Length}}),
-                          MethodOf<&C::Auto>("Auto", {{"Count"}, {"Spacing", Kind::Length}}),
+                          MethodOf<&C::Add>("Add", {{"Width"}, {"Spacing"}}),
+                          MethodOf<&C::Auto>("Auto", {{"Count"}, {"Spacing"}}),
                           MethodOf<&C::Clear>("Clear"),
                       }});
     return description;

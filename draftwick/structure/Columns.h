@@ -18,11 +18,11 @@ public:
 
     /// Default: what Add was told.
     double Width() const { return Read(values_.width); }
-    void SetWidth(double length) { Change(values_.width, length); }
+    void SetWidth(Measure length) { Change(values_.width, length); }
 
     /// Between this column and the next; not written for the last. Default: what Add was told.
     double Spacing() const { return Read(values_.spacing); }
-    void SetSpacing(double length) { Change(values_.spacing, length); }
+    void SetSpacing(Measure length) { Change(values_.spacing, length); }
 
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
@@ -46,9 +46,9 @@ public:
     using Part::Part;
 
     /// Adds a column to the list, which then counts and not what Auto said. Error 6 for the 256th.
-    std::shared_ptr<Column> Add(double width, double spacing);
+    std::shared_ptr<Column> Add(Measure width, Measure spacing);
     /// Empties the list and asks for `count` equal columns with `spacing` between them.
-    void Auto(std::int32_t count, double spacing);
+    void Auto(std::int32_t count, Measure spacing);
     /// Back to no columns, with a Spacing of 360 twips. LineBetween stays.
     void Clear();
 

@@ -1,4 +1,5 @@
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/content/internal/Members.h>
 #include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Footnote.h>
 #include <draftwick/structure/internal/Writers.h>
@@ -28,7 +29,7 @@ const Class& Footnote::Describe() {
                                        PropertyOf<&F::IsEndnote>("IsEndnote"),
                                    },
                                    {
-                                       MethodOf<&F::AddParagraph>("AddParagraph"),
+                                       AddParagraphOf<F>(),
                                        MethodOf<&F::AddTable>("AddTable"),
                                    }};
     return description;

@@ -1,4 +1,5 @@
 #include <draftwick/content/Paragraph.h>
+#include <draftwick/content/internal/Members.h>
 #include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Header.h>
 #include <draftwick/structure/internal/Writers.h>
@@ -20,7 +21,7 @@ const Class& Header::Describe() {
                                        PropertyOf<&H::Finished>("Finished"),
                                    },
                                    {
-                                       MethodOf<&H::AddParagraph>("AddParagraph"),
+                                       AddParagraphOf<H>(),
                                        MethodOf<&H::AddTable>("AddTable"),
                                    }};
     return description;

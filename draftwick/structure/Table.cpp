@@ -8,10 +8,14 @@ namespace draftwick {
 std::shared_ptr<TableBorders> Table::Borders() { return Share(borders_.Get(AsOwner())); }
 std::shared_ptr<draftwick::Frame> Table::Frame() { return Share(frame_.Get(AsOwner())); }
 
-std::shared_ptr<Cell> Table::AddCell() {
-    if (Session().settings.spelling != dwSpellingStandard) return Add(currentCell_);
-    if (cells_.size() == cells_.capacity()) cells_.reserve(cells_.size() * 2 + 4);
-    return cells_.emplace_back(Add(currentCell_));
+std::shared_ptr<Cell> Table::AddCell(const std::shared_ptr<Cell>& like) {
+    const std::shared_ptr<Cell> kept = like;  // it can be CurrentCell
+    const bool standard = Session().settings.spelling == dwSpellingStandard;
+    if (standard && cells_.size() == cells_.capacity()) cells_.reserve(cells_.size() * 2 + 4);
+    auto cell = Add(currentCell_);
+    if (standard) cells_.push_back(cell);
+    if (kept != nullptr) cell->BeginLike(*kept);
+    return cell;
 }
 
 void Table::WriteStart() {
@@ -60,7 +64,7 @@ const Class& Table::Describe() {
             PropertyOf<&T::Left, &T::SetLeft, &V::left>("Left"),
         },
         {
-            MethodOf<&T::AddCell>("AddCell"),
+            MethodOf<&T::AddCell>("AddCell", {{"Like", Variant{}}}),
         }};
     return description;
 }

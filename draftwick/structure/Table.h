@@ -34,7 +34,9 @@ public:
 
     /// Adds a cell to the right of the others and closes the one before. Refuses once the row is finished ("Table").
     /// Error 6 when the cell before would end beyond 32767 twips: it can still be made narrower.
-    std::shared_ptr<Cell> AddCell();
+    /// With a cell of this or another row, written or not, the new one begins with its width, vertical alignment,
+    /// orientation, borders and background; merging is left out.
+    std::shared_ptr<Cell> AddCell(const std::shared_ptr<Cell>& like = {});
     /// The cell that was added last; empty before the first.
     std::shared_ptr<Cell> CurrentCell() const { return currentCell_; }
 
@@ -44,11 +46,11 @@ public:
 
     /// Half of the space between the texts of two cells (RTF \trgaph). Default 95 twips.
     double Gap() const { return Read(values_.gap); }
-    void SetGap(double length) { Change(values_.gap, length); }
+    void SetGap(Measure length) { Change(values_.gap, length); }
 
     /// Where the row begins, from the left margin. It does not move the right edges of the cells. Default -95 twips.
     double Left() const { return Read(values_.left); }
-    void SetLeft(double length) { Change(values_.left, length); }
+    void SetLeft(Measure length) { Change(values_.left, length); }
 
     /// The row is repeated at the top of each page that its table goes on to. Default false.
     bool Header() const { return values_.header; }
@@ -56,7 +58,7 @@ public:
 
     /// Default 0: as high as its text.
     double Height() const { return Read(values_.height); }
-    void SetHeight(double length) { Change(values_.height, length); }
+    void SetHeight(Measure length) { Change(values_.height, length); }
     /// Whether Height is the height of the row, not the least height. Default false.
     bool HeightExactly() const { return values_.heightExactly; }
     void SetHeightExactly(bool on) { Change(values_.heightExactly, on); }

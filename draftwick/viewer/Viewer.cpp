@@ -1,5 +1,6 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
+#include <draftwick/base/internal/Required.h>
 #include <draftwick/viewer/internal/Registry.h>
 #include <draftwick/viewer/internal/Viewer.h>
 
@@ -88,7 +89,7 @@ void Viewer::ViewWithWord(const Request& request, char majorVersion) {
 Viewer::Word Viewer::GetWordApplication(bool forceNew, char majorVersion) {
     const auto create = [this] {
         try {
-            return platform_.automation->Create(WordClass);
+            return Required(platform_.automation, "automation").Create(WordClass);
         } catch (const std::system_error& failure) {
             RaiseRuntimeError(dwRunCannotCreateObject, failure.what());
         }
@@ -99,7 +100,7 @@ Viewer::Word Viewer::GetWordApplication(bool forceNew, char majorVersion) {
         wordStartedHere_ = true;
     } else {
         try {
-            app = platform_.automation->Attach(WordClass);
+            app = Required(platform_.automation, "automation").Attach(WordClass);
         } catch (const std::system_error&) {
             wordStartedHere_ = true;
             app = create();
@@ -115,7 +116,7 @@ Viewer::Word Viewer::GetWordApplication(bool forceNew, char majorVersion) {
 void Viewer::ViewWithWordViewer97(const Request& request) {
     const std::string command = FindViewerCommand();
     if (command.empty()) RaiseError(dwErrNoViewer);
-    platform::Programs& programs = *platform_.programs;
+    platform::Programs& programs = Required(platform_.programs, "programs");
     const std::string printCommand = request.printIt ? programs.PrintCommand() : std::string{};
     taskId_ = programs.Start(printCommand.empty() ? command : printCommand, request.file);
     if (!request.printIt || !printCommand.empty()) return;
@@ -127,7 +128,7 @@ void Viewer::ViewWithWordViewer97(const Request& request) {
 
 /// The command line of the viewer, from the first of the places where it or its setup program leaves one.
 std::string Viewer::FindViewerCommand() const {
-    Registry registry(*platform_.registry);
+    Registry registry(Required(platform_.registry, "registry"));
     registry.SetRoot(platform::RegistryRoot::LocalMachine);
     registry.SetPath("SOFTWARE\\Classes\\Word.Document.8\\shell\\wordview");
     if (std::string command = registry.ReadString("command", "", ""); !command.empty()) return command;
@@ -136,7 +137,7 @@ std::string Viewer::FindViewerCommand() const {
     registry.SetPath("Software\\Microsoft\\Word Viewer\\8.0");
     if (std::string folder = registry.ReadString("Options", "PROGRAMDIR", ""); !folder.empty()) {
         if (folder.ends_with('/') || folder.ends_with('\\')) folder.pop_back();
-        return ProgramIn(folder + platform_.files->Separator());
+        return ProgramIn(folder + Required(platform_.files, "files").Separator());
     }
 
     registry.SetRoot(platform::RegistryRoot::LocalMachine);
@@ -158,7 +159,7 @@ std::string Viewer::FindViewerCommand() const {
 
 /// The command line for the first program in a folder; without a program it cannot be started, and that says so.
 std::string Viewer::ProgramIn(const std::string& folder) const {
-    return platform_.programs->FirstProgram(folder) + " \"%1\"";
+    return Required(platform_.programs, "programs").FirstProgram(folder) + " \"%1\"";
 }
 
 }  // namespace draftwick

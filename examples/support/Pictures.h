@@ -2,6 +2,8 @@
 
 // Picture files for the examples, made without any library. Real programs have theirs from elsewhere.
 
+#include <draftwick/base/Color.h>
+
 #include <cmath>
 #include <cstdint>
 #include <fstream>
@@ -12,8 +14,7 @@
 
 namespace examples {
 
-/// A colour as Draftwick takes it: red in the lowest byte, then green, then blue.
-constexpr std::int32_t Rgb(int red, int green, int blue) { return red | green << 8 | blue << 16; }
+using draftwick::Rgb;
 
 inline void WriteFile(const std::string& name, const std::string& bytes) {
     std::ofstream file(name, std::ios::binary);

@@ -1,5 +1,6 @@
 #include "tests/support/Errors.h"
 
+#include <draftwick/base/Color.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
 #include <draftwick/platform/Platform.h>
@@ -8,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cfenv>
 #include <clocale>
 #include <cmath>
@@ -60,6 +62,23 @@ TEST(Units, GoThereAndBack) {
         }
     }
     EXPECT_EQ(FromTwips(1440, static_cast<dwScaleMode>(9)), 0);
+}
+
+TEST(Units, OfALengthCountWhateverTheScaleModeIs) {
+    for (const dwScaleMode scale : {dwInches, dwTwips, dwPoints}) {
+        EXPECT_EQ(ToTwips(1_in, scale), 1440);
+        EXPECT_EQ(ToTwips(2.54_cm, scale), 1440);
+        EXPECT_EQ(ToTwips(127_mm, scale), 7200);
+        EXPECT_EQ(ToTwips(-12_pt, scale), -240);
+        EXPECT_EQ(ToTwips(3 * 0.5_in / 2, scale), 1080);
+    }
+    EXPECT_EQ(ToTwips(2 * Measure(1.5), dwPoints), 60);
+}
+
+TEST(Colors, AreMadeOfThreeBytes) {
+    static_assert(Rgb(1, 2, 3) == 0x030201);
+    for (const auto& wrong : {std::array{256, 0, 0}, std::array{0, -1, 0}, std::array{0, 0, 1000}})
+        EXPECT_EQ(RefusalNumber([&] { Rgb(wrong[0], wrong[1], wrong[2]); }), dwRunOverflow);
 }
 
 TEST(Units, ConvertPictureSizes) {

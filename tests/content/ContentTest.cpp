@@ -35,6 +35,40 @@ TEST(Content, LiesAtMost200Deep) {
     EXPECT_TRUE(document.Body().ends_with("\\pard~" + std::string(99, '}')));
 }
 
+// Refused as a whole: nothing is added.
+TEST(Paragraph, IsAddedWithItsStyleAndTextOrNotAtAll) {
+    const TestDocument document;
+    document->ParagraphStyles()->Add("Title")->Format()->SetAlign(dwAlignCenter);
+    const auto section = document->AddSection();
+    EXPECT_EQ(Refusal([&] { section->AddParagraph("None", "a"); }), "X112 Item not found 'None'.");
+    EXPECT_EQ(section->CurrentParagraph(), nullptr);
+    const auto title = section->AddParagraph("title", "a");
+    EXPECT_EQ(title->CurrentTextItem()->Text(), "a");
+    EXPECT_EQ(Refusal([&] { title->Format()->SetAlign(dwAlignLeft); }), Emitted("Paragraph"));
+    section->AddParagraph("Title")->Format()->SetAlign(dwAlignRight);
+    section->AddParagraph("", "{b}");
+    EXPECT_EQ(document.Body(), R"(\pard\s0\plain\fs24\cf0\qc\sb0\sa0\sl240\slmult1{a}\par)"
+                               R"(\pard\s0\plain\fs24\cf0\qr\sb0\sa0\sl240\slmult1\par\pard~{\{b\}})");
+}
+
+// A failing file is reported by the call after, as for a paragraph alone.
+TEST(Paragraph, WithATextIsWholeWhenTheFileFails) {
+    const TestDocument document;
+    const auto section = document->AddSection();
+    section->AddParagraph("", std::string(70000, 'a'));
+    document.files->FailAt(document.files->Operations() + 1, std::errc::no_space_on_device);
+    int added = 0;
+    for (int attempts = 0; added < 2; ++attempts) {
+        ASSERT_LT(attempts, 4);
+        try {
+            section->AddParagraph("", "b");
+            ++added;
+        } catch (const FileError&) {
+        }
+    }
+    EXPECT_TRUE(document.Body().ends_with("a}\\par\\pard~{b}\\par\\pard~{b}"));
+}
+
 // A run that cannot be written is refused before its first byte: the host mends it and goes on.
 TEST(Run, CanBeMendedWhenItsStyleDoesNotExist) {
     const TestDocument document;

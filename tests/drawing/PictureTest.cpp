@@ -209,6 +209,36 @@ TEST(Picture, IsJudgedBeforeItsShape) {
     }
 }
 
+// What the bytes are is seen at their beginning; what is wrong with them is said at once.
+TEST(Picture, FromBytesIsThatFromAFile) {
+    const std::string wmf = MakeWmf(0, 0, 10, 10, 96);
+    const std::pair<std::string, std::string> files[] = {
+        {"a.jpg", Jpeg}, {"a.emf", Emf}, {"a.bmp", Bmp}, {"a.gif", Gif}, {"a.wmf", wmf}};
+    for (const auto& [name, bytes] : files) {
+        WithShape named, given;
+        named.files->Put(name, bytes);
+        named.shape->Fill()->SetPicture(name);
+        given.shape->Fill()->SetPicture("none.gif");
+        given.shape->Fill()->SetPictureData(bytes);
+        EXPECT_EQ(given.shape->Fill()->Picture(), "");
+        EXPECT_EQ(given.Finish(), named.Finish()) << name;
+    }
+    const std::pair<std::string, std::int32_t> refused[] = {
+        {"no picture", dwErrUnsupportedFileType},
+        {Jpeg.substr(0, 3), dwRunInvalidPicture},
+        {Bmp.substr(0, 60), dwRunInvalidPicture},
+    };
+    WithShape built;
+    built.shape->Fill()->SetPictureData(Emf);
+    for (const auto& [bytes, number] : refused)
+        EXPECT_EQ(RefusalNumber([&] { built.shape->Fill()->SetPictureData(bytes); }), number);
+    built.shape->AddParagraph();  // with the one before
+    WithShape without;
+    without.shape->Fill()->SetPictureData(Emf);
+    without.shape->Fill()->SetPictureData({});
+    EXPECT_EQ(RefusalNumber([&] { without->Finish(); }), dwErrPictureFileNotFound);
+}
+
 TEST(Picture, WithTheLineRefusedLeavesNoFileOfTheFill) {
     WithShape built(dwSKRectangle);
     built.files->Put("a.bmp", Bmp);

@@ -31,6 +31,22 @@ TEST(ShapeFill, JudgesAShadeArrayWhenItIsSet) {
     EXPECT_EQ(judge(""), 0);
 }
 
+TEST(Shape, CanBeRemovedUntilItIsWritten) {
+    const TestDocument built;
+    const auto paragraph = built.AddParagraph();
+    const auto removed = paragraph->AddShape(dwSKPictureFrame);
+    removed->Remove();
+    EXPECT_EQ(paragraph->CurrentShape(), nullptr);
+    EXPECT_EQ(Refusal([&] { removed->SetWidth(1); }), Emitted("Shape"));
+    EXPECT_EQ(Refusal([&] { removed->AddParagraph(); }), Emitted("Shape"));
+    EXPECT_EQ(Refusal([&] { removed->Remove(); }), Emitted("Shape"));
+    const auto box = paragraph->AddShape(dwSKTextBox);
+    box->AddParagraph();
+    EXPECT_EQ(Refusal([&] { box->Remove(); }), Emitted("Shape"));
+    paragraph->AddTextItem("x");
+    EXPECT_EQ(Between(built.Body(), "\\pard~", "{\\*"), "{\\shp");  // the box alone
+}
+
 TEST(Shape, IsNumberedThroughTheDocument) {
     TestDocument built;
     auto paragraph = built->AddSection()->AddParagraph();

@@ -30,6 +30,25 @@ TEST(Cell, BeyondTheEdgeIsRefusedBeforeItsFirstWord) {
     }
 }
 
+// Of any row, written or not, and of the cell that is current, too. What is changed afterwards is the new cell's.
+TEST(Cell, BeginsLikeAnother) {
+    TestDocument built(dwTwips);
+    const auto section = built->AddSection();
+    const auto first = section->AddTable()->AddCell();
+    Apply("Width=700.0 VerticalAlign=dwCVACenter Orientation=dwReadRight Merge=dwMergeFirstHorizontal",
+          *first);
+    Apply("Texture=dwTextureShaded Shading=50.0", *first->Background());
+    Apply("dwCBorderLeft.Style=dwBSSingle", *first->Borders());
+    const auto row = section->AddTable();
+    row->AddCell(first);
+    row->AddCell(row->CurrentCell())->SetWidth(800);
+    const std::string look = R"(\clvertalc\clshdng5000\clbrdrl\brdrs\brdrw20\brdref0\cellx)";
+    EXPECT_EQ(
+        Between(built.Body(), R"(\intbl\row\pard\trowd\trgaph95\trql\trleft-95\trrh0)", R"(\intbl\row)"),
+        look + R"(700\cltxbtlr\intbl\cell)" + look + R"(1500\cltxbtlr\intbl\cell)");
+    EXPECT_EQ(RefusalNumber([&] { Call(*row, "AddCell", {section->Self()}); }), dwRunTypeMismatch);
+}
+
 // A section holds its last row, that one its last cell, and nothing holds those before.
 TEST(Row, IsGoneOnceTheNextIsThere) {
     TestDocument built;

@@ -4,6 +4,7 @@
 #include <draftwick/platform/Platform.h>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -11,6 +12,8 @@
 #include <vector>
 
 namespace draftwick::detail {
+
+class Session;
 
 /// A size in twips.
 struct PictureSize {
@@ -25,9 +28,12 @@ bool IsPlaceable(std::span<const unsigned char> bytes);
 class OpenPicture {
 public:
     /// dwErrPictureFileNotFound when there is no such file, dwErrUnsupportedFileType for a name without one of the
-    /// known extensions, error 481 when the content is not what the name says; std::system_error. In the standard spelling
-    /// PNG is taken, too, capitals in the extension do not matter, and the first bytes say what the content is.
-    OpenPicture(const platform::Platform& platform, const std::string& fileName, bool standard);
+    /// known extensions, error 481 when the content is not what the name says; FileError. In the standard spelling PNG is
+    /// taken, too, capitals in the extension do not matter, and the first bytes say what the content is. A picture that
+    /// must be converted is converted in a temporary file or, for a document that is kept in memory, there.
+    OpenPicture(const Session& session, const std::string& fileName);
+    /// The picture that the bytes are. dwErrUnsupportedFileType when they begin as none does, else as above.
+    static std::shared_ptr<const OpenPicture> FromBytes(const Session& session, std::string_view bytes);
 
     struct Scale {
         std::int32_t x = 100;  ///< percent
@@ -45,7 +51,13 @@ public:
     const std::vector<unsigned char>& Bytes() const noexcept { return bytes_; }
 
 private:
-    void Convert(const platform::Platform& platform, const platform::Picture& picture);
+    OpenPicture() = default;
+
+    void Load(const platform::Platform& platform, platform::FileSystem& files, const std::string& name,
+              bool inMemory);
+    void Convert(const platform::Platform& platform, const platform::Picture& picture, bool inMemory);
+    void Record(platform::Pictures& service, const platform::Picture& picture, platform::FileSystem& files,
+                const std::string& name);
     void Read(platform::FileSystem& files, const std::string& name);
 
     platform::PictureKind kind_{};

@@ -55,13 +55,12 @@ struct detail::ShapeSettings {
 
 /// The pictures of a shape, each empty unless it is written.
 struct ShapePictures {
-    std::unique_ptr<OpenPicture> fill;  ///< the fill's, or what a picture frame shows
-    std::unique_ptr<OpenPicture> line;
+    std::shared_ptr<const OpenPicture> fill;  ///< the fill's, or what a picture frame shows
+    std::shared_ptr<const OpenPicture> line;
 };
 
 /// All that can fail in the first half of a shape.
-ShapePictures OpenPictures(const RtfWriter& writer, const platform::Platform& platform,
-                           const ShapeSettings& shape);
+ShapePictures OpenPictures(const Session& session, const ShapeSettings& shape);
 
 /// {\shp{\*\shpinst{\shplid1{\sp{\sn ShapeType}{\sv 1}}...}{\sp{\sn lTxid}{\sv 1}}...}: all settings. Of an in-line
 /// picture {\pict{\*\picprop\shplid1{\sp{\sn ShapeType}{\sv 75}}}.

@@ -59,6 +59,8 @@ constexpr Kind KindOf() {
         return Kind::Real;
     else if constexpr (std::is_integral_v<Plain>)
         return Kind::Number;
+    else if constexpr (std::is_same_v<Plain, Measure>)
+        return Kind::Length;
     else if constexpr (std::is_same_v<Plain, Variant>)
         return Kind::Any;
     else if constexpr (std::is_convertible_v<Plain, std::string_view>)
@@ -94,6 +96,9 @@ const Type* TypeOf() {
 
 // Access.
 
+/// The object, which is of that class; empty for nothing. Error 13 for anything else.
+std::shared_ptr<Object> ObjectFromVariant(const Variant& value, const Class& wanted);
+
 template <class Wanted>
 std::decay_t<Wanted> TakeArgument(const Variant& value) {
     using Plain = std::decay_t<Wanted>;
@@ -101,6 +106,11 @@ std::decay_t<Wanted> TakeArgument(const Variant& value) {
         return static_cast<Plain>(FromVariant<std::int32_t>(value));
     } else if constexpr (std::is_same_v<Plain, Variant>) {
         return value;
+    } else if constexpr (std::is_same_v<Plain, Measure>) {
+        return FromVariant<double>(value);
+    } else if constexpr (requires { typename Plain::element_type; }) {
+        return std::dynamic_pointer_cast<typename Plain::element_type>(
+            ObjectFromVariant(value, Plain::element_type::Describe()));
     } else {
         return FromVariant<Plain>(value);
     }

@@ -39,6 +39,7 @@ public:
     DocumentSettings settings;
     RtfWriter writer;
     std::int32_t lastShapeIndex = 0;  // counted up before use
+    bool discarded = false;
 
     // Null once the document is gone.
     draftwick::Document* document = nullptr;
