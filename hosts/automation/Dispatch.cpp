@@ -3,6 +3,7 @@
 #include "Errors.h"
 #include "Members.h"
 #include "Numbers.h"
+#include "Streams.h"
 #include "TypeLibrary.h"
 #include "Values.h"
 
@@ -123,6 +124,7 @@ public:
             if (number == EnumeratorNumber && IsCollection() && !sets) return Enumerate(result);
             const Member* member = members_.Find(number);
             if (member == nullptr || (sets && member->property == nullptr)) return DISP_E_MEMBERNOTFOUND;
+            if (member->isFinishTo) return CallFinishTo(*given);
             if (sets) return Set(*member->property, *given, locale);
             if (member->property != nullptr && member->arguments.empty() && given->cArgs > 0)
                 return PassOn(*member, how, *given, locale, result, info);
@@ -200,6 +202,12 @@ private:
         if (object == nullptr) Refuse(dwRunInvalidCall, "too many arguments");
         const Pointer<IDispatch> part(Wrap(std::move(*object)));
         return part->Invoke(DISPID_VALUE, IID_NULL, locale, how, &given, result, info, nullptr);
+    }
+
+    HRESULT CallFinishTo(const DISPPARAMS& given) {
+        if (given.cArgs != 1) Refuse(dwRunInvalidCall, "one argument is wanted, a stream");
+        FinishTo(*object_, given.rgvarg[0]);
+        return S_OK;
     }
 
     HRESULT Enumerate(VARIANT* result) {

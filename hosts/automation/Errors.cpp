@@ -66,21 +66,11 @@ HRESULT Report(EXCEPINFO* info, const Failure& failure) {
     return failure.code;
 }
 
-/// What was refused, and where the library says it what to do about it.
-template <class Refusal>
-std::string TextOf(const Refusal& error) {
-    std::string text = error.what();
-    if constexpr (requires { error.Advice(); }) {
-        if (!error.Advice().empty()) text += "\r\n" + error.Advice();
-    }
-    return text;
-}
-
 HRESULT Describe(EXCEPINFO* info) {
     try {
         throw;
     } catch (const Error& error) {
-        Failure failure{ResultOf(error.Number()), TextOf(error)};
+        Failure failure{ResultOf(error.Number()), error.what() + ("\r\n" + error.Advice())};
         if (!error.Source().empty()) failure.source = error.Source();
         failure.helpFile = error.HelpFile();
         return Report(info, failure);

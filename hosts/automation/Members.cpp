@@ -2,12 +2,22 @@
 
 #include "Numbers.h"
 
+#include <draftwick/core/Document.h>
+
 #include <algorithm>
 #include <map>
 #include <stdexcept>
 #include <string>
 
 namespace draftwick::automation {
+
+namespace {
+
+constexpr std::string_view FinishTo = "FinishTo";
+const Type anything{.name = "Any", .kind = Kind::Any};
+const Argument StreamArgument[]{{.name = "Stream", .type = &anything}};
+
+}  // namespace
 
 Members::Members(const Class& of) : description_(of) {
     const auto numberOf = [&](std::string_view name) {
@@ -21,6 +31,8 @@ Members::Members(const Class& of) : description_(of) {
     add(CommonProperties());
     for (const ClassMethod& row : of.methods)
         all_.push_back({numberOf(row.name), row.name, row.arguments, row.result, row.optional});
+    if (&of == &Document::Describe())
+        all_.push_back({NumberOf(FinishTo), FinishTo, StreamArgument, nullptr, false, nullptr, true});
     std::ranges::sort(all_, {}, &Member::number);
     const auto twice = std::ranges::adjacent_find(all_, {}, &Member::number);
     if (twice != all_.end()) throw std::logic_error("one number for two: " + std::string{twice->name});

@@ -16,6 +16,7 @@ struct Member {
     const Type* type = nullptr;               ///< what it gives; empty: nothing
     bool optional = false;                    ///< it can give nothing where an object is expected
     const ClassProperty* property = nullptr;  ///< empty: it is a method
+    bool isFinishTo = false;                  ///< what only automation has, because no Variant holds a stream
 };
 
 /// The members of a class, found by their numbers or names. std::logic_error when two have one number.

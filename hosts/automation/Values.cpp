@@ -109,10 +109,23 @@ Variant Read(const VARIANT& value) {
     }
 }
 
+/// Of an array of bytes, as a script has the content of a file.
+std::string ReadBytes(const VARIANT& value) {
+    SAFEARRAY* array = (value.vt & VT_BYREF) != 0 ? *value.pparray : value.parray;
+    if ((value.vt & ~VT_BYREF) != (VT_ARRAY | VT_UI1) || ::SafeArrayGetDim(array) != 1)
+        RefuseKind("an array of bytes is wanted");
+    void* bytes = nullptr;
+    if (FAILED(::SafeArrayAccessData(array, &bytes))) RefuseKind("the array cannot be read");
+    std::string copy(static_cast<const char*>(bytes), array->rgsabound[0].cElements);
+    ::SafeArrayUnaccessData(array);
+    return copy;
+}
+
 }  // namespace
 
 Variant Take(const VARIANT& given, Kind wanted, LCID locale) {
     const VARIANT* value = given.vt == (VT_BYREF | VT_VARIANT) ? given.pvarVal : &given;
+    if (wanted == Kind::Bytes) return ReadBytes(*value);
     if ((value->vt & VT_ARRAY) != 0) RefuseKind("an array cannot be taken, only its elements one by one");
     OwnedVariant direct, inner, converted;
     if ((value->vt & VT_BYREF) != 0) {
