@@ -158,7 +158,11 @@ private:
         const UINT named = given.cNamedArgs > values ? given.cNamedArgs - values : 0;
         if (given.cArgs < values + named) return DISP_E_BADPARAMCOUNT;
         const UINT plain = given.cArgs - values - named;
-        std::vector<const VARIANT*> places(std::max<std::size_t>(arguments.size(), plain), nullptr);
+        if (plain > arguments.size()) {  // the library refuses them
+            all.resize(plain);
+            return S_OK;
+        }
+        std::vector<const VARIANT*> places(arguments.size(), nullptr);
         for (UINT i = 0; i < plain; ++i) places[i] = &given.rgvarg[given.cArgs - 1 - i];
         for (UINT i = values; i < values + named; ++i) {
             const auto at = static_cast<std::size_t>(given.rgdispidNamedArgs[i]);
@@ -169,14 +173,13 @@ private:
         while (!places.empty() && (places.back() == nullptr || IsLeftOut(*places.back()))) places.pop_back();
         all.reserve(places.size() + 1);
         for (std::size_t i = 0; i < places.size(); ++i) {
-            const Argument* argument = i < arguments.size() ? &arguments[i] : nullptr;
+            const Argument& argument = arguments[i];
             if (places[i] != nullptr && !IsLeftOut(*places[i])) {
-                all.push_back(
-                    Take(*places[i], argument == nullptr ? Kind::Any : argument->type->kind, locale));
-            } else if (argument != nullptr && argument->initial) {
-                all.push_back(*argument->initial);
+                all.push_back(Take(*places[i], argument.type->kind, locale));
+            } else if (argument.initial) {
+                all.push_back(*argument.initial);
             } else {
-                Refuse(dwRunInvalidCall, "an argument is missing before another one");
+                Refuse(dwRunInvalidCall, "the argument " + std::string{argument.name} + " is missing");
             }
         }
         return S_OK;

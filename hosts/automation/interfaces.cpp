@@ -13,11 +13,13 @@
 
 #include <draftwick/base/Version.h>
 
+#include <cmath>
 #include <exception>
 #include <fstream>
 #include <iostream>
 #include <map>
 #include <ostream>
+#include <regex>
 #include <string>
 #include <string_view>
 
@@ -54,9 +56,13 @@ std::string Quoted(std::string_view text) {
     return quoted + '"';
 }
 
-/// The first sentence of a comment, which says what a thing is.
+/// The first sentence of a comment, which says what a thing is. Comments name members as C++ does.
 std::string Help(const std::string& comment) {
-    return comment.empty() ? "" : ", helpstring(" + Quoted(docs::SentencesOf(comment).front()) + ")";
+    static const std::regex setter{"::Set(?=[A-Z])"}, scope{"::"};
+    if (comment.empty()) return "";
+    const std::string sentence = docs::SentencesOf(comment).front();
+    return ", helpstring(" + Quoted(std::regex_replace(std::regex_replace(sentence, setter, "."), scope, "."))
+           + ")";
 }
 
 std::string TypeText(const Type* type) {
@@ -79,7 +85,8 @@ std::string TypeText(const Type* type) {
 std::string DefaultText(const Variant& value) {
     if (const auto* on = std::get_if<bool>(&value)) return *on ? "-1" : "0";
     if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_string(*number);
-    if (const auto* real = std::get_if<double>(&value)) return std::to_string(*real);
+    // widl reads no fractions; no default has one.
+    if (const auto* real = std::get_if<double>(&value)) return std::to_string(std::lround(*real));
     if (const auto* text = std::get_if<std::string>(&value)) return Quoted(*text);
     return "";
 }

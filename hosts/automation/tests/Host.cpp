@@ -96,6 +96,13 @@ VARIANT Array() {
     return value;
 }
 
+VARIANT Bytes(std::string_view bytes) {
+    VARIANT value = OfType(VT_ARRAY | VT_UI1);
+    value.parray = ::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
+    bytes.copy(static_cast<char*>(value.parray->pvData), bytes.size());
+    return value;
+}
+
 DISPID NumberNamed(IDispatch& object, std::string_view name) {
     std::wstring wide = Wide(name);
     wchar_t* names = wide.data();

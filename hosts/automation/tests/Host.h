@@ -52,6 +52,7 @@ VARIANT Of(IDispatch* object);
 VARIANT LeftOut();
 VARIANT OfType(VARTYPE type);
 VARIANT Array();
+VARIANT Bytes(std::string_view bytes);
 
 /// The number of a member; DISPID_UNKNOWN when there is none.
 DISPID NumberNamed(IDispatch& object, std::string_view name);

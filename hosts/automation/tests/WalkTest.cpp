@@ -46,8 +46,9 @@ void UseWithAnything(IDispatch& object, const Member& member, Outcome& outcome) 
     for (const bool isText : {false, true}) {
         Values values;
         for (const Argument& argument : member.arguments) {
-            const bool isFlag = argument.type->kind == Kind::Boolean;
-            values.all.push_back(isFlag ? LeftOut() : isText ? Of("A") : Whole(1));
+            const Kind kind = argument.type->kind;
+            const bool isLeftOut = argument.initial && (kind == Kind::Boolean || kind == Kind::Object);
+            values.all.push_back(isLeftOut ? LeftOut() : isText ? Of("A") : Whole(1));
         }
         Invoke(object, member.number, how, values, outcome);
         if (outcome.result == S_OK) return;
@@ -243,10 +244,12 @@ TEST_F(Walk, RefusesSettingsOnceTheDocumentIsGone) {
     document_.reset();
     ForEach([](IDispatch& object, const Member& member) {
         if (member.property == nullptr || member.property->set == nullptr) return;
-        const bool isFlag = member.property->type->kind == Kind::Boolean;
+        const Kind kind = member.property->type->kind;
         Values values;
         for (std::size_t i = 0; i < member.arguments.size(); ++i) values.all.push_back(Whole(1));
-        values.all.push_back(isFlag ? Flag(true) : Whole(1));
+        values.all.push_back(kind == Kind::Boolean ? Flag(true)
+                             : kind == Kind::Bytes ? Bytes("BM")
+                                                   : Whole(1));
         Outcome outcome;
         Invoke(object, member.number, DISPATCH_PROPERTYPUT, values, outcome);
         EXPECT_EQ(Begin(outcome, Gone), Gone);
