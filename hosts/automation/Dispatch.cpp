@@ -100,7 +100,7 @@ public:
         const Member* member = members_.Find(std::wstring_view{names[0]});
         if (member != nullptr) {
             numbers[0] = member->number;
-        } else if (IsCollection() && ::lstrcmpiW(names[0], L"_NewEnum") == 0) {
+        } else if (IsCollection() && IsNamed("_NewEnum", names[0])) {
             numbers[0] = EnumeratorNumber;
         } else {
             return DISP_E_UNKNOWNNAME;
@@ -145,8 +145,7 @@ private:
 
     static DISPID FindArgument(std::span<const Argument> arguments, std::wstring_view name) {
         for (std::size_t i = 0; i < arguments.size(); ++i) {
-            if (std::ranges::equal(arguments[i].name, name, {}, ToLower<wchar_t>, ToLower<wchar_t>))
-                return static_cast<DISPID>(i);
+            if (IsNamed(arguments[i].name, name)) return static_cast<DISPID>(i);
         }
         return DISPID_UNKNOWN;
     }

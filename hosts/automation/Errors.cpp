@@ -2,6 +2,8 @@
 
 #include "Values.h"
 
+#include <draftwick/core/Classes.h>
+
 #include <new>
 #include <system_error>
 #include <utility>
@@ -9,8 +11,6 @@
 namespace draftwick::automation {
 
 namespace {
-
-constexpr std::string_view Product = "Draftwick";
 
 /// What a script has as Err.Number: the library's own numbers as they are, run-time numbers as their own.
 HRESULT ResultOf(std::int32_t number) {
@@ -38,7 +38,7 @@ HRESULT ResultOf(const std::error_code& error) {
 struct Failure {
     HRESULT code;
     std::string text;
-    std::string source{Product};
+    std::string source{ProgIdPrefix};
     std::string helpFile{};
 };
 

@@ -53,13 +53,10 @@ const Member* Members::Find(std::int32_t number) const {
 }
 
 const Member* Members::Find(std::wstring_view name) const {
-    const auto isNamed = [name](const Member* member) {
-        return member != nullptr
-               && std::ranges::equal(member->name, name, {}, ToLower<wchar_t>, ToLower<wchar_t>);
-    };
-    if (const Member* found = Find(NumberOf(name)); isNamed(found)) return found;
-    const Member* meant = Find(DefaultNumber);
-    return isNamed(meant) ? meant : nullptr;
+    for (const Member* found : {Find(NumberOf(name)), Find(DefaultNumber)}) {
+        if (found != nullptr && IsNamed(found->name, name)) return found;
+    }
+    return nullptr;
 }
 
 }  // namespace draftwick::automation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string_view>
 
@@ -8,6 +9,11 @@ namespace draftwick::automation {
 template <class Character>
 constexpr Character ToLower(Character c) {
     return c >= 'A' && c <= 'Z' ? static_cast<Character>(c - 'A' + 'a') : c;
+}
+
+/// Whether a host that writes this means that. Capitals do not count.
+inline bool IsNamed(std::string_view name, std::wstring_view written) {
+    return std::ranges::equal(name, written, {}, ToLower<wchar_t>, ToLower<wchar_t>);
 }
 
 /// The number by which automation calls a member (its DISPID). It is made of the name, whose capitals do not count,

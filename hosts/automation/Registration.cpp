@@ -7,7 +7,9 @@
 #include <draftwick/base/Version.h>
 #include <draftwick/core/Classes.h>
 
+#include <array>
 #include <string>
+#include <vector>
 
 // MinGW's headers lack them.
 extern "C" HRESULT WINAPI RegisterTypeLibForUser(ITypeLib*, OLECHAR*, OLECHAR*);
@@ -17,64 +19,54 @@ namespace draftwick::automation {
 
 namespace {
 
+const std::wstring Folder = L"Software\\Classes\\";
+
 std::wstring Wide(std::string_view text) {
     const Text made(text);
     return {made.Get(), ::SysStringLen(made.Get())};
 }
 
-/// The keys of a class that hosts make.
-struct Keys {
-    std::wstring id, name, versioned;
-
-    explicit Keys(const Class& one)
-        : id(Wide(one.classId)), name(Wide(ProgIdPrefix) + L"." + Wide(one.name)),
-          versioned(name + L"." + std::to_wstring(VersionMajor)) {}
-    std::wstring OfClass() const { return L"CLSID\\" + id; }
+/// A value below the folder.
+struct Entry {
+    std::wstring key, value;
+    const wchar_t* name = nullptr;
 };
 
-/// Where classes are registered.
-class Root {
-public:
-    explicit Root(Users users) : root_(users == Users::All ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER) {}
-
-    void Write(const std::wstring& key, const std::wstring& value, const wchar_t* name = nullptr) const {
-        const LSTATUS status = ::RegSetKeyValueW(root_, (Folder + key).c_str(), name, REG_SZ, value.c_str(),
-                                                 static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
-        Check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
-    }
-    HRESULT Delete(const std::wstring& key) const {
-        const LSTATUS status = ::RegDeleteTreeW(root_, (Folder + key).c_str());
-        return status == ERROR_FILE_NOT_FOUND ? S_OK : HRESULT_FROM_WIN32(static_cast<DWORD>(status));
-    }
-
-private:
-    static inline const std::wstring Folder = L"Software\\Classes\\";
-    HKEY root_;
+/// What is entered of a class, and the keys that hold all of it.
+struct Entries {
+    std::vector<Entry> all;
+    std::array<std::wstring, 3> keys;
 };
 
-void WriteClass(const Root& root, const Class& one) {
-    const Keys keys(one);
-    const std::wstring key = keys.OfClass(), title = Wide(ProgIdPrefix) + L" " + Wide(one.name);
-    root.Write(key, title);
-    root.Write(key + L"\\InprocServer32", ModuleFile());
-    root.Write(key + L"\\InprocServer32", L"Apartment", L"ThreadingModel");
-    root.Write(key + L"\\ProgID", keys.versioned);
-    root.Write(key + L"\\VersionIndependentProgID", keys.name);
-    root.Write(key + L"\\TypeLib", Wide(TypeLibraryId));
-    root.Write(key + L"\\Programmable", L"");
-    for (const std::wstring& name : {keys.name, keys.versioned}) {
-        root.Write(name, title);
-        root.Write(name + L"\\CLSID", keys.id);
-    }
-    root.Write(keys.name + L"\\CurVer", keys.versioned);
+Entries EntriesOf(const Class& one) {
+    const std::wstring id = Wide(one.classId), name = Wide(ProgIdPrefix) + L"." + Wide(one.name),
+                       versioned = name + L"." + std::to_wstring(VersionMajor), key = L"CLSID\\" + id,
+                       title = Wide(ProgIdPrefix) + L" " + Wide(one.name);
+    return {{{key, title},
+             {key + L"\\InprocServer32", ModuleFile()},
+             {key + L"\\InprocServer32", L"Apartment", L"ThreadingModel"},
+             {key + L"\\ProgID", versioned},
+             {key + L"\\VersionIndependentProgID", name},
+             {key + L"\\TypeLib", Wide(TypeLibraryId)},
+             {key + L"\\Programmable", L""},
+             {name, title},
+             {name + L"\\CLSID", id},
+             {name + L"\\CurVer", versioned},
+             {versioned, title},
+             {versioned + L"\\CLSID", id}},
+            {key, name, versioned}};
 }
 
 template <class Use>
 void ForEachClass(Use use) {
     for (const Class* one : Classes()) {
-        if (one->create != nullptr) use(*one);
+        if (one->create != nullptr) use(EntriesOf(*one));
     }
 }
+
+HKEY RootOf(Users users) { return users == Users::All ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
+
+HRESULT ResultOf(LSTATUS status) { return HRESULT_FROM_WIN32(static_cast<DWORD>(status)); }
 
 void RegisterLibrary(Users users) {
     const auto enter = users == Users::All ? &::RegisterTypeLib : &::RegisterTypeLibForUser;
@@ -92,8 +84,13 @@ void UnregisterLibrary(Users users) {
 
 HRESULT Register(Users users) {
     return Guarded(nullptr, [&] {
-        const Root root(users);
-        ForEachClass([&](const Class& one) { WriteClass(root, one); });
+        ForEachClass([&](const Entries& entries) {
+            for (const Entry& one : entries.all) {
+                Check(ResultOf(::RegSetKeyValueW(
+                    RootOf(users), (Folder + one.key).c_str(), one.name, REG_SZ, one.value.c_str(),
+                    static_cast<DWORD>((one.value.size() + 1) * sizeof(wchar_t)))));
+            }
+        });
         RegisterLibrary(users);
         return S_OK;
     });
@@ -101,15 +98,13 @@ HRESULT Register(Users users) {
 
 HRESULT Unregister(Users users) {
     return Guarded(nullptr, [&] {
-        const Root root(users);
         UnregisterLibrary(users);
         HRESULT outcome = S_OK;
-        const auto remove = [&](const std::wstring& key) {
-            if (const HRESULT result = root.Delete(key); FAILED(result)) outcome = result;
-        };
-        ForEachClass([&](const Class& one) {
-            const Keys keys(one);
-            for (const std::wstring& key : {keys.OfClass(), keys.name, keys.versioned}) remove(key);
+        ForEachClass([&](const Entries& entries) {
+            for (const std::wstring& key : entries.keys) {
+                const LSTATUS status = ::RegDeleteTreeW(RootOf(users), (Folder + key).c_str());
+                if (status != ERROR_SUCCESS && status != ERROR_FILE_NOT_FOUND) outcome = ResultOf(status);
+            }
         });
         return outcome;
     });
