@@ -51,7 +51,7 @@ std::string_view RuntimeErrorText(dwRuntimeError number) {
 
 }  // namespace
 
-void detail::RaiseError(std::int32_t number, std::initializer_list<Variant> parameters) {
+void detail::RaiseError(std::int32_t number, std::initializer_list<Variant> parameters, std::string advice) {
     std::string_view source = Product;
     std::string text;
     std::vector<Variant> values{parameters};
@@ -71,21 +71,19 @@ void detail::RaiseError(std::int32_t number, std::initializer_list<Variant> para
         }
     }
     if (text.empty()) text = "There is no message for this error";
-    Raise(Error(number, text, source, HelpFileName));
+    Raise(Error(number, text, source, HelpFileName, std::move(advice)));
 }
 
 void detail::RaiseRuntimeError(dwRuntimeError number, const std::string& detail, std::string advice) {
     std::string text{RuntimeErrorText(number)};
     if (!detail.empty()) text += ": " + detail;
-    Error error(number, text, {}, {});
-    if (!advice.empty()) error.SetAdvice(std::move(advice));
-    Raise(error);
+    Raise(Error(number, text, {}, {}, advice.empty() ? detail : std::move(advice)));
 }
 
-const std::string& Error::Advice() const noexcept {
-    static const std::string none;
-    return advice_ == nullptr ? none : *advice_;
-}
+Error::Error(std::int32_t number, const std::string& description, std::string_view source,
+             std::string_view helpFile, std::string advice)
+    : std::runtime_error(description), number_(number), source_(source), helpFile_(helpFile),
+      advice_(std::make_shared<const std::string>(advice.empty() ? description : std::move(advice))) {}
 
 void Error::SetAdvice(std::string advice) {
     advice_ = std::make_shared<const std::string>(std::move(advice));

@@ -49,8 +49,7 @@ class DRAFTWICK_API Error : public std::runtime_error {
 public:
     /// The last two are texts that live as long as the program: copying an exception must not fail.
     Error(std::int32_t number, const std::string& description, std::string_view source,
-          std::string_view helpFile)
-        : std::runtime_error(description), number_(number), source_(source), helpFile_(helpFile) {}
+          std::string_view helpFile, std::string advice = {});
 
     /// A dwErrCode or a dwRuntimeError.
     std::int32_t Number() const noexcept { return number_; }
@@ -58,9 +57,9 @@ public:
     std::string Source() const { return std::string{source_}; }
     /// "Draftwick.chm" for a dwErrCode, empty for a dwRuntimeError.
     std::string HelpFile() const { return std::string{helpFile_}; }
-    /// What was refused, by the names of the object model and with the limits in the document's unit, and what to do
-    /// about it: "Cell.Width 200 inches: -22.7556 to 22.7549 (ScaleMode is dwInches)".
-    const std::string& Advice() const noexcept;
+    /// What was refused, by the names of the object model, with the limits in the document's unit, and what to do about
+    /// it: "Cell.Width 200 inches: give -22.75 to 22.75 (ScaleMode is dwInches)". Never empty.
+    const std::string& Advice() const noexcept { return *advice_; }
 
     // The rest is for the library.
 
@@ -97,7 +96,8 @@ namespace detail {
 
 /// Raises Error with the message of `number`, in which %1, %2, ... stand for the parameters that are texts.
 [[noreturn]] DRAFTWICK_API void RaiseError(std::int32_t number,
-                                           std::initializer_list<Variant> parameters = {});
+                                           std::initializer_list<Variant> parameters = {},
+                                           std::string advice = {});
 
 /// Raises Error for a run-time refusal: the number's own text, then what was wrong.
 [[noreturn]] DRAFTWICK_API void RaiseRuntimeError(dwRuntimeError number, const std::string& detail = {},

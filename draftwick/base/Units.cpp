@@ -13,7 +13,9 @@ template <class Whole>
 Whole Fit(std::int64_t value) {
     if (value < std::numeric_limits<Whole>::min() || value > std::numeric_limits<Whole>::max()) {
         RaiseRuntimeError(dwRunOverflow,
-                          "the number does not fit " + std::to_string(8 * sizeof(Whole)) + " bits");
+                          "the number does not fit " + std::to_string(8 * sizeof(Whole)) + " bits",
+                          "give a number from " + std::to_string(std::numeric_limits<Whole>::min()) + " to "
+                              + std::to_string(std::numeric_limits<Whole>::max()));
     }
     return static_cast<Whole>(value);
 }
@@ -60,7 +62,16 @@ double FromTwips(std::int32_t twips, dwScaleMode scale) noexcept {
 }
 
 void CheckRange(std::int32_t value, std::int32_t bound1, std::int32_t bound2, std::string_view name) {
-    if (!InRange(value, bound1, bound2)) RaiseError(dwErrPropertyOutOfRange, {std::string{name}});
+    if (InRange(value, bound1, bound2)) return;
+    RaiseError(dwErrPropertyOutOfRange, {std::string{name}},
+               std::string{name} + " " + std::to_string(value) + ": give " + std::to_string(bound1) + " to "
+                   + std::to_string(bound2));
+}
+
+void CheckByte(std::int32_t value) {
+    if (InRange(value, 0, 255)) return;
+    RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte",
+                      std::to_string(value) + ": give a number from 0 to 255");
 }
 
 std::int32_t PointsToTwips(double points) { return RoundDown(points * 20); }

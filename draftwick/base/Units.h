@@ -91,6 +91,9 @@ constexpr bool InRange(std::int32_t value, std::int32_t bound1, std::int32_t bou
 DRAFTWICK_API void CheckRange(std::int32_t value, std::int32_t bound1, std::int32_t bound2,
                               std::string_view name);
 
+/// Error 6 outside of 0 to 255.
+DRAFTWICK_API void CheckByte(std::int32_t value);
+
 // Numbers as the file has them. Error 6 when they are not finite or do not fit 32 bits.
 
 /// Points as twips, rounded down.

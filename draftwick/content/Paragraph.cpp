@@ -65,7 +65,10 @@ void Paragraph::CheckCanAddShape() const {
     Session();
     CheckNotFinished();
     if (dynamic_cast<Shape*>(&Holder()) != nullptr) {
-        RaiseError(dwErrShapesCantContainShapes);
+        RaiseError(
+            dwErrShapesCantContainShapes, {},
+            "Paragraph.AddShape: the paragraph stands in a text box; add the shape to a paragraph of the "
+            "section, or of a cell in the text box");
     }
 }
 

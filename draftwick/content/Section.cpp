@@ -39,13 +39,25 @@ std::shared_ptr<Header> Section::AddHeader(dwHeaderKind kind) {
     const bool oneSide = kind >= dwHeaderLeft && kind <= dwFooterRight;
     const bool firstPage = kind == dwHeaderFirst || kind == dwFooterFirst;
     if ((facing && everyPage) || (!facing && oneSide) || (!values_.titlePage && firstPage)) {
-        RaiseError(dwErrInvalidHeaderKind);
+        RaiseError(
+            dwErrInvalidHeaderKind, {},
+            firstPage ? "Section.AddHeader: set Section.TitlePage first, for the first page's own header"
+            : oneSide ? "Section.AddHeader: set Document.FacingPage before the first section, for "
+                        "headers of left and right pages"
+                      : "Section.AddHeader: Document.FacingPage is set; add the headers of left and of "
+                        "right pages");
     }
     if (!InRange(kind, dwHeader, dwFooterFirst)) {
-        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(kind));
+        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(kind),
+                          "Section.AddHeader " + std::to_string(kind) + ": give a dwHeaderKind, 1 to 8");
     }
     bool& exists = hasHeader_[static_cast<std::size_t>(kind)];
-    if (exists) RaiseError(dwErrHeaderExists);
+    if (exists) {
+        RaiseError(
+            dwErrHeaderExists, {},
+            "Section.AddHeader: the section has this header already; add to it what is missing, or add "
+            "another section");
+    }
     auto header = Add(currentHeader_, kind);
     exists = true;
     return header;

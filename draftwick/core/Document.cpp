@@ -77,12 +77,15 @@ std::shared_ptr<draftwick::Properties> Document::Properties() const {
 
 std::shared_ptr<Section> Document::AddSection() {
     // Once the file's last brace is written nothing can follow it, even if Finish failed after that.
-    if (inside_->files.Ended()) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
+    if (inside_->files.Ended()) {
+        RaiseError(dwErrTargetEmitted, {std::string{Description().name}},
+                   "Document.AddSection: Finish has ended the text already; call it again");
+    }
     return Add(currentSection_);
 }
 
 void Document::Finish() {
-    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    CheckNotDelivering();
     Close();
 }
 
@@ -109,10 +112,16 @@ void Document::FinishTo(const Sink& sink) {
     FinishInto({.write = sink, .end = {}});
 }
 
+void Document::CheckNotDelivering(const char* method) const {
+    if (sink_ == nullptr) return;
+    RaiseError(dwErrTargetEmitted, {"Document"},
+               std::string{"Document."} + method + ": FinishTo is at work; call it after that has returned");
+}
+
 void Document::FinishInto(const detail::Sink& sink) {
     Session();
     CheckNotFinished();
-    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    CheckNotDelivering();
     const auto self = Self();  // the sink may let the document go
     struct Scope {
         const detail::Sink*& sink;
@@ -124,7 +133,7 @@ void Document::FinishInto(const detail::Sink& sink) {
 void Document::Discard() {
     detail::Session& session = *SharedSession();
     if (Finished() || session.discarded) return;
-    if (sink_ != nullptr) RaiseError(dwErrTargetEmitted, {"Document"});
+    CheckNotDelivering();
     session.discarded = true;
     session.writer.output.SetStream(nullptr);
     const std::error_code error = inside_->files.Discard();
@@ -195,8 +204,8 @@ void Document::SetOrientation(dwOrientation orientation) {
 }
 
 /// File names are the system's bytes, not necessarily UTF-8.
-void Document::SetPath(std::string& field, std::string_view path) {
-    OpenForChange();
+void Document::SetPath(std::string& field, std::string_view path, const char* setter) {
+    OpenForChange(setter);
     field = path;
 }
 

@@ -260,8 +260,9 @@ protected:
 private:
     void Open();
     void FinishInto(const detail::Sink& sink);
+    void CheckNotDelivering(const char* method = __builtin_FUNCTION()) const;
     dwViewer RunViewer(dwViewer program, bool printIt);
-    void SetPath(std::string& field, std::string_view path);
+    void SetPath(std::string& field, std::string_view path, const char* setter = __builtin_FUNCTION());
 
     struct Inside;
 

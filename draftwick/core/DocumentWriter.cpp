@@ -52,7 +52,7 @@ void WriteView(RtfWriter& writer, const DocumentSettings& settings) {
     if (settings.pageBorderAroundFooter) writer.Word("pgbrdrfoot");
 }
 
-/// \fet2\fntbj\ftnrstcont\ftnstart1\ftnnar, two line breaks, \aendnotes\aftnrstcont\aftnstart1\aftnnar
+/// \fet2\ftnbj\ftnrstcont\ftnstart1\ftnnar\aendnotes\aftnrstcont\aftnstart1\aftnnar; classic with two line breaks between.
 void WriteNoteSettings(RtfWriter& writer, const DocumentSettings& settings) {
     // Endnotes cannot start again on each page: there is no word for it.
     const Words<dwFootnoteLocation> LocationWords{"ftntj", writer.Standard() ? "ftnbj" : "fntbj"};
@@ -67,7 +67,7 @@ void WriteNoteSettings(RtfWriter& writer, const DocumentSettings& settings) {
     writer.Word(RestartWords, settings.footnoteRestart);
     writer.Word("ftnstart", settings.footnoteStartAt);
     writer.Word(FormatWords, settings.footnoteFormat);
-    writer.Raw("\r\n\r\n");
+    if (!writer.Standard()) writer.Raw("\r\n\r\n");
     writer.Word(EndLocationWords, settings.endnoteLocation);
     writer.Word(EndRestartWords, settings.endnoteRestart);
     writer.Word("aftnstart", settings.endnoteStartAt);

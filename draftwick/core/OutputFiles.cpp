@@ -18,7 +18,11 @@ namespace {
 std::size_t FindExtension(const std::string& name) {
     std::size_t at = name.size();
     for (int characters = 0; characters < 4; ++characters) {
-        if (at == 0) RaiseRuntimeError(dwRunInvalidCall, "a file name has at least four characters");
+        if (at == 0) {
+            RaiseRuntimeError(dwRunInvalidCall, "a file name has at least four characters",
+                              "Document.Filename '" + name
+                                  + "': give a name with an extension, as in 'a.rtf'");
+        }
         do {
             --at;
         } while (at > 0 && (static_cast<unsigned char>(name[at]) & 0xC0) == 0x80);

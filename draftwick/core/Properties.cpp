@@ -35,14 +35,19 @@ std::optional<dwPropertyType> TypeOfValue(const Variant& value) {
     if (std::holds_alternative<std::int32_t>(value)) return dwPTInteger;
     if (std::holds_alternative<bool>(value)) return dwPTBoolean;
     if (const auto* real = std::get_if<double>(&value)) {
-        if (!std::isfinite(*real)) RaiseRuntimeError(dwRunOverflow, "the number is not finite");
+        if (!std::isfinite(*real))
+            RaiseRuntimeError(dwRunOverflow, "the number is not finite",
+                              "Property.Value: give a finite number");
         return dwPTReal;
     }
     if (const auto* date = std::get_if<Date>(&value)) {
-        if (!Exists(*date)) RaiseRuntimeError(dwRunInvalidCall, "there is no such date");
+        if (!Exists(*date))
+            RaiseRuntimeError(dwRunInvalidCall, "there is no such date",
+                              "Property.Value: give a date of the years 1 to 9999 that the calendar has");
         return dwPTDate;
     }
-    RaiseRuntimeError(dwRunTypeMismatch, "a property cannot hold an object");
+    RaiseRuntimeError(dwRunTypeMismatch, "a property cannot hold an object",
+                      "Property.Value: give a text, a number, a Boolean or a date");
 }
 
 Variant ValidText(const Variant& value) {
@@ -64,7 +69,9 @@ void Property::SetValue(const Variant& value) {
     OpenForChange();
     const auto type = TypeOfValue(value);
     if (builtIn_ && type && *type != type_) {
-        RaiseRuntimeError(dwRunTypeMismatch, name_ + " holds values of another kind");
+        RaiseRuntimeError(dwRunTypeMismatch, name_ + " holds values of another kind",
+                          "Property.Value: " + name_
+                              + " of every document holds one kind; give the kind that it has");
     }
     value_ = ValidText(value);
     if (type) type_ = *type;
@@ -72,7 +79,10 @@ void Property::SetValue(const Variant& value) {
 
 void Property::SetLinkTo(std::string_view bookmark) {
     OpenForChange();
-    if (builtIn_) RaiseRuntimeError(dwRunInvalidCall, name_ + " cannot be linked to a bookmark");
+    if (builtIn_) {
+        RaiseRuntimeError(dwRunInvalidCall, name_ + " cannot be linked to a bookmark",
+                          "Property.LinkTo: link a property that you have added with Properties.Add");
+    }
     linkTo_ = ToValidUtf8(bookmark);
 }
 
@@ -87,7 +97,10 @@ std::shared_ptr<Property> Properties::Add(std::string_view name, const Variant& 
                                           std::string_view linkTo) {
     OpenForChange();
     TypeOfValue(value);
-    if (Contains(name)) RaiseError(dwErrDuplicateName, {ToValidUtf8(name)});
+    if (Contains(name)) {
+        RaiseError(dwErrDuplicateName, {ToValidUtf8(name)},
+                   "Properties has '" + ToValidUtf8(name) + "' already; set its Value, or give another name");
+    }
     auto property = AddItem(name, "Properties");
     property->SetValue(value);
     property->SetLinkTo(linkTo);
@@ -97,7 +110,11 @@ std::shared_ptr<Property> Properties::Add(std::string_view name, const Variant& 
 void Properties::Remove(std::int32_t index) {
     OpenForChange();
     const auto property = Items(index);
-    if (property->BuiltIn()) RaiseError(dwErrCantDeleteBuiltInProperty, {property->Name()});
+    if (property->BuiltIn()) {
+        RaiseError(dwErrCantDeleteBuiltInProperty, {property->Name()},
+                   "Properties.Remove: " + property->Name()
+                       + " is in every document; set its Value to nothing");
+    }
     RemoveItem(index);
 }
 

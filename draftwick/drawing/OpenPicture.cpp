@@ -1,5 +1,6 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Units.h>
+#include <draftwick/base/internal/Enumeration.h>
 #include <draftwick/base/internal/Required.h>
 #include <draftwick/drawing/internal/OpenPicture.h>
 #include <draftwick/model/internal/Session.h>
@@ -21,7 +22,12 @@ using platform::PictureKind;
 bool IsStandard(const Session& session) { return session.settings.spelling == dwSpellingStandard; }
 
 std::int32_t PercentOf(std::int32_t twips, std::int32_t himetric) {
-    if (himetric == 0) RaiseRuntimeError(dwRunDivisionByZero, "the picture has no size that could be scaled");
+    if (himetric == 0) {
+        RaiseRuntimeError(
+            dwRunDivisionByZero, "the picture has no size that could be scaled",
+            "Shape.InLine: the metafile has no size of its own; use one that has, or a shape that is "
+            "not in the line");
+    }
     return RoundDown(static_cast<double>(TwipsToHimetric(twips)) / himetric * 100);
 }
 
@@ -87,6 +93,21 @@ std::optional<PictureKind> PictureTypeFromName(std::string fileName, bool standa
     return {};
 }
 
+std::string NameOfKind(PictureKind kind) {
+    for (const EnumerationValue& value : ValuesOf<PictureKind>::All) {
+        if (value.value == static_cast<std::int32_t>(kind)) return std::string{value.name};
+    }
+    return {};
+}
+
+std::string AdviceOnKind(const std::string& what, bool standard) {
+    return what + " is of no kind that can be shown: "
+           + (standard ? "JPEG, PNG, GIF, BMP, EMF, WMF"
+                       : ".jpg, .jpeg, .gif, .bmp, .emf, .wmf, in lower case; PNG and capitals need "
+                         "Document.Spelling = "
+                         "dwSpellingStandard");
+}
+
 }  // namespace
 
 bool detail::IsPlaceable(std::span<const unsigned char> bytes) {
@@ -96,12 +117,18 @@ bool detail::IsPlaceable(std::span<const unsigned char> bytes) {
 
 OpenPicture::OpenPicture(const Session& session, const std::string& fileName) {
     platform::FileSystem& files = Required(session.platform.files, "files");
-    if (!files.Exists(fileName)) RaiseError(dwErrPictureFileNotFound, {fileName});
+    if (!files.Exists(fileName)) {
+        RaiseError(dwErrPictureFileNotFound, {fileName},
+                   fileName.empty()
+                       ? "the picture frame has no picture: set Shape.Fill.Picture, or call "
+                         "Shape.Remove"
+                       : "there is no file '" + fileName + "': set another name, or call Shape.Remove");
+    }
     const bool standard = IsStandard(session);
     std::optional<PictureKind> kind;
     if (standard) kind = PictureTypeFromContent(files, fileName);
     if (!kind) kind = PictureTypeFromName(fileName, standard);
-    if (!kind) RaiseError(dwErrUnsupportedFileType, {fileName});
+    if (!kind) RaiseError(dwErrUnsupportedFileType, {fileName}, AdviceOnKind("'" + fileName + "'", standard));
     kind_ = *kind;
     Load(session.platform, files, fileName, session.settings.bodyInMemory);
 }
@@ -109,7 +136,10 @@ OpenPicture::OpenPicture(const Session& session, const std::string& fileName) {
 std::shared_ptr<const OpenPicture> OpenPicture::FromBytes(const Session& session, std::string_view bytes) {
     const std::string name = "(bytes)";
     const std::optional<PictureKind> kind = PictureTypeFromBytes(bytes, IsStandard(session));
-    if (!kind) RaiseError(dwErrUnsupportedFileType, {name});
+    if (!kind) {
+        RaiseError(dwErrUnsupportedFileType, {name},
+                   AdviceOnKind("ShapeFill.PictureData", IsStandard(session)));
+    }
     const std::shared_ptr<OpenPicture> picture(new OpenPicture);
     picture->kind_ = *kind;
     FileInMemory file{std::string{bytes}};
@@ -121,7 +151,16 @@ void OpenPicture::Load(const platform::Platform& platform, platform::FileSystem&
                        const std::string& name, bool inMemory) {
     std::error_code error;
     const auto picture = Required(platform.pictures, "pictures").Load(files, name, kind_, error);
-    if (error == platform::PictureError::Unreadable) RaiseRuntimeError(dwRunInvalidPicture, name);
+    if (error == platform::PictureError::Unreadable) {
+        const auto actual = PictureTypeFromContent(files, name);
+        const bool other = actual && *actual != kind_;
+        RaiseRuntimeError(dwRunInvalidPicture, name,
+                          "'" + name + "' is "
+                              + (other ? "no " + NameOfKind(kind_) + " but " + NameOfKind(*actual)
+                                             + ": give it the extension of what it is"
+                                       : "damaged or no " + NameOfKind(kind_)
+                                             + ": use another file, or call Shape.Remove"));
+    }
     if (picture == nullptr) RaiseFileError(error, "read", name);
     width_ = picture->Width();
     height_ = picture->Height();

@@ -19,7 +19,9 @@ std::int32_t ReadNumber(std::string_view text) {
     std::int32_t number = 0;
     const auto [stop, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (digits.empty() || error != std::errc() || stop != digits.data() + digits.size()) {
-        RaiseRuntimeError(dwRunInvalidCall, "'" + std::string{digits} + "' is no whole number of 32 bits");
+        RaiseRuntimeError(
+            dwRunInvalidCall, "'" + std::string{digits} + "' is no whole number of 32 bits",
+            "ShapeFill.ShadeArray: give colours and positions in percent by turns, \"255,0,65535,100\"");
     }
     return number;
 }
@@ -34,7 +36,8 @@ std::vector<ShadeColor> ReadShadeArray(std::string_view colors) {
         at = comma + 1;
     }
     if (numbers.size() % 2 != 0) {
-        RaiseRuntimeError(dwRunInvalidCall, "the last colour of the shade has no position");
+        RaiseRuntimeError(dwRunInvalidCall, "the last colour of the shade has no position",
+                          "ShapeFill.ShadeArray: give a position in percent behind each colour");
     }
     std::vector<ShadeColor> result;
     for (std::size_t i = 0; i < numbers.size(); i += 2) {

@@ -44,7 +44,7 @@ std::shared_ptr<ShapeThreeD> Shape::ThreeD() { return Share(threeD_.Get(AsOwner(
 std::shared_ptr<ShapeWordArt> Shape::WordArt() { return Share(wordArt_.Get(AsOwner())); }
 
 void Shape::Remove() {
-    Session();
+    OpenForChange();
     Withdraw();
     const auto self = Self();
     Holder().currentShape_.reset();

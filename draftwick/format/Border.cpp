@@ -1,7 +1,12 @@
 #include <draftwick/format/Border.h>
 #include <draftwick/format/internal/BorderTable.h>
+#include <draftwick/model/internal/Advice.h>
 
 namespace draftwick {
+
+void detail::RaiseNoSide(const Object& borders, std::int32_t side, std::int32_t count) {
+    RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(side), AdviceOnPosition(borders, side, count));
+}
 
 ParagraphBorder::ParagraphBorder(Owner owner, dwParagraphBorder side) : Border(owner) {
     const bool beside = side == dwPBorderLeft || side == dwPBorderRight || side == dwPBorderOutside;

@@ -38,6 +38,9 @@ enum dwBorderStyle : std::int32_t {
 
 namespace detail {
 
+/// Error 9 for a side that there is not.
+[[noreturn]] DRAFTWICK_API void RaiseNoSide(const Object& borders, std::int32_t side, std::int32_t count);
+
 /// The style of one side of a border.
 using BorderStyle = rule::Choice<"Border.Style", dwBSNone, dwBSEngrave>;
 
@@ -82,7 +85,7 @@ public:
 
     /// The border of a side. Error 9 for a side that there is not.
     std::shared_ptr<SideBorder> Items(Side side) {
-        if (!InRange(side, 1, SideCount)) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(side));
+        if (!InRange(side, 1, SideCount)) RaiseNoSide(*this, side, SideCount);
         return this->Share(Create(side));
     }
 

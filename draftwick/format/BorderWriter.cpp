@@ -1,7 +1,7 @@
 #include <draftwick/format/internal/Writers.h>
 #include <draftwick/model/internal/Access.h>
 
-#include <bitset>
+#include <array>
 
 namespace draftwick {
 
@@ -34,6 +34,18 @@ constexpr Words<dwBorderStyle> StyleWords{"",
 
 constexpr Words<dwParagraphBorder> SideWords{"brdrt", "brdrl", "brdrr", "brdrb", "brdrbtw", "brdrbar"};
 
+/// The sides that have a line, by their numbers; null for the others.
+using Sides = std::array<const ParagraphBorder::Values*, dwPBorderOutside + 1>;
+
+Sides DrawnSides(const ParagraphBorders* borders) {
+    Sides sides{};
+    if (borders == nullptr) return sides;
+    borders->ForEach([&](dwParagraphBorder side, const ParagraphBorder& border) {
+        if (Stored(border).style != dwBSNone) sides[static_cast<std::size_t>(side)] = &Stored(border);
+    });
+    return sides;
+}
+
 }  // namespace
 
 void EmitBorderLine(RtfWriter& writer, const BorderLine& line) {
@@ -64,25 +76,19 @@ void EmitTextBorder(RtfWriter& writer, const TextBorder::Values& border, const T
 }
 
 void EmitParagraphBorders(RtfWriter& writer, const ParagraphBorders& borders, const ParagraphBorders* style) {
-    std::bitset<7> drawn;
-    if (style != nullptr) {
-        style->ForEach([&](dwParagraphBorder side, const ParagraphBorder& border) {
-            drawn[static_cast<std::size_t>(side)] = Stored(border).style != dwBSNone;
-        });
-    }
-    borders.ForEach([&](dwParagraphBorder side, const ParagraphBorder& border) {
-        const ParagraphBorder::Values& values = Stored(border);
-        if (values.style != dwBSNone) {
-            writer.Word(SideWords, side);
-            EmitBorderLine(writer, {.style = values.style,
-                                    .width = values.width.Written(),
-                                    .color = values.color,
-                                    .spacing = values.spacing.Written()});
-        } else if (drawn[static_cast<std::size_t>(side)]) {
-            writer.Word(SideWords, side);
+    const Sides own = DrawnSides(&borders), styles = DrawnSides(style);
+    for (std::size_t side = dwPBorderTop; side < own.size(); ++side) {
+        if (own[side] == nullptr && styles[side] == nullptr) continue;
+        writer.Word(SideWords, static_cast<std::int32_t>(side));
+        if (own[side] == nullptr) {
             writer.Word("brdrnone");
+        } else {
+            EmitBorderLine(writer, {.style = own[side]->style,
+                                    .width = own[side]->width.Written(),
+                                    .color = own[side]->color,
+                                    .spacing = own[side]->spacing.Written()});
         }
-    });
+    }
 }
 
 }  // namespace draftwick

@@ -18,7 +18,10 @@ List::List(const Origin& origin, std::string name, std::int32_t)
                                                     ListLevel{AsOwner(), 9}}} {}
 
 std::shared_ptr<ListLevel> List::Levels(std::int32_t level) {
-    if (!InRange(level, 1, 9)) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(level));
+    if (!InRange(level, 1, 9)) {
+        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(level),
+                          "List.Levels " + std::to_string(level) + ": give 1 to 9");
+    }
     return Share(parts_.levels[static_cast<std::size_t>(level - 1)]);
 }
 

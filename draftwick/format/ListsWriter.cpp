@@ -44,6 +44,7 @@ LevelText ReadLevelFormat(std::string_view format, bool standard) {
             result.positions += NumberEscape(result.length, standard);
             at += 3;
         } else if (standard) {
+            if (format.compare(at, 2, "\r\n") == 0) ++at;
             const std::size_t first = at;
             if (DecodeUtf8(format, at) > 0xFFFF) ++result.length;
             AppendEscaped(result.text, format.substr(first, at - first), Escaping::OneLine);

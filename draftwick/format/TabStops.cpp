@@ -1,5 +1,6 @@
 #include <draftwick/format/TabStops.h>
 #include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/Advice.h>
 #include <draftwick/model/internal/ClassTable.h>
 
 #include <cmath>
@@ -10,6 +11,11 @@ namespace draftwick {
 std::shared_ptr<TabStop> TabStops::Add(Measure position, dwTabAlign align, dwTabLeader leader) {
     const dwScaleMode scale = OpenForChange();
     CheckRange(align, dwTabLeft, dwTabBar, "TabStops.Add.Align");
+    if (leader == 0) {
+        RaiseError(
+            dwErrPropertyOutOfRange, {"TabStops.Add.Leader"},
+            "TabStops.Add: the leader has no default; give dwTabLeaderNone for a tab stop without one");
+    }
     CheckRange(leader, dwTabLeaderNone, dwTabLeaderUnderline, "TabStops.Add.Leader");
     TabStop::Values values{.align = align, .leader = leader};
     // What is too large for single precision has no defined value there; it fits no length either.
@@ -26,8 +32,11 @@ void TabStops::Clear() {
 }
 
 std::shared_ptr<TabStop> TabStops::Items(std::int32_t index) const {
-    if (!InRange(index, 0, 255)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
-    if (index < 1 || index > Count()) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
+    CheckByte(index);
+    if (index < 1 || index > Count()) {
+        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index),
+                          AdviceOnPosition(*this, index, Count()));
+    }
     return ItemAt(index);
 }
 

@@ -1,3 +1,4 @@
+#include <draftwick/model/internal/Advice.h>
 #include <draftwick/model/internal/ClassTable.h>
 
 #include <algorithm>
@@ -65,7 +66,19 @@ auto* FindRow(const Rows& rows, std::string_view name) {
 }
 
 [[noreturn]] void RaiseNoMember(const Object& object, std::string_view member) {
-    RaiseError(dwErrItemNotFound, {std::string{object.Description().name} + "." + std::string{member}});
+    const std::string name = std::string{object.Description().name} + "." + std::string{member};
+    RaiseError(dwErrItemNotFound, {name}, name + ": the class has no such member");
+}
+
+/// Whatever is refused says by which member.
+template <class Action>
+Variant Advising(const Object& object, std::string_view member, const Action& action) {
+    try {
+        return action();
+    } catch (Error& error) {
+        error.SetAdvice(WithMember(object, member, error.Advice()));
+        throw;
+    }
 }
 
 [[noreturn]] void RaiseWrongKind(std::string_view wanted) {
@@ -122,27 +135,28 @@ const ClassMethod* Class::FindMethod(std::string_view method) const { return Fin
 
 Variant Get(Object& object, std::string_view property, std::span<const Variant> arguments) {
     const ClassProperty& found = PropertyNamed(object, property);
-    if (found.get == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be written");
-    return Invoke(found.get, object, found.arguments, arguments);
+    return Advising(object, property, [&] {
+        if (found.get == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be written");
+        return Invoke(found.get, object, found.arguments, arguments);
+    });
 }
 
 void Set(Object& object, std::string_view property, const Variant& value,
          std::span<const Variant> arguments) {
     const ClassProperty& found = PropertyNamed(object, property);
-    if (found.set == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be read");
-    if (found.arguments.empty() && arguments.empty()) {
-        found.set(object, {&value, 1});
-    } else {
+    Advising(object, property, [&] {
+        if (found.set == nullptr) RaiseRuntimeError(dwRunInvalidCall, "the property can only be read");
+        if (found.arguments.empty() && arguments.empty()) return found.set(object, {&value, 1});
         std::vector<Variant> values = Complete(found.arguments, arguments);
         values.push_back(value);
-        found.set(object, values);
-    }
+        return found.set(object, values);
+    });
 }
 
 Variant Call(Object& object, std::string_view method, std::span<const Variant> arguments) {
     const ClassMethod* found = object.Description().FindMethod(method);
     if (found == nullptr) return CallProperty(object, method, arguments);
-    return Invoke(found->call, object, found->arguments, arguments);
+    return Advising(object, method, [&] { return Invoke(found->call, object, found->arguments, arguments); });
 }
 
 // The same with the arguments in braces.

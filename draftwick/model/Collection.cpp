@@ -1,4 +1,5 @@
 #include <draftwick/model/Collection.h>
+#include <draftwick/model/internal/Advice.h>
 #include <draftwick/text/CaseFolding.h>
 #include <draftwick/text/Utf8.h>
 
@@ -16,12 +17,16 @@ NamedItems::~NamedItems() = default;
 
 std::int32_t NamedItems::IndexOf(std::string_view name) const {
     const auto found = positions_->byKey.find(FoldCase(name));
-    if (found == positions_->byKey.end()) RaiseError(dwErrItemNotFound, {ToValidUtf8(name)});
+    if (found == positions_->byKey.end()) {
+        RaiseError(dwErrItemNotFound, {ToValidUtf8(name)}, AdviceOnMissing(*this, ToValidUtf8(name)));
+    }
     return found->second;
 }
 
 const std::shared_ptr<Object>& NamedItems::ItemAtPosition(std::int32_t position) const {
-    if (position < 1 || position > Count()) RaiseError(dwErrItemNotFound, {std::to_string(position)});
+    if (position < 1 || position > Count()) {
+        RaiseError(dwErrItemNotFound, {std::to_string(position)}, AdviceOnPosition(*this, position, Count()));
+    }
     return ItemAtIndex(position - 1);
 }
 
@@ -29,10 +34,17 @@ bool NamedItems::Contains(std::string_view name) const { return positions_->byKe
 
 const std::shared_ptr<Object>& NamedItems::AddItem(std::string_view name, std::string_view collection,
                                                    Maker make) {
-    if (name.empty()) RaiseError(dwErrZeroLengthName, {std::string{collection}});
+    if (name.empty()) {
+        RaiseError(dwErrZeroLengthName, {std::string{collection}},
+                   std::string{Description().name} + ".Add: give a name of at least one letter");
+    }
     std::string spelling = ToValidUtf8(name);
     std::string key = FoldCase(spelling);
-    if (positions_->byKey.contains(key)) RaiseRuntimeError(dwRunDuplicateKey, spelling);
+    if (positions_->byKey.contains(key)) {
+        RaiseRuntimeError(dwRunDuplicateKey, spelling,
+                          std::string{Description().name} + " has '" + spelling
+                              + "' already, capitals or not; use Items to get it, or another name");
+    }
     items_.push_back(make(OriginOfSibling(), std::move(spelling), Count()));
     try {
         positions_->byKey.emplace(std::move(key), Count() - 1);

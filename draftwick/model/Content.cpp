@@ -1,5 +1,6 @@
 #include <draftwick/model/Class.h>
 #include <draftwick/model/Content.h>
+#include <draftwick/model/internal/Advice.h>
 #include <draftwick/model/internal/Session.h>
 
 namespace draftwick {
@@ -10,8 +11,9 @@ void Content::CheckNotEmitted() const {
     if (emitted_) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
 }
 
-void Content::CheckNotFinished() const {
-    if (finished_) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
+void Content::CheckNotFinished(const char* method) const {
+    if (!finished_) return;
+    RaiseError(dwErrTargetEmitted, {std::string{Description().name}}, AdviceOnLateAddition(*this, method));
 }
 
 void Content::Emit() {
@@ -42,12 +44,14 @@ void Content::Withdraw() {
 
 void Content::CheckDepth(int levels) const {
     if (depth_ + levels > MaxDepth)
-        RaiseRuntimeError(dwRunOutOfStackSpace, "the objects lie too deep in each other");
+        RaiseRuntimeError(dwRunOutOfStackSpace, "the objects lie too deep in each other",
+                          "a document takes " + std::to_string(MaxDepth)
+                              + " objects in each other; close some before adding more");
 }
 
-void Content::PrepareAdd() {
+void Content::PrepareAdd(const Class& (*child)()) {
     RtfWriter& writer = Writer();
-    CheckNotFinished();
+    if (finished_) CheckNotFinished(("Add" + std::string{child().name}).c_str());
     CheckDepth(1);
     Emit();
     CloseCurrentChild();

@@ -44,15 +44,15 @@ protected:
     void CloseCurrentChild();
     /// Takes the object out of what it was added to, as long as nothing of it is written: it is closed without a trace.
     void Withdraw();
-    /// dwErrTargetEmitted with the class's name once the object is finished.
-    void CheckNotFinished() const;
+    /// dwErrTargetEmitted with the class's name once the object is finished. The name of the method is for the advice.
+    void CheckNotFinished(const char* method = __builtin_FUNCTION()) const;
 
     /// Every Add method: refuses once finished and beyond MaxDepth, writes the start, finishes the child before, creates
     /// the child and keeps it in the slot of its kind. A failure of the file is reported here, before there is a new
     /// child.
     template <class Child, class... Arguments>
     std::shared_ptr<Child> Add(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
-        PrepareAdd();
+        PrepareAdd(Child::Describe);
         return Hold(slot, std::forward<Arguments>(arguments)...);
     }
     /// The first child of an object that was added just now, in the same call: a failure of the file is reported by the
@@ -77,7 +77,7 @@ private:
         open_->depth_ = depth_ + 1;
         return slot;
     }
-    void PrepareAdd();
+    void PrepareAdd(const Class& (*child)());
 
     Content* holder_ = nullptr;
     Content* open_ = nullptr;  // the child that is not finished yet; its slot keeps it

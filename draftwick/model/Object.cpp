@@ -1,5 +1,6 @@
 #include <draftwick/model/Class.h>
 #include <draftwick/model/Object.h>
+#include <draftwick/model/internal/Advice.h>
 #include <draftwick/model/internal/Session.h>
 #include <draftwick/text/Utf8.h>
 
@@ -22,19 +23,34 @@ std::shared_ptr<draftwick::Document> Object::Document() const {
 }
 
 detail::Session& Object::Session() const {
-    if (session_ == nullptr || session_->document == nullptr) RaiseRuntimeError(dwRunObjectGone);
-    if (session_->discarded) RaiseError(dwErrTargetEmitted, {"Document"});
+    if (session_ == nullptr || session_->document == nullptr) {
+        RaiseRuntimeError(dwRunObjectGone, {},
+                          "keep the pointer to the document as long as its objects are used");
+    }
+    if (session_->discarded) {
+        RaiseError(dwErrTargetEmitted, {"Document"}, "the document was given up by Discard; make a new one");
+    }
     return *session_;
 }
 
-dwScaleMode Object::OpenForChange() const {
+dwScaleMode Object::OpenForChange(const char* setter) const {
     const auto& session = Session();
-    CheckNotEmitted();
+    try {
+        CheckNotEmitted();
+    } catch (Error& error) {
+        error.SetAdvice(AdviceOnLateChange(*this, setter));
+        throw;
+    }
     return session.settings.scaleMode;
 }
 
-void Object::Change(std::string& field, std::string_view value) {
-    OpenForChange();
+void Object::RefuseValue(Error& error, const char* setter, Measure value) const {
+    error.SetAdvice(AdviceOnValue(*this, setter, value, Session().settings.scaleMode));
+    throw;
+}
+
+void Object::Change(std::string& field, std::string_view value, const char* setter) {
+    OpenForChange(setter);
     field = ToValidUtf8(value);
 }
 
@@ -44,7 +60,8 @@ std::shared_ptr<Object> Node::RequireParent() const {
     std::shared_ptr<Object> parent = Parent();
     if (parent == nullptr) {
         Session();
-        RaiseError(dwErrTargetEmitted, {std::string{parent_.ClassOf()->name}});
+        const std::string name{parent_.ClassOf()->name};
+        RaiseError(dwErrTargetEmitted, {name}, "the " + name + " is gone; keep the pointer to it");
     }
     return parent;
 }

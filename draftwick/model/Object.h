@@ -105,22 +105,33 @@ protected:
     detail::Owner AsOwner() noexcept { return detail::Owner(*this); }
 
     /// Every setter: refuses once written, checks the rule of the field, converts and stores.
+    /// The last argument, the name of the function that calls, is for the advice.
     template <class Field, class Value>
-    void Change(Field& field, const Value& value) {
-        const dwScaleMode scale = OpenForChange();
+    void Change(Field& field, const Value& value, const char* setter = __builtin_FUNCTION()) {
+        const dwScaleMode scale = OpenForChange(setter);
         if constexpr (requires { field.Set(value, scale); }) {
-            field.Set(value, scale);
+            try {
+                field.Set(value, scale);
+            } catch (Error& error) {
+                RefuseValue(error, setter, value);
+            }
         } else if constexpr (requires { field.Set(value); }) {
-            field.Set(value);
+            try {
+                field.Set(value);
+            } catch (Error& error) {
+                RefuseValue(error, setter, static_cast<double>(value));
+            }
         } else {
             field = value;
         }
     }
     /// As above for texts: what is not UTF-8 becomes U+FFFD.
-    void Change(std::string& field, std::string_view value);
+    void Change(std::string& field, std::string_view value, const char* setter = __builtin_FUNCTION());
     /// What every setter does first: refuses when the document is gone or the object is written. Returns the
     /// document's unit of length.
-    dwScaleMode OpenForChange() const;
+    dwScaleMode OpenForChange(const char* setter = __builtin_FUNCTION()) const;
+    /// Goes on with a refusal that was caught, and says which property refused what, and what it takes.
+    [[noreturn]] void RefuseValue(Error& error, const char* setter, Measure value) const;
     /// A length in the document's unit.
     double Read(rule::Length length) const;
 

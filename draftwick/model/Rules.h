@@ -52,7 +52,7 @@ public:
     constexpr Byte(std::uint8_t value) noexcept : value_(value) {}
     constexpr operator std::int32_t() const noexcept { return value_; }
     void Set(std::int32_t value) {
-        if (!InRange(value, 0, 255)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
+        CheckByte(value);
         CheckRange(value, First, Last, RangeName.View());
         value_ = static_cast<std::uint8_t>(value);
     }

@@ -1,7 +1,9 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/internal/Members.h>
 #include <draftwick/model/internal/Access.h>
+#include <draftwick/model/internal/Advice.h>
 #include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Cell.h>
 #include <draftwick/structure/Table.h>
 #include <draftwick/structure/internal/Writers.h>
@@ -15,7 +17,17 @@ CellSettings Cell::Settings() const {
     return {.values = values_, .background = background_.Find(), .borders = borders_.Find()};
 }
 
-void Cell::WriteStart() { EmitCellStart(Writer(), Settings()); }
+void Cell::WriteStart() {
+    const std::int32_t edge = Writer().layout.row.CellRightEdge + values_.width.Twips();
+    try {
+        EmitCellStart(Writer(), Settings());
+    } catch (Error& error) {
+        const dwScaleMode scale = Session().settings.scaleMode;
+        error.SetAdvice(AdviceOnLength("Table: the row ends at", FromTwips(edge, scale), scale)
+                        + "; make Cell.Width of the cell before smaller");
+        throw;
+    }
+}
 void Cell::WriteEnd() { EmitCellEnd(Writer(), CurrentParagraph() == nullptr); }
 void Cell::WriteParagraphMark() { EmitCellParagraphMark(Writer()); }
 void Cell::WriteParagraphPlace(const Frame*) { EmitCellParagraphPlace(Writer(), Holder().frame_.Find()); }

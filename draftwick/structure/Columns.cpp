@@ -1,3 +1,4 @@
+#include <draftwick/model/internal/Advice.h>
 #include <draftwick/model/internal/ClassTable.h>
 #include <draftwick/structure/Columns.h>
 
@@ -13,7 +14,10 @@ constexpr std::int32_t MostColumns = std::numeric_limits<std::uint8_t>::max();
 
 std::shared_ptr<Column> Columns::Add(Measure width, Measure spacing) {
     const dwScaleMode scale = OpenForChange();
-    if (Listed() == MostColumns) RaiseRuntimeError(dwRunOverflow, "a section has at most 255 columns");
+    if (Listed() == MostColumns) {
+        RaiseRuntimeError(dwRunOverflow, "a section has at most 255 columns",
+                          "Columns.Add: there are 255 columns; add no more, or call Clear before");
+    }
     Column::Values values{.number = static_cast<std::uint8_t>(Listed() + 1)};
     values.width.Set(width, scale);
     values.spacing.Set(spacing, scale);
@@ -37,9 +41,12 @@ void Columns::Clear() {
 std::int32_t Columns::Count() const noexcept { return list_.empty() ? values_.automatic : Listed(); }
 
 std::shared_ptr<Column> Columns::Items(std::int32_t index) const {
-    if (!InRange(index, 0, MostColumns)) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
+    CheckByte(index);
     if (list_.empty()) return nullptr;
-    if (index < 1 || index > Listed()) RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index));
+    if (index < 1 || index > Listed()) {
+        RaiseRuntimeError(dwRunSubscriptOutOfRange, std::to_string(index),
+                          AdviceOnPosition(*this, index, Listed()));
+    }
     return ItemAt(index);
 }
 
@@ -48,8 +55,10 @@ void Columns::SetSpacing(double length) {
     const dwScaleMode scale = OpenForChange();
     for (;;) {
         const double twips = ToShort(ToTwips(length, scale));
-        if (twips == length)
-            RaiseRuntimeError(dwRunOutOfStackSpace, "Columns.Spacing is set by Columns.Auto");
+        if (twips == length) {
+            RaiseRuntimeError(dwRunOutOfStackSpace, "Columns.Spacing is set by Columns.Auto",
+                              "Columns.Spacing: give the spacing to Columns.Auto");
+        }
         length = twips;
     }
 }

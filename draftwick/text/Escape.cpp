@@ -1,4 +1,4 @@
-#include <draftwick/base/Error.h>
+#include <draftwick/base/Units.h>
 #include <draftwick/text/Escape.h>
 #include <draftwick/text/Utf8.h>
 
@@ -88,7 +88,7 @@ std::string EscapeText(std::string_view text, Escaping how) {
 }
 
 std::string ASCIIChar(std::int32_t byte) {
-    if (byte < 0 || byte > 255) RaiseRuntimeError(dwRunOverflow, "the number does not fit a byte");
+    CheckByte(byte);
     constexpr std::string_view Digits = "0123456789ABCDEF";
     std::string text = "\\'";
     if (byte >= 16) text += Digits[static_cast<std::size_t>(byte / 16)];

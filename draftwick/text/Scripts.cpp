@@ -1,6 +1,8 @@
 #include <draftwick/text/Scripts.h>
 #include <draftwick/text/Utf8.h>
 
+#include <algorithm>
+
 namespace draftwick {
 
 namespace {
@@ -38,7 +40,9 @@ bool HasLetter(std::string_view ascii) {
     for (std::size_t at = 0; at < ascii.size(); ++at) {
         if (IsAsciiLetter(ascii[at])) return true;
         if (ascii[at] != '\\') continue;
-        while (at + 1 < ascii.size() && IsAsciiLetter(ascii[at + 1])) ++at;
+        std::size_t end = at + 1;
+        while (end < ascii.size() && IsAsciiLetter(ascii[end])) ++end;
+        at = std::max(end - 1, at + 1);  // what is escaped, a backslash perhaps, begins no word
     }
     return false;
 }

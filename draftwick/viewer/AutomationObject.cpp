@@ -15,7 +15,8 @@ AutomationObject::AutomationObject(const Origin& origin, std::shared_ptr<platfor
 namespace {
 
 [[noreturn]] void RaiseCannotSend() {
-    RaiseRuntimeError(dwRunTypeMismatch, "this cannot be sent to another program");
+    RaiseRuntimeError(dwRunTypeMismatch, "this cannot be sent to another program",
+                      "give a Boolean, a number, a text or an AutomationObject");
 }
 
 }  // namespace

@@ -13,6 +13,9 @@ namespace draftwick {
 namespace {
 
 constexpr const char* WordClass = "Word.Application";
+constexpr const char* NoViewerAdvice = "install a program that shows RTF; the file itself is written";
+constexpr const char* NoWordAdvice =
+    "Word of the version that was asked for is not there; give dwViewerAuto for any viewer";
 
 /// Makes the word processor's window visible and brings it to the front.
 void Show(platform::AutomationObject& word) {
@@ -68,7 +71,7 @@ dwViewer Viewer::ViewWithAnyViewer(const Request& request) {
     if (works(&Viewer::ViewWithWord2000)) return dwViewerWord2000;
     if (works(&Viewer::ViewWithWord97)) return dwViewerWord97;
     if (works(&Viewer::ViewWithWordViewer97)) return dwViewerWordView97;
-    RaiseError(dwErrNoViewer);
+    RaiseError(dwErrNoViewer, {}, NoViewerAdvice);
 }
 
 void Viewer::ViewWithWord(const Request& request, char majorVersion) {
@@ -91,7 +94,7 @@ Viewer::Word Viewer::GetWordApplication(bool forceNew, char majorVersion) {
         try {
             return Required(platform_.automation, "automation").Create(WordClass);
         } catch (const std::system_error& failure) {
-            RaiseRuntimeError(dwRunCannotCreateObject, failure.what());
+            RaiseRuntimeError(dwRunCannotCreateObject, failure.what(), NoWordAdvice);
         }
     };
     Word app;
@@ -109,13 +112,14 @@ Viewer::Word Viewer::GetWordApplication(bool forceNew, char majorVersion) {
     }
     const platform::AutomationValue version = app->Get("Version");
     const auto* text = std::get_if<std::string>(&version);
-    if (text == nullptr || !text->starts_with(majorVersion)) RaiseError(dwRunCannotCreateObject);
+    if (text == nullptr || !text->starts_with(majorVersion))
+        RaiseError(dwRunCannotCreateObject, {}, NoWordAdvice);
     return app;
 }
 
 void Viewer::ViewWithWordViewer97(const Request& request) {
     const std::string command = FindViewerCommand();
-    if (command.empty()) RaiseError(dwErrNoViewer);
+    if (command.empty()) RaiseError(dwErrNoViewer, {}, NoViewerAdvice);
     platform::Programs& programs = Required(platform_.programs, "programs");
     const std::string printCommand = request.printIt ? programs.PrintCommand() : std::string{};
     taskId_ = programs.Start(printCommand.empty() ? command : printCommand, request.file);

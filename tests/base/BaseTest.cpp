@@ -119,10 +119,12 @@ TEST(Errors, SayWhatTheTableSays) {
         {[] { RaiseRuntimeError(dwRunOverflow, "why"); }, "6 Overflow: why", ""},
     };
     for (const auto& [raise, expected, source] : cases) {
-        EXPECT_EQ(Refusal(raise), expected);
         try {
             raise();
+            ADD_FAILURE() << expected;
         } catch (const Error& error) {
+            EXPECT_EQ(ErrorNumberText(error.Number()) + " " + error.what(), expected);
+            EXPECT_EQ(Error(error).Advice(), error.Number() == dwRunOverflow ? "why" : error.what());
             EXPECT_EQ(error.Source(), source);
             EXPECT_EQ(error.HelpFile(), source.empty() ? "" : "Draftwick.chm");
         }
@@ -139,10 +141,10 @@ TEST(Errors, AreLoggedWhenLoggingIsOn) {
         void Report(std::string_view entry) noexcept override { text = entry; }
     } log;
     platform::SetEventLog(&log);
-    RefusalNumber([] { RaiseError(dwErrNoViewer); });
+    RefusalNumber([] { RaiseError(dwErrNoViewer, {}, "advice"); });
     EXPECT_EQ(log.text, "");
     SetErrorLogging(true);
-    RefusalNumber([] { RaiseError(dwErrNoViewer); });
+    RefusalNumber([] { RaiseError(dwErrNoViewer, {}, "advice"); });
     SetErrorLogging(false);
     platform::SetEventLog(nullptr);
     ASSERT_GT(log.text.size(), 19U);

@@ -281,6 +281,11 @@ TEST(EveryWay, LeadsToSettingsThatTakeWhatTheirRulesAllow) {
         for (const auto& [value, refusal] : trials.refused) {
             const std::string actual =
                 Refusal([&, &wrong = value] { Set(*subject.Object(), property.name, wrong); });
+            const std::string advice =
+                Advice([&, &wrong = value] { Set(*subject.Object(), property.name, wrong); });
+            EXPECT_TRUE(advice.starts_with(std::string{subject.Description().name} + "."
+                                           + std::string{property.name}))
+                << advice;
             EXPECT_EQ(actual.substr(0, refusal.size()), refusal);
             EXPECT_EQ(Read(subject, property), before);
         }

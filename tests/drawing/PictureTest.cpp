@@ -21,6 +21,7 @@ std::string Hex(std::string_view bytes) {
 
 /// Two inches by one, of 88 bytes.
 const std::string Emf = MakeEmf(0, 0, 5080, 2540);
+const std::string Flat = MakeEmf(0, 0, 0, 0);
 /// 100 bytes: only the header of a JPEG is looked at.
 const std::string Jpeg = [] {
     std::string bytes = MakeJpeg(8, 8, 1, 96, 96);
@@ -33,7 +34,9 @@ const std::string Bmp = PictureFile("sample/4.bmp"), Gif = PictureFile("sample/a
 struct WithShape : TestDocument {
     std::shared_ptr<Section> section;
     std::shared_ptr<Shape> shape;
-    explicit WithShape(dwShapeKind kind = dwSKPictureFrame) : TestDocument(dwTwips) {
+    explicit WithShape(dwShapeKind kind = dwSKPictureFrame, dwSpelling spelling = dwSpellingClassic)
+        : TestDocument(dwTwips) {
+        document->SetSpelling(spelling);
         section = document->AddSection();
         shape = section->AddParagraph()->AddShape(kind);
         files->Put("a.emf", Emf);
@@ -45,6 +48,13 @@ struct WithShape : TestDocument {
         return names;
     }
 };
+
+/// Signature, header and density of a PNG of that many pixels, ten thousand to the metre.
+std::string MakePng(char width, char height) {
+    using namespace std::string_literals;
+    return "\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR\0\0\0"s + width + "\0\0\0"s + height
+           + "\x08\0\0\0\0CRC.\0\0\0\x09pHYs\0\0\x27\x10\0\0\x27\x10\1CRC.\0\0\0\0IENDCRC."s;
+}
 
 std::string Property(const std::string& name, const std::string& data) {
     return R"({\sp{\sn )" + name + R"(}{\sv{\pict)" + data + "}}}";
@@ -113,12 +123,12 @@ TEST(InlinePicture, IsScaledByNumbersThatAreTakenAsTwips) {
         {dwInches, 1, 1, "a.emf", R"(\emfblip\picscalex0\picscaley0 )" + Hex(Emf)},
         {dwInches, 0.5, 1, "a.emf", R"(\emfblip )" + Hex(Emf)},
         {dwPoints, 720, 360, "a.emf", R"(\emfblip\picscalex25\picscaley25 )" + Hex(Emf)},
-        {dwTwips, 720, 0, "flat.emf", R"(\emfblip )" + Hex(MakeEmf(0, 0, 0, 0))},
+        {dwTwips, 720, 0, "flat.emf", R"(\emfblip )" + Hex(Flat)},
         {dwTwips, -720, 720, "a.emf", R"(\emfblip )" + Hex(Emf)},
     };
     for (const auto& [scale, width, height, file, data] : cases) {
         WithShape built;
-        built.files->Put("flat.emf", MakeEmf(0, 0, 0, 0));
+        built.files->Put("flat.emf", Flat);
         built->SetScaleMode(scale);
         built.shape->SetInLine(true);
         built.shape->SetFlipH(true);
@@ -144,6 +154,64 @@ TEST(InlinePicture, CanHoldTextBeforeItsData) {
               R"(\pard~{\pict{\*\picprop\shplid1{\sp{\sn ShapeType}{\sv 75}}}{\shptxt\pard~{a}}})"
               R"(\emfblip\picscalex0\picscaley0 )"
                   + Hex(Emf));
+}
+
+// The bytes say what a picture is, and it has its own size: in hundredths of a millimetre and in twips.
+TEST(Picture, HasItsSizeInTheStandardSpelling) {
+    const std::string png = MakePng(127, 127), wmf = MakeWmf(0, 0, 10, 10, 96), plain = wmf.substr(22);
+    const std::string emf = R"(\emfblip\picw5080\pich2540\picwgoal2880\pichgoal1440 )" + Hex(Emf);
+    struct {
+        const char* file;
+        std::string content, data;
+    } const cases[]{
+        // 8 pixels, 96 to the inch
+        {"b.JPEG", Jpeg, R"(\jpegblip\picw212\pich212\picwgoal120\pichgoal120 )" + Hex(Jpeg)},
+        {"b.PNG", png, R"(\pngblip\picw1270\pich1270\picwgoal720\pichgoal720 )" + Hex(png)},
+        {"b.jpg", Emf, emf},
+        {"b", Emf, emf},
+        // 10 units, 96 to the inch
+        {"b.wmf", wmf, R"(\wmetafile8\picw265\pich265\picwgoal150\pichgoal150 )" + Hex(plain)},
+        // Without a size of its own it has the frame's, and all of its bytes.
+        {"c.wmf", plain, R"(\wmetafile8\picw1270\pich5080\picwgoal720\pichgoal2880 )" + Hex(plain)},
+        {"flat.emf", Flat, R"(\emfblip\picw1270\pich5080\picwgoal720\pichgoal2880 )" + Hex(Flat)},
+    };
+    for (const auto& [file, content, data] : cases) {
+        WithShape built(dwSKPictureFrame, dwSpellingStandard);
+        built.files->Put(file, content);
+        built.shape->SetWidth(720);
+        built.shape->SetHeight(2880);
+        built.shape->Fill()->SetPicture(file);
+        EXPECT_EQ(Between(built.Body(), R"({\sp{\sn fLine}{\sv 1}})", R"({\sp{\sn lTxid})"),
+                  Property("pib", data))
+            << file;
+    }
+}
+
+// As large as it was asked for in any unit, with its data in its group, where its text is, too.
+TEST(InlinePicture, HasTheSizeOfItsShapeInTheStandardSpelling) {
+    struct {
+        dwScaleMode scale;
+        double width, height;
+        const char* size;
+    } const cases[]{
+        {dwTwips, 2880, 720, R"(\picw5080\pich1270\picwgoal2880\pichgoal720 )"},
+        {dwInches, 0.3, 1, R"(\picw762\pich2540\picwgoal432\pichgoal1440 )"},
+        {dwTwips, 720, 0, R"(\picw5080\pich2540\picwgoal2880\pichgoal1440 )"},
+    };
+    for (const auto& [scale, width, height, size] : cases) {
+        WithShape built(dwSKPictureFrame, dwSpellingStandard);
+        built->SetScaleMode(scale);
+        built.shape->SetInLine(true);
+        built.shape->SetFlipV(true);
+        built.shape->SetWidth(width);
+        built.shape->SetHeight(height);
+        built.shape->Fill()->SetPicture("a.emf");
+        AddText(*built.shape, "a");
+        AddText(*built.section, "z");
+        EXPECT_EQ(built.Body(),
+                  R"(\pard\s0~{\pict{\*\picprop\shplid1{\sp{\sn shapeType}{\sv 75}}{\sp{\sn fFlipV}{\sv 1}}}\emfblip)"
+                      + (size + Hex(Emf)) + R"({\shptxt\pard\s0~{a}}}\par\pard\s0~{z})");
+    }
 }
 
 // As every record, this one starts with its kind, 1, and after the rectangles of its header comes " EMF".
@@ -188,7 +256,7 @@ TEST(Picture, IsJudgedBeforeItsShape) {
         {"b.bmp", Gif, "481"},
         {"c.bmp", Bmp.substr(0, 60), "481"},
         {"c.gif", Gif.substr(0, 20), "481"},
-        {"flat.emf", MakeEmf(0, 0, 0, 0), "11"},
+        {"flat.emf", Flat, "11"},
         {"flat.wmf", std::string(40, '\1'), "11"},
     };
     for (const auto& [file, content, refusal] : cases) {

@@ -22,9 +22,9 @@ dw = Constants()
 
 
 def rows(file, title):
-    """The words of a block of tests/words, by the constant that each row sets: {"BSDouble": r"\brdrt\brdrdb"}."""
+    """The classic words of a block of tests/words, by the constant that a row sets: {"BSDouble": r"\brdrt\brdrdb"}."""
     block = (ROOT / "tests/words" / file).read_text().partition(f"] {title}\n")[2].partition("\n[")[0]
-    return dict(re.findall(r"^\w+=dw(\w+) => (.+)$", block, re.M))
+    return dict(re.findall(r"^\w+=dw(\w+) => (.+?)(?: => .+)?$", block, re.M))
 
 
 def _value(value):

@@ -216,7 +216,7 @@ def pandoc(file):
     """What pandoc reads, as HTML on one line."""
     html = subprocess.run(["pandoc", "-f", "rtf", "-t", "html", "--wrap=none", file], capture_output=True,
                           check=True).stdout.decode()
-    return re.sub(r">\s+<", "><", html)
+    return re.sub(r">\s*\n\s*<", "><", html)
 
 
 @functools.lru_cache(None)

@@ -62,6 +62,7 @@ struct TestDocument {
         words = words.substr(words.find("\\endnhere") + 9);
         words.pop_back();
         ReplaceAll(words, R"(\plain\fs24\cf0\sb0\sa0\sl240\slmult1)", "~");
+        ReplaceAll(words, R"(\plain\fs24\cf1\widctlpar\sb0\sa0\sl240\slmult1)", "~");  // standard spelling
         for (std::size_t at = 0; (at = words.find("\\sectd", at)) != words.npos; ++at) {
             words.replace(at + 6, words.find("\\endnhere", at) + 3 - at, "#");
         }

@@ -15,7 +15,18 @@ inline std::string Refusal(const std::function<void()>& action) {
     try {
         action();
     } catch (const Error& error) {
+        EXPECT_NE(error.Advice(), error.what());
         return ErrorNumberText(error.Number()) + " " + error.what();
+    }
+    return "accepted";
+}
+
+/// What to do about the refusal of an action.
+inline std::string Advice(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.Advice();
     }
     return "accepted";
 }
@@ -30,6 +41,7 @@ inline std::int32_t RefusalNumber(const std::function<void()>& action) {
     try {
         action();
     } catch (const Error& error) {
+        EXPECT_NE(error.Advice(), error.what());
         return error.Number();
     }
     return 0;

@@ -18,7 +18,7 @@ namespace draftwick::test {
 
 namespace {
 
-/// Words in the classic and in the standard spelling. The library writes the first.
+/// Words in the classic and in the standard spelling.
 using Spellings = std::array<std::string, 2>;
 
 std::string Trim(std::string_view text) {
@@ -84,32 +84,40 @@ private:
         } else if (parts.size() == 1) {
             setup_.push_back(line);
         } else {
-            Check(parts[0], words[0], number, line);
+            ++rows_;
+            for (std::size_t spelling = 0; spelling < words.size(); ++spelling)
+                Check(parts[0], words[spelling], spelling, number, line);
         }
     }
 
     void Begin(const std::string& place) {
         setup_.clear();
         const auto ends = Split(place, "...");
-        from_ = Words(Expand(ends.at(0), 0));
-        to_ = Words(Expand(ends.at(1), 0));
+        for (std::size_t spelling = 0; spelling < from_.size(); ++spelling) {
+            from_[spelling] = Words(Expand(ends.at(0), spelling));
+            to_[spelling] = Words(Expand(ends.at(1), spelling));
+        }
     }
 
-    void Check(const std::string& steps, const std::string& expected, int number, const std::string& row) {
-        ++rows_;
+    void Check(const std::string& steps, const std::string& expected, std::size_t spelling, int number,
+               const std::string& row) {
         std::string wrong;
         try {
-            const std::string actual = Between(Written(steps));
+            const std::string actual = Between(Written(steps, spelling), from_[spelling], to_[spelling]);
             if (actual != expected) wrong = FirstDifference(expected, actual);
         } catch (const std::exception& error) {
             wrong = error.what();
         }
-        if (!wrong.empty()) ADD_FAILURE_AT(file_.c_str(), number) << row << '\n' << wrong;
+        if (wrong.empty()) return;
+        ADD_FAILURE_AT(file_.c_str(), number)
+            << (spelling == 0 ? "classic: " : "standard: ") << row << '\n'
+            << wrong;
     }
 
-    std::string Written(const std::string& steps) const {
+    std::string Written(const std::string& steps, std::size_t spelling) const {
         const TestDocument built;
         Script script(built.document);
+        if (spelling == 1) script.Run("Spelling=dwSpellingStandard");
         for (const std::string& step : setup_) script.Run(step);
         for (const std::string& step : Split(steps, " ; ")) script.Run(step);
         built->Finish();
@@ -119,20 +127,20 @@ private:
         return Words(file);
     }
 
-    /// From the first `from_` to the last `to_`. Blanks at both ends do not count.
-    std::string Between(const std::string& words) const {
-        const std::size_t from = words.find(from_), to = words.rfind(to_);
-        if (from == words.npos) throw std::invalid_argument("without " + from_ + ": " + words);
-        if (to == words.npos || to < from + from_.size()) {
-            throw std::invalid_argument("without " + to_ + ": " + words.substr(from));
+    /// From the first `start` to the last `end`. Blanks at both ends do not count.
+    static std::string Between(const std::string& words, const std::string& start, const std::string& end) {
+        const std::size_t from = words.find(start), to = words.rfind(end);
+        if (from == words.npos) throw std::invalid_argument("without " + start + ": " + words);
+        if (to == words.npos || to < from + start.size()) {
+            throw std::invalid_argument("without " + end + ": " + words.substr(from));
         }
-        return Trim(words.substr(from + from_.size(), to - from - from_.size()));
+        return Trim(words.substr(from + start.size(), to - from - start.size()));
     }
 
     /// The second spelling is the first where it is not given.
     Spellings SpellingsOf(const std::vector<std::string>& parts) const {
         if (parts.size() == 1) return {};
-        return {Words(Encode(Expand(parts[1], 0))), Words(Encode(Expand(parts.back(), 1)))};
+        return {Words(Encode(Expand(parts[1], 0))), Words(Expand(parts.back(), 1))};
     }
 
     std::string Expand(std::string words, std::size_t spelling) const {
@@ -141,7 +149,7 @@ private:
     }
 
     std::string file_;
-    std::string from_, to_;           // what stands around the words of the rows
+    Spellings from_, to_;             // what stands around the words of the rows
     std::vector<std::string> setup_;  // the steps before those of a row
     std::vector<std::pair<std::string, Spellings>> names_;
     int rows_ = 0;
