@@ -52,7 +52,7 @@ void WriteView(RtfWriter& writer, const DocumentSettings& settings) {
     if (settings.pageBorderAroundFooter) writer.Word("pgbrdrfoot");
 }
 
-/// \fet2\ftnbj\ftnrstcont\ftnstart1\ftnnar\aendnotes\aftnrstcont\aftnstart1\aftnnar; classic with two line breaks between.
+/// \fet2\ftnbj\ftnrstcont\ftnstart1\ftnnar\aendnotes\aftnrstcont\aftnstart1\aftnnar; classic with line breaks between.
 void WriteNoteSettings(RtfWriter& writer, const DocumentSettings& settings) {
     // Endnotes cannot start again on each page: there is no word for it.
     const Words<dwFootnoteLocation> LocationWords{"ftntj", writer.Standard() ? "ftnbj" : "fntbj"};

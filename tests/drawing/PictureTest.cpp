@@ -208,9 +208,10 @@ TEST(InlinePicture, HasTheSizeOfItsShapeInTheStandardSpelling) {
         built.shape->Fill()->SetPicture("a.emf");
         AddText(*built.shape, "a");
         AddText(*built.section, "z");
-        EXPECT_EQ(built.Body(),
-                  R"(\pard\s0~{\pict{\*\picprop\shplid1{\sp{\sn shapeType}{\sv 75}}{\sp{\sn fFlipV}{\sv 1}}}\emfblip)"
-                      + (size + Hex(Emf)) + R"({\shptxt\pard\s0~{a}}}\par\pard\s0~{z})");
+        EXPECT_EQ(
+            built.Body(),
+            R"(\pard\s0~{\pict{\*\picprop\shplid1{\sp{\sn shapeType}{\sv 75}}{\sp{\sn fFlipV}{\sv 1}}}\emfblip)"
+                + (size + Hex(Emf)) + R"({\shptxt\pard\s0~{a}}}\par\pard\s0~{z})");
     }
 }
 

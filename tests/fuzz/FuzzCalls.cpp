@@ -8,6 +8,7 @@
 #include "tests/support/Rtf.h"
 
 #include <draftwick/draftwick.h>
+#include <draftwick/text/Utf8.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -31,9 +32,12 @@ using ObjectPointer = std::shared_ptr<Object>;
 }
 
 const std::string Pieces[] = {
-    "A",    "b",    "a.bmp", "a.gif", "a.jpg", "a.emf", "a.wmf",  "out.rtf", "text",       "1;2",
-    " ",    "{",    "}",     "\\",    "\t",    "\r\n",  "\r",     "\n",      "\0"s,        "\xC3\xA9",
-    "\xFF", "\\L1", ";",     "\\'",   "\\par", "\\bin", "\\'e9 ", "%1|.-#",  "2147483648", "\xF0\x9F\x98\x80",
+    "A",        "b",        "a.bmp",  "a.gif",  "a.jpg",      "a.emf",
+    "a.wmf",    "out.rtf",  "text",   "1;2",    " ",          "{",
+    "}",        "\\",       "\t",     "\r\n",   "\r",         "\n",
+    "\0"s,      "\xC3\xA9", "\xFF",   "\\L1",   ";",          "\\'",
+    "\\par",    "\\bin",    "\\'e9 ", "%1|.-#", "2147483648", "\xF0\x9F\x98\x80",
+    "\xD7\xA9",
 };
 constexpr std::int32_t Numbers[] = {-1,     255,   256,     32767,           32768,     -32768,
                                     -32769, 65536, 1 << 30, -2147483647 - 1, 2147483647};
@@ -54,9 +58,15 @@ constexpr double Reals[] = {-0.0,
 constexpr std::errc Failures[] = {std::errc::no_space_on_device, std::errc::permission_denied,
                                   std::errc::io_error};
 
-/// What the documentation of the members says is written as it is given.
+/// What the documentation of the members says is written as it is given, but for raw text in the classic spelling alone.
 const std::set<std::string_view> Unescaped{"Add",     "AddBookmark", "AddRawText", "AddSpecial",
                                            "AltName", "Caption",     "Format",     "Name"};
+
+/// What the texts of a host may do to its files.
+struct Harm {
+    bool odd = false;     ///< line breaks or zeros stay in the file
+    bool broken = false;  ///< braces or control words get into it as they are
+};
 
 /// One run of a sequence of calls.
 class CallSequence {
@@ -98,8 +108,9 @@ private:
 
     void Step() {
         const std::uint8_t what = Byte();
-        if (objects_.empty() || what == 255) {
+        if (objects_.empty() || what >= 254) {
             documents_.push_back(Document::Create(MakeFakePlatform(files_)));
+            if (what % 2 == 0) documents_.back()->SetSpelling(dwSpellingStandard);
             Keep(documents_.back());
         } else if (what < 240) {
             // Mostly one of the last: what comes of an object is worth more than one more of its kind.
@@ -149,8 +160,10 @@ private:
 
     void CallOne(Object& object, const ClassMethod& method) {
         const auto arguments = Arguments(method.arguments);
-        const bool raw = std::count(arguments.begin(), arguments.end(), Variant{true}) > 0;
-        for (const Variant& value : arguments) Note(value, raw || Unescaped.contains(method.name));
+        const bool raw =
+            method.name == "AddRawText"
+            || (method.name == "AddTextItem" && arguments.size() > 1 && arguments[1] == Variant{true});
+        for (const Variant& value : arguments) Note(value, Unescaped.contains(method.name), raw);
         Try([&] { Keep(Call(object, method.name, arguments)); });
     }
 
@@ -163,7 +176,7 @@ private:
         };
         read(before);
         if (property.set == nullptr) return;
-        Note(value, Unescaped.contains(property.name));
+        Note(value, Unescaped.contains(property.name), false);
         if (Try([&] { Set(object, property.name, value, arguments); })) return;
         read(after);
         if (before != after) Fail("a refused setter changed " + std::string{property.name});
@@ -197,11 +210,15 @@ private:
     }
 
     /// Keeps in mind what a text may do to files.
-    void Note(const Variant& value, bool unescaped) {
+    void Note(const Variant& value, bool unescaped, bool raw) {
         const auto* text = std::get_if<std::string>(&value);
         if (text == nullptr) return;
-        odd_ |= text->find_first_of("\r\n\0"s) != text->npos;
-        broken_ |= unescaped && text->find_first_of("{}\\") != text->npos;
+        const bool odd = text->find_first_of("\r\n\0"s) != text->npos;
+        const bool broken = text->find_first_of("{}\\") != text->npos;
+        classic_.odd |= odd;
+        classic_.broken |= broken && (unescaped || raw);
+        standard_.odd |= odd && raw;
+        standard_.broken |= broken && raw;
     }
 
     Variant Value(Kind kind, const Rule& rule) {
@@ -244,17 +261,21 @@ private:
 
     void CheckFinished() {
         for (const auto& document : documents_) {
-            if (document->Finished() && checked_.insert(document).second) Check(document->ActualFileName());
+            if (document->Finished() && checked_.insert(document).second)
+                Check(document->ActualFileName(), document->Spelling() == dwSpellingStandard);
         }
     }
 
-    void Check(const std::string& name) {
+    void Check(const std::string& name, bool standard) {
         const std::string file = files_->Bytes(name);
+        const Harm& harm = standard ? standard_ : classic_;
         std::string complaint;
-        if (broken_) {
+        if (standard && SkipAscii(file, 0) != file.size()) {
+            complaint = "not ASCII";
+        } else if (harm.broken) {
             if (!file.starts_with("{\\rtf1") || !file.ends_with("\r\n"))
                 complaint = "neither beginning nor end";
-        } else if (odd_) {
+        } else if (harm.odd) {
             int depth = 0;
             for (std::size_t i = 0; i + 2 < file.size() && complaint.empty(); ++i) {
                 if (file[i] == '\\')
@@ -276,8 +297,7 @@ private:
     std::vector<std::shared_ptr<Document>> documents_;
     std::vector<ObjectPointer> objects_;
     std::set<std::weak_ptr<Document>, std::owner_less<>> checked_;
-    bool odd_ = false;     // a text had line breaks or zeros, which stay in the file
-    bool broken_ = false;  // braces or control words got into the file as they were
+    Harm classic_, standard_;  // to documents of each spelling
     std::string log_;
 };
 

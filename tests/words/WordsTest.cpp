@@ -109,9 +109,8 @@ private:
             wrong = error.what();
         }
         if (wrong.empty()) return;
-        ADD_FAILURE_AT(file_.c_str(), number)
-            << (spelling == 0 ? "classic: " : "standard: ") << row << '\n'
-            << wrong;
+        ADD_FAILURE_AT(file_.c_str(), number) << (spelling == 0 ? "classic: " : "standard: ") << row << '\n'
+                                              << wrong;
     }
 
     std::string Written(const std::string& steps, std::size_t spelling) const {
