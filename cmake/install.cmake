@@ -20,7 +20,7 @@ install(FILES
     ${PROJECT_BINARY_DIR}/draftwick-config.cmake ${PROJECT_BINARY_DIR}/draftwick-config-version.cmake
     DESTINATION ${cmake_folder} COMPONENT development)
 
-# pkg-config draftwick. An archive brings what it needs only by pkg-config --static.
+# pkg-config draftwick. An archive brings what it needs, a shared library has it.
 set(pc_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH pc_to_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" pc_to_prefix ${pc_to_prefix})
@@ -29,13 +29,26 @@ file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_IN
 if(BUILD_SHARED_LIBS)
     set(pc_libs "")
 endif()
-list(JOIN pc_libs " " pc_libs)
+list(TRANSFORM pc_libs PREPEND " ")
+list(JOIN pc_libs "" pc_libs)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/draftwick.pc.in ${PROJECT_BINARY_DIR}/draftwick.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/draftwick.pc DESTINATION ${pc_folder} COMPONENT development)
 
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
-install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
-    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+# The pages, with links that lead somewhere: headers are elsewhere, and what only the sources have is no link.
+file(RELATIVE_PATH to_headers ${CMAKE_INSTALL_FULL_DOCDIR} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+file(GLOB_RECURSE pages RELATIVE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/docs/*.md)
+foreach(page README.md CHANGELOG.md SECURITY.md ${pages})
+    file(READ ${PROJECT_SOURCE_DIR}/${page} text)
+    string(REGEX REPLACE "\\]\\(((\\.\\./)*)(draftwick[/)])" "](\\1${to_headers}/\\3" text "${text}")
+    string(REGEX REPLACE "\\[([^]\n]*)\\]\\(((\\.\\./)*)(HACKING|RELEASING|packaging|hosts|tests|bench|scripts)[^)]*\\)"
+        "\\1" text "${text}")
+    file(WRITE ${PROJECT_BINARY_DIR}/pages/${page} "${text}")
+endforeach()
+install(DIRECTORY ${PROJECT_BINARY_DIR}/pages/ DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT development)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+    FILES_MATCHING PATTERN *.cpp PATTERN *.h)
 
 # cpack -G DEB, from a build for the prefix /usr: see the preset package. Who gives packages away says who he is with
 # cpack -D CPACK_PACKAGE_CONTACT="...".

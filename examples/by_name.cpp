@@ -17,6 +17,7 @@ namespace {
 // [script]
 // A line is: a new name, or "-" for none; an object; a member of it, with "=" in front to set a property; values.
 constexpr const char* Script = R"(
+-         document  =Spelling       2
 -         document  =MarginLeft     1.5
 fonts     document  Fonts
 -         fonts     Add             'Arial'

@@ -59,6 +59,7 @@ void FinishAtLast(Document& document) {
 void WriteErrors(const std::string& filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->Fonts()->Add("Arial")->SetFamily(dwSwiss);
     document->SetDefaultFontName("Arial");
     auto normal = document->ParagraphStyles()->Add("Normal");

@@ -44,6 +44,7 @@ void AddStyles(Document& document) {
 void WriteFields(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetPageWidth(5.83);
     document->SetPageHeight(4.1);
     document->SetMarginBottom(0.9);

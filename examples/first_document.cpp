@@ -11,6 +11,7 @@ using namespace draftwick;
 void WriteReport(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->Fonts()->Add("Times New Roman")->SetFamily(dwRoman);
     document->SetDefaultFontName("Times New Roman");
 

@@ -1,7 +1,7 @@
 // A flyer: a title in WordArt, shapes of many kinds, one of them with depth, shaded and patterned fills, shadows,
 // arrows, a text box with a table, and two pictures, which the program makes itself and leaves beside its output.
 //
-// usage: flyer OUTPUT.rtf
+// usage: flyer OUTPUT.rtf [classic]     in the classic spelling, to compare
 #include "support/Pictures.h"
 
 #include <draftwick/draftwick.h>
@@ -38,7 +38,6 @@ void MakeCloth(const std::string& name) {
                        [](int x, int y) { return (x / 8 + y / 8 * 3) % 4; });
 }
 
-/// The first style is the one that the others are based on.
 void AddStyles(Document& document) {
     document.Fonts()->Add("Georgia")->SetFamily(dwRoman);
     document.SetDefaultFontName("Georgia");
@@ -54,15 +53,18 @@ void AddStyles(Document& document) {
     add("Headline", 38, Red);
     add("Occasion", 15, Navy);
     add("Box title", 14, Red);
-    add("Stamp", 16, White);
-    // Room for the title, which is drawn.
+    // Room for the title, which is drawn, and for all the other shapes.
     document.ParagraphStyles()->Items("Headline")->Format()->SetSpaceBefore(62);
+    auto below = document.ParagraphStyles()->Add("Below");
+    below->SetBasedOn("Copy");
+    below->Format()->SetSpaceBefore(540);
 }
 
-void AddLine(Container& container, const char* style, const char* text) {
+std::shared_ptr<Paragraph> AddLine(Container& container, const char* style, const char* text) {
     auto paragraph = container.AddParagraph();
     paragraph->SetStyleName(style);
     paragraph->AddTextItem(text);
+    return paragraph;
 }
 
 /// Inches from the left margin and, as not all readers know the upper one, from the edge of the page, less the titles.
@@ -161,7 +163,8 @@ void DrawKites(Paragraph& anchor, const std::string& cloth) {
     patched->Fill()->SetPicture(cloth);
 }
 
-/// Text in a figure that is no text box.
+/// Text in a figure that is no text box. Not all readers know styles there, nor at the end of a text box: the text has
+/// its look itself.
 void DrawBurst(Paragraph& anchor) {
     auto burst = AddFilled(anchor, dwSKSeal16, 0.4, 1.7, 1.5, 1.5, Rgb(250, 120, 40));
     burst->Line()->SetStyle(dwSLSDouble);
@@ -170,7 +173,12 @@ void DrawBurst(Paragraph& anchor) {
     burst->Shadow()->SetColor(Navy);
     burst->Shadow()->SetColor2(White);
     burst->TextFormat()->SetSpacingTop(0.4);
-    AddLine(*burst, "Stamp", "Free!");
+    auto stamp = burst->AddParagraph();
+    stamp->Format()->SetAlign(dwAlignCenter);
+    stamp->FontFormat()->SetSize(16);
+    stamp->FontFormat()->SetBold(true);
+    stamp->FontFormat()->SetColor(White);
+    stamp->AddTextItem("Free!");
 }
 
 // [box]
@@ -194,11 +202,13 @@ void AddProgramme(Paragraph& anchor) {
         what->SetWidth(2.5);
         AddLine(*what, "Copy", event);
     }
-    AddLine(*box, "Copy", "Soup while there is any.");
+    auto below = box->AddParagraph();
+    below->FontFormat()->SetColor(Navy);
+    below->AddTextItem("Soup while there is any.");
 }
 // [box]
 
-void WriteFlyer(const std::string& filename) {
+void WriteFlyer(const std::string& filename, dwSpelling spelling) {
     const std::string sunset = filename + ".sunset.jpg";
     const std::string cloth = filename + ".cloth.gif";
     MakeSunset(sunset);
@@ -206,22 +216,15 @@ void WriteFlyer(const std::string& filename) {
 
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(spelling);
     document->SetMarginLeft(0.8);
     document->SetMarginRight(0.8);
     document->SetMarginTop(0.7);
     AddStyles(*document);
 
     auto section = document->AddSection();
-    AddLine(*section, "Headline", "Kites over the Harbour");
-    AddLine(*section, "Occasion", "Saturday, 14 June, from eleven until the wind drops");
-
-    // Everything that is drawn hangs on one paragraph, the last: a shape without text takes the place of the mark
-    // between its paragraph and the next, which would run on in the same line.
-    auto anchor = section->AddParagraph();
-    anchor->SetStyleName("Copy");
-    anchor->Format()->SetSpaceBefore(540);
-    anchor->AddTextItem("Bring a kite or borrow one of ours. Dogs stay on the leash, kites too.");
-
+    // Everything that is drawn hangs on the first paragraph.
+    auto anchor = AddLine(*section, "Headline", "Kites over the Harbour");
     DrawTitle(*anchor);
     DrawSky(*anchor);
     DrawBuoy(*anchor);
@@ -235,6 +238,8 @@ void WriteFlyer(const std::string& filename) {
     swatch->Fill()->SetPicture(cloth);
     AddProgramme(*anchor);
 
+    AddLine(*section, "Occasion", "Saturday, 14 June, from eleven until the wind drops");
+    AddLine(*section, "Below", "Bring a kite or borrow one of ours. Dogs stay on the leash, kites too.");
     document->Finish();
     std::cout << "written: " << document->ActualFileName() << '\n';
 }
@@ -242,12 +247,13 @@ void WriteFlyer(const std::string& filename) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage: flyer OUTPUT.rtf\n";
+    const bool isClassic = argc == 3 && std::string{argv[2]} == "classic";
+    if (argc != 2 && !isClassic) {
+        std::cerr << "usage: flyer OUTPUT.rtf [classic]\n";
         return 2;
     }
     try {
-        WriteFlyer(argv[1]);
+        WriteFlyer(argv[1], isClassic ? dwSpellingClassic : dwSpellingStandard);
     } catch (const std::exception& error) {
         std::cerr << "flyer: " << error.what() << '\n';
         return 1;

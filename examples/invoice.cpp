@@ -48,8 +48,7 @@ std::string Money(int cents) {
     return text + (cents % 100 < 10 ? ".0" : ".") + std::to_string(cents % 100);
 }
 
-/// The styles of the paragraphs. A document is given its fonts and styles before its first section; its first style
-/// is what readers take for the default, and the one that the others are based on.
+/// The styles of the paragraphs. A document is given its fonts and styles before its first section.
 void AddStyles(Document& document) {
     document.Fonts()->Add("Arial")->SetFamily(dwSwiss);
     document.SetDefaultFontName("Arial");
@@ -202,6 +201,7 @@ void AddTotal(Section& section, std::string_view label, int cents, bool last) {
 void WriteInvoice(const std::string& file) {
     auto document = Document::Create();
     document->SetFilename(file);
+    document->SetSpelling(dwSpellingStandard);
     document->SetCaption("Invoice " + Number);
     document->SetPageWidth(8.27);  // A4
     document->SetPageHeight(11.69);

@@ -29,7 +29,10 @@ void AddStyles(Document& document) {
     subject->FontFormat()->SetBold(true);
     subject->Format()->SetSpaceBefore(18);
 
-    document.TextStyles()->Add("Title")->FontFormat()->SetItalic(true);
+    // A text style has a size of its own.
+    auto title = document.TextStyles()->Add("Title");
+    title->FontFormat()->SetSize(11);
+    title->FontFormat()->SetItalic(true);
 }
 
 std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, const char* text) {
@@ -42,6 +45,7 @@ std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, con
 void WriteLetter(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetScaleMode(dwInches);
     document->SetMarginLeft(1.1);
     document->SetMarginRight(1.1);
@@ -50,7 +54,7 @@ void WriteLetter(const char* filename) {
 
     auto section = document->AddSection();
     auto sender = AddParagraph(*section, "Address", "Fenwick & Daughters, bookbinders");
-    sender->AddTextItem("\r\n 12 Mill Lane\r\n Ashford");
+    sender->AddTextItem("\n12 Mill Lane\nAshford");
 
     // What differs from the style is set on the paragraph, before it gets its text.
     auto date = section->AddParagraph();

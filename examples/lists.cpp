@@ -50,6 +50,7 @@ void AddItem(Section& section, const char* style, const char* text) {
 void WriteLists(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetMarginLeft(1.5);
     document->SetMarginRight(1.5);
     document->Fonts()->Add("Arial")->SetFamily(dwSwiss);

@@ -26,6 +26,7 @@ constexpr Account Accounts[] = {{"A. Alder", 120}, {"B. Birch", 75}, {"C. Cedar"
 void WriteStatement(const Account& account, const std::string& filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->Fonts()->Add("Arial")->SetFamily(dwSwiss);
     document->SetDefaultFontName("Arial");
     auto normal = document->ParagraphStyles()->Add("Normal");

@@ -131,6 +131,7 @@ void AddArticles(Section& section) {
 void WriteNewsletter(const std::string& file) {
     auto document = Document::Create();
     document->SetFilename(file);
+    document->SetSpelling(dwSpellingStandard);
     document->SetCaption("The Mill Stream");
     document->SetEndnoteFormat(dwFFRomanLower);
     document->SetEndnoteLocation(dwELDocument);

@@ -20,7 +20,7 @@ void AddNumber(Paragraph& paragraph) {
 
 void AddNote(Paragraph& paragraph, const char* text, bool isEndnote = false) {
     AddNumber(paragraph);
-    auto note = paragraph.AddFootnote(isEndnote)->AddParagraph();  // a note has one paragraph
+    auto note = paragraph.AddFootnote(isEndnote)->AddParagraph();
     note->SetStyleName("Normal");
     note->FontFormat()->SetSize(9);
     AddNumber(*note);
@@ -38,6 +38,7 @@ std::shared_ptr<Paragraph> AddParagraph(Section& section) {
 void WriteNotes(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     // [settings]
     document->SetEndnoteFormat(dwFFRomanLower);
     document->SetEndnoteLocation(dwELDocument);

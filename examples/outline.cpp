@@ -53,6 +53,7 @@ void AddItem(Section& section, const char* style, const char* list, int level, c
 void WriteOutline(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetMarginLeft(1);
     document->SetMarginRight(1);
     document->Fonts()->Add("Georgia")->SetFamily(dwRoman);

@@ -73,6 +73,7 @@ void AddStyles(Document& document) {
 void WritePages(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     // [paper]
     document->SetPageWidth(5.83);  // A5, in inches
     document->SetPageHeight(8.27);

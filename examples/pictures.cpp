@@ -40,6 +40,7 @@ void WritePictures(const std::string& filename) {
 
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetMarginLeft(1);
     document->SetMarginRight(1);
     document->Fonts()->Add("Times New Roman")->SetFamily(dwRoman);
@@ -47,7 +48,7 @@ void WritePictures(const std::string& filename) {
     auto section = document->AddSection();
 
     // [frame]
-    // A picture frame shows a file: JPEG, GIF, BMP, EMF or WMF, told by the end of its name.
+    // A picture frame shows a file: JPEG, PNG, GIF, BMP, EMF or WMF.
     auto text = section->AddParagraph();
     text->Format()->SetAlign(dwAlignJustify);
     auto frame = text->AddShape(dwSKPictureFrame);

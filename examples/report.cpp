@@ -53,8 +53,7 @@ void AddFonts(Document& document) {
     document.SetDefaultFontName("Georgia");
 }
 
-// SetBasedOn copies the other style as it is at that moment; what is set afterwards counts. A style can add to its
-// base, but readers that follow the base themselves keep what it has: what not all styles share is not in it.
+// SetBasedOn copies the other style as it is at that moment; what is set afterwards counts.
 void AddParagraphStyles(Document& document) {
     auto styles = document.ParagraphStyles();
 
@@ -182,7 +181,7 @@ void AddHeading(Section& section, const Heading& heading) {
 void AddContents(Section& section) {
     std::string text;
     for (const Heading& heading : {Lent, Shelf, House, Hours, Repairs}) {
-        if (!text.empty()) text += "\r\n ";
+        if (!text.empty()) text += '\n';
         text += heading.text + ("\t" + std::to_string(heading.page));
     }
     auto contents = section.AddParagraph();
@@ -299,6 +298,7 @@ void WriteHouse(Section& section) {
 void WriteReport(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetMarginTop(0.9);  // inches, unless ScaleMode says otherwise
     document->SetMarginLeft(1);
     document->SetMarginRight(1);

@@ -1,4 +1,4 @@
-// Shapes: a chart of rectangles with fills, outlines and shadows.
+// Shapes: a chart of rectangles with fills, outlines and shadows, and a star.
 //
 // usage: shapes OUTPUT.rtf
 #include <draftwick/draftwick.h>
@@ -44,15 +44,15 @@ void DrawChart(Paragraph& anchor) {
         left += 1.3;
     }
     // The last one is striking.
-    auto mark = AddShape(anchor, dwSKRectangle, left - 1.3, Base - 2.3, 0.7, 0.35, Rgb(235, 160, 40));
-    mark->Line()->SetStyle(dwSLSDouble);
-    mark->Line()->SetWidth(3);
+    auto mark = AddShape(anchor, dwSKStar, left - 1.25, Base - 2.2, 0.6, 0.6, Rgb(235, 160, 40));
+    mark->Line()->SetColor(Rgb(255, 255, 255));
 }
 // [chart]
 
 void WriteShapes(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetMarginLeft(1);
     document->SetMarginRight(1);
     document->Fonts()->Add("Arial")->SetFamily(dwSwiss);
@@ -62,8 +62,7 @@ void WriteShapes(const char* filename) {
     auto title = section->AddParagraph();
     title->FontFormat()->SetSize(14);
     title->AddTextItem("Sales by quarter");
-    // Shapes hang on the last paragraph: one without text takes the place of the mark between its paragraph and the next.
-    DrawChart(*section->AddParagraph());
+    DrawChart(*title);
     document->Finish();
 }
 

@@ -16,7 +16,7 @@ constexpr std::int32_t Teal = 0x6E6A12;  // blue 6E, green 6A, red 12
 void AddStyles(Document& document) {
     auto styles = document.ParagraphStyles();
 
-    // Readers take the first style for the default. It is neutral, and the others are based on it.
+    // What all text has; the others are based on it.
     auto normal = styles->Add("Normal");
     normal->FontFormat()->SetSize(11);
     normal->Format()->SetSpaceAfter(6);
@@ -45,8 +45,9 @@ void AddStyles(Document& document) {
     remark->Borders()->Items(dwPBorderLeft)->SetWidth(2);
     remark->Borders()->Items(dwPBorderLeft)->SetSpacing(8);
 
-    // A text style is for a part of a paragraph.
+    // A text style is for a part of a paragraph. It has a size of its own.
     auto amount = document.TextStyles()->Add("Amount");
+    amount->FontFormat()->SetSize(11);
     amount->FontFormat()->SetBold(true);
 }
 // [styles]
@@ -79,6 +80,7 @@ void AddRecipe(Section& section) {
 void WriteStyles(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetMarginLeft(1.5);
     document->SetMarginRight(1.5);
     document->Fonts()->Add("Times New Roman")->SetFamily(dwRoman);

@@ -76,6 +76,7 @@ void AddTable(Section& section) {
 void WriteTables(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->SetMarginLeft(1);
     document->SetMarginRight(1);
     document->Fonts()->Add("Arial")->SetFamily(dwSwiss);

@@ -18,6 +18,7 @@ constexpr std::int32_t Brick = Rgb(165, 60, 40);
 void WriteText(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
 
     // [fonts]
     // A font must be in the document before its name can be used. The family helps readers that do not have it.
@@ -59,7 +60,6 @@ void WriteText(const char* filename) {
     text->AddTextItem(" Water leaves the clay as steam, H");
     auto two = text->AddTextItem("2");
     two->FontFormat()->SetSubscript(true);
-    two->FontFormat()->SetSize(8);  // for readers that move the letters and leave them as large as they are
     text->AddTextItem("O and nothing else; what ");
     text->AddTextItem("else")->FontFormat()->SetUnderline(dwUnderlineWave);
     text->AddTextItem(" there is burns off later.");
@@ -84,11 +84,11 @@ void WriteText(const char* filename) {
     // [indents]
 
     // [characters]
-    // The program's text is UTF-8. A line break within a paragraph is CR LF; braces and backslashes need no care.
+    // The program's text is UTF-8. "\n" is a line break within a paragraph; braces and backslashes need no care.
     auto last = section->AddParagraph();
     last->Format()->SetSpaceBefore(8);
-    last->AddTextItem("Žofie’s price: 12 € {each} — “ask” at C:\\shop.\r\n ");
-    last->AddTextItem("Greek is not in the file’s alphabet: αβγ.");
+    last->AddTextItem("Žofie’s price: 12 € {each} — “ask” at C:\\shop.\n");
+    last->AddTextItem("All alphabets are at home in the file: αβγ, абв.");
     // [characters]
 
     document->Finish();

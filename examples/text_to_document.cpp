@@ -53,6 +53,7 @@ class Writer {
 public:
     explicit Writer(const std::string& filename) : document_(Document::Create()) {
         document_->SetFilename(filename);
+        document_->SetSpelling(dwSpellingStandard);
         document_->SetMarginLeft(1);
         document_->SetMarginRight(1);
         AddStyles();

@@ -55,8 +55,8 @@ public:
     const std::string& Code() const { return values_.code; }
     void SetCode(std::string_view code) { Change(values_.code, code); }
 
-    /// The result that readers show until they update the field. Characters that mean something in RTF are escaped,
-    /// tabs and CR LF become \tab and \line. Default: as added.
+    /// The result that readers show until they update the field. Characters, tabs and line breaks as in
+    /// TextItem::AddText. Default: as added.
     const std::string& Text() const { return values_.text; }
     void SetText(std::string_view text) { Change(values_.text, text); }
 

@@ -44,6 +44,7 @@ void EmitParagraph(RtfWriter& writer, const ParagraphSettings& paragraph, const 
     EmitParagraphFormat(writer, paragraph.format, document, values(&Parts::format));
     if (paragraph.tabStops != nullptr) EmitTabStops(writer, *paragraph.tabStops);
     writer.layout.direction = Direction::None;
+    writer.layout.AlignsLeft = paragraph.format.align == dwAlignLeft;
 }
 
 }  // namespace draftwick

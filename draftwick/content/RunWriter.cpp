@@ -60,7 +60,9 @@ void EmitDirection(RtfWriter& writer, const Scripts& scripts) {
     Direction& direction = writer.layout.direction;
     if (direction != Direction::None || scripts.direction == Direction::None) return;
     direction = scripts.direction;
-    if (direction == Direction::RightToLeft) writer.Word("rtlpar");
+    if (direction != Direction::RightToLeft) return;
+    writer.Word("rtlpar");
+    if (writer.layout.AlignsLeft) writer.Word("qr");  // its lines begin on the right
 }
 
 void EmitRunFormat(RtfWriter& writer, const RunSettings& run, const Scripts& scripts,

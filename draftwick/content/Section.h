@@ -134,7 +134,7 @@ public:
     /// The printer's number of the paper source, 16 bits. Default 0.
     std::int32_t PaperBin() const { return values_.paperBin; }
     void SetPaperBin(std::int32_t bin) { Change(values_.paperBin, bin); }
-    /// The same for the first page. Default 0. Written only when it is negative.
+    /// The same for the first page. Default 0. In the classic spelling it is written only when it is negative.
     std::int32_t PaperBinFirst() const { return values_.paperBinFirst; }
     void SetPaperBinFirst(std::int32_t bin) { Change(values_.paperBinFirst, bin); }
 

@@ -69,8 +69,8 @@ public:
     /// A tabulator (RTF \tab).
     static std::string_view TabChar() { return "\\tab"; }
 
-    /// One byte of the file's code page: \' and upper-case hexadecimal without a leading zero. Error 6 outside of a
-    /// byte.
+    /// One byte of the file's code page: \' and upper-case hexadecimal without a leading zero, which AddSpecial
+    /// supplies in the standard spelling. Error 6 outside of a byte.
     static std::string ASCII(std::int32_t value);
 
     static const Class& Describe();

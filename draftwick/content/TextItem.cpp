@@ -54,6 +54,7 @@ std::string SpecialCode(std::string_view special) {
 TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(origin) {
     if (raw) {
         text_ = ToValidUtf8(text);
+        isWestern_ = false;
     } else {
         Append(text);
     }
@@ -61,7 +62,7 @@ TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(
 
 void TextItem::Append(std::string_view text) {
     const bool standard = Session().settings.spelling == dwSpellingStandard;
-    AppendEscaped(text_, text, standard ? Escaping::Lines : Escaping::Classic);
+    if (AppendEscaped(text_, text, standard ? Escaping::Lines : Escaping::Classic)) isWestern_ = false;
 }
 
 void TextItem::AddText(std::string_view text) {
@@ -72,6 +73,7 @@ void TextItem::AddText(std::string_view text) {
 void TextItem::AddRawText(std::string_view text) {
     OpenForChange();
     text_ += ToValidUtf8(text);
+    isWestern_ = false;
 }
 
 void TextItem::AddSpecial(std::string_view special) {
@@ -94,7 +96,7 @@ void TextItem::AddSpecial(std::string_view special) {
 }
 
 void TextItem::WriteStart() {
-    const Scripts scripts = Writer().Standard() ? ScriptsOf(text_) : Scripts{};
+    const Scripts scripts = Writer().Standard() ? ScriptsOf(text_, isWestern_) : Scripts{};
     EmitTextItem(Writer(), Settings(), text_, scripts, Session().settings);
 }
 

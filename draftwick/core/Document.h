@@ -201,7 +201,7 @@ public:
 
     // The reader's window.
 
-    /// The title of the window. Default empty. Written as it is: braces break the file.
+    /// The title of the window. Default empty. In the classic spelling it is written as it is: braces break the file.
     const std::string& Caption() const { return settings_.caption; }
     void SetCaption(std::string_view caption) { Change(settings_.caption, caption); }
     /// Default dwViewNone: this and the two settings below are not written.

@@ -158,10 +158,17 @@ void OutputFiles::OpenBody(Session& session) {
         const std::string& chosen = session.settings.tempPath;
         UniqueFile body = CreateUniqueFile(files, chosen.empty() ? TempFolder(session) : chosen, "~dw",
                                            ".tmp", platform::Creation::ExclusivePrivate);
-        std::string fullName = files.FullName(body.name);
-        body_ = std::make_unique<BlockWriter>(std::move(body.file), std::move(body.name));
+        try {
+            std::string fullName = files.FullName(body.name);
+            body_ = std::make_unique<BlockWriter>(std::move(body.file), body.name);
+            bodyFileName_ = std::move(fullName);
+        } catch (...) {
+            body.file.reset();
+            std::error_code ignored;
+            files.Delete(body.name, ignored);
+            throw;
+        }
         bodyFiles_ = &files;
-        bodyFileName_ = std::move(fullName);
     }
     session.writer.output.SetStream(body_.get());
 }

@@ -49,13 +49,13 @@ enum dwShapeTextWrap : std::int32_t {
 /// written when its first paragraph or row is added or when it is closed; from then on they and those of its parts
 /// refuse ("Shape"). Lengths are 16 bits in twips.
 ///
-/// A shape without text takes the place of the mark between its paragraph and the next, which then goes on in the same
-/// line: anchor such shapes in the last paragraph, or before one that has a text box.
+/// In the classic spelling a shape without text takes the place of the mark between its paragraph and the next, which
+/// then goes on in the same line: anchor such shapes in the last paragraph, or before one that has a text box.
 ///
 /// Pictures are looked up, judged and, where they must be, converted when the shape is about to be written. The call
 /// that would write it is then refused with dwErrPictureFileNotFound (also for a folder, and for a picture frame
-/// without a picture), dwErrUnsupportedFileType (also for an extension in capitals), error 481 (a file that is not
-/// the picture that its name promises) or std::system_error; nothing is written yet, and the name or the file can
+/// without a picture), dwErrUnsupportedFileType, error 481 (a file that is not the
+/// picture that its name promises) or std::system_error; nothing is written yet, and the name or the file can
 /// still be mended.
 class DRAFTWICK_API Shape final : public detail::HeldBy<Paragraph, RowContainer> {
 public:
@@ -133,8 +133,8 @@ public:
     bool BehindText() const { return values_.behindText; }
     void SetBehindText(bool on) { Change(values_.behindText, on); }
 
-    /// Degrees clockwise, kept as a whole number of 65536ths; written only when it is above 0. Default 0. Error 6 beyond
-    /// 32767.
+    /// Degrees clockwise, kept as a whole number of 65536ths. In the classic spelling it is written only when it is
+    /// above 0, and 3 percent too small. Default 0. Error 6 beyond 32767.
     double Rotation() const { return values_.rotation; }
     void SetRotation(double degrees) { Change(values_.rotation, degrees); }
     /// Mirrored from left to right. Default false.
@@ -149,8 +149,8 @@ public:
     void SetAdjustValues(std::int32_t index, std::int32_t value);
 
     /// If the shape is a picture frame, indicates that it's part of a paragraph. Default false. Such a picture is scaled
-    /// to Width and Height, which are taken as twips whatever ScaleMode says: use dwTwips. Error 11 when the picture
-    /// has no size of its own that could be scaled.
+    /// to Width and Height; in the classic spelling they are taken as twips whatever ScaleMode says: use dwTwips.
+    /// Error 11 when the picture has no size of its own that could be scaled.
     bool InLine() const { return values_.inLine; }
     void SetInLine(bool on) { Change(values_.inLine, on); }
 

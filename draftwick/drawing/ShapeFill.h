@@ -89,9 +89,10 @@ public:
     const std::string& ShadeArray() const { return values_.shadeArray; }
     void SetShadeArray(std::string_view colors);
 
-    /// The file of the picture or pattern, or of the picture that a picture frame shows: ".jpg", ".jpeg", ".emf",
-    /// ".wmf", ".gif" or ".bmp", in small letters. Empty (default) for none. It is looked up when the shape is
-    /// written, see Shape.
+    /// The file of the picture or pattern, or of the picture that a picture frame shows: JPEG, PNG, GIF, BMP, EMF or
+    /// WMF, told by its first bytes, else by its extension. In the classic spelling the extension alone tells, in small
+    /// letters: ".jpg", ".jpeg", ".gif", ".bmp", ".emf" or ".wmf". Empty (default) for none. It is looked up when the
+    /// shape is written, see Shape.
     const std::string& Picture() const { return values_.picture; }
     void SetPicture(std::string_view fileName);
     /// The bytes of such a file, in place of Picture: what they are is told by the first of them. Empty for none. Read at

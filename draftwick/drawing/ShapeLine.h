@@ -75,8 +75,8 @@ public:
 
     using Part::Part;
 
-    /// Default dwSLSSingle. dwSLSNone: none of the other settings is written; what a reader then draws is the
-    /// reader's choice.
+    /// Default dwSLSSingle. dwSLSNone: none of the other settings is written, in the classic spelling nothing at all:
+    /// what a reader then draws is the reader's choice.
     dwShapeLineStyle Style() const { return values_.style; }
     void SetStyle(dwShapeLineStyle style) { Change(values_.style, style); }
     /// Default dwSLTNone.

@@ -4,7 +4,8 @@
 
 namespace draftwick {
 
-/// Which way the lines of a text box run. Both vertical directions are written with the same number.
+/// Which way the lines of a text box run. In the classic spelling both vertical directions are written with
+/// the same number.
 enum dwShapeTextFlow : std::int32_t { dwSTFHorizontal = 1, dwSTFTopToBottom = 2, dwSTFBottomToTop = 3 };
 
 /// The text box of a shape: its margins and direction. Refuses once the shape is written ("Shape"). Lengths are 16

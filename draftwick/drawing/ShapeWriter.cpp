@@ -1,4 +1,5 @@
 #include <draftwick/drawing/internal/Writers.h>
+#include <draftwick/model/internal/Session.h>
 
 #include <array>
 
@@ -119,7 +120,8 @@ ShapePictures OpenPictures(const Session& session, const ShapeSettings& settings
     ShapePictures pictures;
     if (settings.IsPictureFrame()) {
         pictures.fill = fill.pictureData != nullptr ? fill.pictureData : open(fill.picture);
-        if (settings.IsInlinePicture()) ScaleOf(settings, *pictures.fill);
+        const bool classic = session.settings.spelling != dwSpellingStandard;
+        if (classic && settings.IsInlinePicture()) ScaleOf(settings, *pictures.fill);
         return pictures;
     }
     if (fill.style >= dwSFSPattern && fill.style <= dwSFSPicStretch) {
@@ -166,7 +168,7 @@ void EmitShapeTextStart(RtfWriter& writer) {
 
 void EmitShapeEnd(RtfWriter& writer, const ShapeSettings& settings, const OpenPicture* inlinePicture) {
     std::optional<OpenPicture::Scale> scale;
-    if (inlinePicture != nullptr) scale = ScaleOf(settings, *inlinePicture);
+    if (inlinePicture != nullptr && !writer.Standard()) scale = ScaleOf(settings, *inlinePicture);
     if (!writer.layout.ShapeTextPending) {
         const bool endsInRow = writer.layout.TableEndsSection;
         if (endsInRow && writer.Standard()) writer.Word("par");

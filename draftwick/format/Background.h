@@ -46,8 +46,8 @@ public:
     double Shading() const { return values_.shading; }
     void SetShading(double percent) { Change(values_.shading, percent); }
 
-    /// The colour of the shading, or of the lines of a pattern (RTF \cfpat). Shading of text and cells is written
-    /// without a colour. Default black.
+    /// The colour of the shading, or of the lines of a pattern (RTF \cfpat). In the classic spelling shading of text
+    /// and cells is written without a colour; in the standard one it is this colour, mixed with white. Default black.
     std::int32_t Color() const { return values_.color; }
     void SetColor(std::int32_t color) { Change(values_.color, color); }
 

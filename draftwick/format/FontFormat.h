@@ -74,7 +74,7 @@ public:
     void SetAllCaps(bool on) { Change(values_.allCaps, on); }
 
     /// Small and below the line (RTF \sub). Setting it to true ends Superscript; the other way round it does
-    /// not, and both are written.
+    /// not: Superscript is written, in the classic spelling both are.
     bool Subscript() const { return values_.subscript; }
     void SetSubscript(bool on);
 
@@ -83,7 +83,8 @@ public:
     void SetSuperscript(bool on) { Change(values_.superscript, on); }
 
     /// How far Subscript stands below the line (RTF \dn): points, rounded to a whole number, ties to even. Written
-    /// only together with Subscript. Default 3. Error 6 outside of 16 bits.
+    /// only together with Subscript, and only in the classic spelling: readers show the two words together too low and at
+    /// full size. Default 3. Error 6 outside of 16 bits.
     double SubscriptPosition() const { return values_.subscriptPosition; }
     void SetSubscriptPosition(double points) { Change(values_.subscriptPosition, points); }
 

@@ -120,12 +120,13 @@ void EmitScripts(RtfWriter& writer, const Scripts& scripts, const V& format) {
         writer.Word("dbch");
         writer.Word("af", format.font.Position());
     }
-    if (!scripts.rightToLeft) return;
+    if (!scripts.rightToLeft && !scripts.complex) return;
     writer.Word("rtlch");
     if (format.font) writer.Word("af", format.font.Position());
     writer.Word("afs", format.size.Written());
     if (format.bold) writer.Word("ab");
     if (format.italic) writer.Word("ai");
+    if (!scripts.rightToLeft) writer.Word("ltrch");
 }
 
 V DefaultFontFormat(const DocumentSettings& document) {

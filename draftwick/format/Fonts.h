@@ -27,10 +27,11 @@ public:
     Font(const detail::Origin& origin, std::string name, std::int32_t index)
         : Node(origin), name_(std::move(name)), index_(index) {}
 
-    /// The name it was added with. Written as it is: braces, backslashes and semicolons break the file.
+    /// The name it was added with. In the classic spelling it is written as it is: braces, backslashes and semicolons
+    /// break the file.
     const std::string& Name() const noexcept { return name_; }
 
-    /// The name of a font to take where there is none of this name (RTF \falt), as it is. Default empty: not
+    /// The name of a font to take where there is none of this name (RTF \falt), written as Name is. Default empty: not
     /// written.
     const std::string& AltName() const { return values_.altName; }
     void SetAltName(std::string_view name) { Change(values_.altName, name); }

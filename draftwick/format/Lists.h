@@ -55,7 +55,8 @@ public:
     void SetFollow(dwListNumberFollow follow) { Change(values_.follow, follow); }
 
     /// The text of the number, in which \L1 to \L9 stand for the current numbers of the levels 1 to 9. Default: the
-    /// level's own number and a full stop. Written as it is: braces and other backslashes break the file.
+    /// level's own number and a full stop. In the classic spelling it is written as it is: braces and other backslashes
+    /// break the file, and readers cut a text of ten characters or more.
     const std::string& Format() const { return values_.format; }
     void SetFormat(std::string_view format) { Change(values_.format, format); }
 
@@ -101,7 +102,7 @@ class DRAFTWICK_API List final : public detail::Node {
 public:
     List(const detail::Origin& origin, std::string name, std::int32_t index);
 
-    /// The name it was added with. Written as it is.
+    /// The name it was added with. In the classic spelling it is written as it is.
     const std::string& Name() const noexcept { return name_; }
 
     /// Level 1 to 9. Error 9 for any other.

@@ -46,8 +46,11 @@ LevelText ReadLevelFormat(std::string_view format, bool standard) {
         } else if (standard) {
             if (format.compare(at, 2, "\r\n") == 0) ++at;
             const std::size_t first = at;
-            if (DecodeUtf8(format, at) > 0xFFFF) ++result.length;
-            AppendEscaped(result.text, format.substr(first, at - first), Escaping::OneLine);
+            const char32_t character = DecodeUtf8(format, at);
+            if (character > 0xFFFF) ++result.length;
+            // The characters 0 to 8 would stand for the numbers of levels.
+            AppendEscaped(result.text, character <= 8 ? "\uFFFD" : format.substr(first, at - first),
+                          Escaping::OneLine);
         } else {
             AppendUtf8(result.text, DecodeUtf8(format, at));
         }

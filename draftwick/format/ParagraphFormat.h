@@ -52,7 +52,8 @@ public:
     /// Starts from the defaults and the document's WidowOrphanControl.
     explicit ParagraphFormat(detail::Owner owner);
 
-    /// Default dwAlignLeft.
+    /// Default dwAlignLeft. In the standard spelling text whose first letter is Hebrew or Arabic runs from right to
+    /// left, and dwAlignLeft is where its lines begin: on the right.
     dwParagraphAlign Align() const { return values_.align; }
     void SetAlign(dwParagraphAlign align) { Change(values_.align, align); }
 
@@ -111,7 +112,8 @@ public:
     void SetSuppressHyphen(bool on) { Change(values_.suppressHyphen, on); }
 
     /// No single first or last line on a page (RTF \widctlpar, \nowidctlpar). Default: the document's
-    /// WidowOrphanControl when the object was created; written where it differs from the document's.
+    /// WidowOrphanControl when the object was created; written where it differs from the document's, in the standard
+    /// spelling also where it is on.
     bool WidowOrphanControl() const { return values_.widowOrphanControl; }
     void SetWidowOrphanControl(bool on) { Change(values_.widowOrphanControl, on); }
 

@@ -20,7 +20,8 @@ public:
     Style(const detail::Origin& origin, std::string name, std::int32_t index)
         : Node(origin), name_(std::move(name)), index_(index) {}
 
-    /// The name it was added with. Written as it is: braces, backslashes and semicolons break the file.
+    /// The name it was added with. In the classic spelling it is written as it is: braces, backslashes and semicolons
+    /// break the file.
     const std::string& Name() const noexcept { return name_; }
 
     /// The position among the styles of its kind, from 0.
@@ -53,7 +54,7 @@ public:
     std::shared_ptr<draftwick::FontFormat> FontFormat();
     std::shared_ptr<ParagraphBorders> Borders();
     std::shared_ptr<draftwick::Background> Background();
-    /// Copied to paragraphs with the style, but not written in the stylesheet.
+    /// Copied to paragraphs with the style. In the classic spelling they are not written in the stylesheet.
     std::shared_ptr<draftwick::TabStops> TabStops();
 
     static const Class& Describe();
@@ -78,7 +79,8 @@ private:
     Parts parts_;
 };
 
-/// A named look of runs of text (RTF \cs). Runs only name it, with Run::SetStyleName: the reader applies it.
+/// A named look of runs of text (RTF \cs), which name it with Run::SetStyleName. In the classic spelling they say
+/// nothing of its look: the reader applies it.
 class DRAFTWICK_API TextStyle final : public Style {
 public:
     TextStyle(const detail::Origin& origin, std::string name, std::int32_t index);

@@ -9,6 +9,7 @@
 namespace draftwick {
 
 void RaiseFileError(std::error_code error, std::string_view action, const std::string& name) {
+    if (error == std::errc::not_enough_memory) throw std::bad_alloc();
     std::string what = "cannot ";
     what += action;
     what += " '" + name + "'";
@@ -75,7 +76,6 @@ void BlockWriter::Flush() noexcept {
 
 void BlockWriter::Report() {
     const std::error_code failure = std::exchange(failure_, {});
-    if (failure == std::errc::not_enough_memory) throw std::bad_alloc();
     if (failure) RaiseFileError(failure, "write", name_);
 }
 

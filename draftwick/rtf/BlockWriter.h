@@ -11,7 +11,7 @@
 
 namespace draftwick {
 
-/// Raises FileError: "cannot write 'name': no space left on device".
+/// Raises FileError: "cannot write 'name': no space left on device"; std::bad_alloc when memory is what lacks.
 [[noreturn]] void RaiseFileError(std::error_code error, std::string_view action, const std::string& name);
 
 /// Collects bytes and hands them to a file in large blocks.

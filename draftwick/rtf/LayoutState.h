@@ -19,6 +19,7 @@ struct LayoutState {
     bool TableEndsSection = false;           ///< a row came last: the end of the section needs a \par
     RowState row{};
     Direction direction = Direction::None;  ///< of the paragraph, as far as its text is known
+    bool AlignsLeft = false;                ///< the paragraph, as all do that say nothing else
     bool ShapeTextPending = false;          ///< the first paragraph or row of a shape opens its text group
     bool InlinePicture = false;             ///< the shape being written is a picture in the text
 };

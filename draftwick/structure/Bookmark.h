@@ -21,7 +21,7 @@ public:
 
     Bookmark(const detail::Origin& origin, std::string_view name, bool isStart);
 
-    /// Written as it is: braces and backslashes in it break the file. Default: as added.
+    /// In the classic spelling it is written as it is: braces and backslashes break the file. Default: as added.
     const std::string& Name() const { return values_.name; }
     void SetName(std::string_view name) { Change(values_.name, name); }
 

@@ -46,8 +46,8 @@ public:
     dwCellVerticalAlign VerticalAlign() const { return values_.verticalAlign; }
     void SetVerticalAlign(dwCellVerticalAlign align) { Change(values_.verticalAlign, align); }
 
-    /// Default 0: nothing is written, as for dwReadNormal. The word stands after the cell's right edge, where
-    /// readers take it for the next cell.
+    /// Default 0: nothing is written, as for dwReadNormal. In the classic spelling the word stands after the cell's
+    /// right edge, where readers take it for the next cell.
     dwCellOrientation Orientation() const { return values_.orientation; }
     void SetOrientation(dwCellOrientation orientation) { Change(values_.orientation, orientation); }
 

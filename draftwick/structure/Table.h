@@ -48,7 +48,8 @@ public:
     double Gap() const { return Read(values_.gap); }
     void SetGap(Measure length) { Change(values_.gap, length); }
 
-    /// Where the row begins, from the left margin. It does not move the right edges of the cells. Default -95 twips.
+    /// Where the row begins, from the left margin. In the classic spelling it does not move the right edges of the
+    /// cells, so that the first cell is as much wider. Default -95 twips.
     double Left() const { return Read(values_.left); }
     void SetLeft(Measure length) { Change(values_.left, length); }
 
@@ -67,7 +68,8 @@ public:
     bool KeepTogether() const { return values_.keepTogether; }
     void SetKeepTogether(bool on) { Change(values_.keepTogether, on); }
 
-    /// The lines around and in the row. Readers that draw only those of cells are common.
+    /// The lines around and in the row. Readers that draw only those of cells are common: in the standard spelling the
+    /// cells have them on sides that have no border of their own.
     std::shared_ptr<TableBorders> Borders();
     /// Where the row stands on the page; all rows of a table should say the same.
     std::shared_ptr<draftwick::Frame> Frame();

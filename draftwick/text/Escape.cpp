@@ -1,5 +1,6 @@
 #include <draftwick/base/Units.h>
 #include <draftwick/text/Escape.h>
+#include <draftwick/text/Scripts.h>
 #include <draftwick/text/Utf8.h>
 
 #include <array>
@@ -33,7 +34,8 @@ std::size_t SkipPlain(std::string_view text, std::size_t position, Escaping how)
 
 }  // namespace
 
-void AppendEscaped(std::string& to, std::string_view text, Escaping how) {
+bool AppendEscaped(std::string& to, std::string_view text, Escaping how) {
+    bool hasScripts = false;
     std::size_t copied = 0;
     std::size_t at = 0;
     const auto copy = [&] { to.append(text, copied, at - copied); };
@@ -42,6 +44,7 @@ void AppendEscaped(std::string& to, std::string_view text, Escaping how) {
         const char c = text[at];
         if (static_cast<unsigned char>(c) >= 0x80) {
             std::size_t next = at;
+            hasScripts |= MayNeedScripts(c);
             if (DecodeUtf8(text, next) == ReplacementCharacter) {
                 copy();
                 AppendUtf8(to, ReplacementCharacter);
@@ -79,6 +82,7 @@ void AppendEscaped(std::string& to, std::string_view text, Escaping how) {
         copied = at;
     }
     copy();
+    return hasScripts;
 }
 
 std::string EscapeText(std::string_view text, Escaping how) {

@@ -20,6 +20,11 @@ bool RunsToTheLeft(char32_t character) {
            || InBlock(character, 0x1E800, 0x1EFFF);
 }
 
+/// Devanagari to Myanmar, and Khmer.
+bool IsComplex(char32_t character) {
+    return InBlock(character, 0x0900, 0x109F) || InBlock(character, 0x1780, 0x17FF);
+}
+
 /// Hangul Jamo, radicals to the last Hangul syllable, compatibility and wide forms, ideographs beyond 16 bits.
 bool IsEastAsian(char32_t character) {
     return InBlock(character, 0x1100, 0x11FF) || InBlock(character, 0x2E80, 0xD7FF)
@@ -35,35 +40,46 @@ bool HasNoDirection(char32_t character) {
            || InBlock(character, 0x06F0, 0x06F9) || InBlock(character, 0x1F000, 0x1FAFF);
 }
 
-/// Whether there is a letter that is not part of a control word.
-bool HasLetter(std::string_view ascii) {
-    for (std::size_t at = 0; at < ascii.size(); ++at) {
-        if (IsAsciiLetter(ascii[at])) return true;
-        if (ascii[at] != '\\') continue;
-        std::size_t end = at + 1;
-        while (end < ascii.size() && IsAsciiLetter(ascii[end])) ++end;
-        at = std::max(end - 1, at + 1);  // what is escaped, a backslash perhaps, begins no word
+void Note(char32_t character, Scripts& scripts) {
+    scripts.rightToLeft |= RunsToTheLeft(character);
+    scripts.complex |= IsComplex(character);
+    scripts.eastAsian |= IsEastAsian(character);
+}
+
+/// Behind the control word or symbol at a backslash.
+std::size_t SkipControl(std::string_view text, std::size_t at) {
+    const std::size_t first = ++at;
+    while (at < text.size() && IsAsciiLetter(text[at])) ++at;
+    return at == first ? at + 1 : at;
+}
+
+/// What the characters from a position on say, up to the first that tells a direction; the position behind it.
+std::size_t FindDirection(std::string_view text, Scripts& scripts) {
+    std::size_t at = 0;
+    while (at < text.size() && scripts.direction == Direction::None) {
+        if (text[at] == '\\') {
+            at = SkipControl(text, at);
+        } else if (static_cast<unsigned char>(text[at]) < 0x80) {
+            if (IsAsciiLetter(text[at++])) scripts.direction = Direction::LeftToRight;
+        } else {
+            const char32_t character = DecodeUtf8(text, at);
+            Note(character, scripts);
+            if (!HasNoDirection(character))
+                scripts.direction =
+                    RunsToTheLeft(character) ? Direction::RightToLeft : Direction::LeftToRight;
+        }
     }
-    return false;
+    return at;
 }
 
 }  // namespace
 
-Scripts ScriptsOf(std::string_view text) {
+Scripts ScriptsOf(std::string_view text, bool onlyDirection) {
     Scripts scripts;
-    for (std::size_t at = 0;;) {
-        const std::size_t end = SkipAscii(text, at);
-        if (scripts.direction == Direction::None && HasLetter(text.substr(at, end - at)))
-            scripts.direction = Direction::LeftToRight;
-        if (end == text.size()) return scripts;
-        at = end;
-        const char32_t character = DecodeUtf8(text, at);
-        const bool toTheLeft = RunsToTheLeft(character);
-        scripts.rightToLeft |= toTheLeft;
-        scripts.eastAsian |= IsEastAsian(character);
-        if (scripts.direction != Direction::None || HasNoDirection(character)) continue;
-        scripts.direction = toTheLeft ? Direction::RightToLeft : Direction::LeftToRight;
-    }
+    std::size_t at = FindDirection(text, scripts);
+    if (onlyDirection || at >= text.size()) return scripts;
+    while ((at = SkipAscii(text, at)) < text.size()) Note(DecodeUtf8(text, at), scripts);
+    return scripts;
 }
 
 }  // namespace draftwick

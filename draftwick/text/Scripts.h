@@ -11,11 +11,19 @@ enum class Direction : unsigned char { None, LeftToRight, RightToLeft };
 struct Scripts {
     Direction direction = Direction::None;
     bool rightToLeft = false;  ///< has Hebrew, Arabic or another script that runs to the left
+    bool complex = false;      ///< has Devanagari, Thai or another script of India and South-East Asia
     bool eastAsian = false;    ///< has Chinese, Japanese or Korean
 };
 
+/// Whether a character that begins with this byte in UTF-8 can be of a script that runs to the left, or East Asian: those
+/// up to U+057F cannot, nor punctuation and symbols (U+2000 to U+2FFF, of which radicals are the last).
+constexpr bool MayNeedScripts(char first) noexcept {
+    const auto byte = static_cast<unsigned char>(first);
+    return byte >= 0xD6 && byte != 0xE2;
+}
+
 /// Of a text in its RTF form, whose control words do not count. By blocks of Unicode, not by the properties of each
-/// character: what is no letter may count as one.
-Scripts ScriptsOf(std::string_view text);
+/// character: what is no letter may count as one. With `onlyDirection` the text is known to be Western.
+Scripts ScriptsOf(std::string_view text, bool onlyDirection = false);
 
 }  // namespace draftwick

@@ -308,6 +308,40 @@ TEST(Picture, FromBytesIsThatFromAFile) {
     EXPECT_EQ(RefusalNumber([&] { without->Finish(); }), dwErrPictureFileNotFound);
 }
 
+// 8 pixels at 96 to the inch are 120 twips; the metafile is two inches by one.
+TEST(Picture, InTheLineHasTheSizeThatIsAskedForOrItsOwn) {
+    const struct {
+        std::string bytes;
+        Measure width, height;
+        std::string size;
+    } cases[] = {
+        {Jpeg, 0, 0, R"(\picwgoal120\pichgoal120 )"},
+        {Jpeg, 1_in, 0, R"(\picwgoal1440\pichgoal1440 )"},
+        {Emf, 0, 2.54_cm, R"(\picwgoal2880\pichgoal1440 )"},
+        {Emf, 720, 36_pt, R"(\picwgoal720\pichgoal720 )"},
+        {MakeWmf(0, 0, 0, 0, 96).substr(22), 1_in, 1_in, R"(\picwgoal1440\pichgoal1440 )"},
+    };
+    for (const auto& [bytes, width, height, size] : cases) {
+        TestDocument built(dwTwips);
+        built->SetSpelling(dwSpellingStandard);
+        const auto paragraph = built.AddParagraph();
+        paragraph->AddPictureData(bytes, width, height);
+        EXPECT_NE(built.Finish().find(size + Hex(bytes).substr(0, 8)), std::string::npos) << size;
+    }
+    TestDocument built(dwTwips);
+    built->SetSpelling(dwSpellingStandard);
+    built.files->Put("a.jpg", Jpeg);
+    const auto paragraph = built.AddParagraph();
+    EXPECT_EQ(RefusalNumber([&] { paragraph->AddPicture("none.jpg"); }), dwErrPictureFileNotFound);
+    EXPECT_EQ(RefusalNumber([&] { paragraph->AddPicture("a.jpg", 32768); }), dwRunOverflow);
+    EXPECT_EQ(RefusalNumber([&] { paragraph->AddPictureData(MakeWmf(0, 0, 0, 0, 96).substr(22), 5); }),
+              dwRunDivisionByZero);
+    EXPECT_EQ(paragraph->CurrentShape(), nullptr);
+    EXPECT_EQ(paragraph->AddPicture("a.jpg", 5)->Fill()->Picture(), "a.jpg");
+    EXPECT_EQ(RefusalNumber([&] { WithShape(dwSKRectangle).section->AddParagraph()->AddPicture("a.jpeg"); }),
+              dwRunInvalidCall);
+}
+
 TEST(Picture, WithTheLineRefusedLeavesNoFileOfTheFill) {
     WithShape built(dwSKRectangle);
     built.files->Put("a.bmp", Bmp);

@@ -42,8 +42,8 @@ struct detail::RunSettings {
     const Background* background;
     const TextBorder* border;
 };
-/// \rtlpar, in the standard spelling, when this is the first text of its paragraph that has a direction, and runs to the
-/// left. It stands before the run's group, in which it would end.
+/// \rtlpar\qr, in the standard spelling, when this is the first text of its paragraph that has a direction, and runs to
+/// the left. It stands before the run's group, in which it would end.
 void EmitDirection(RtfWriter& writer, const Scripts& scripts);
 /// \cs2\b\chbgcross...\chbrdr...: what stands in a run's group before its text.
 void EmitRunFormat(RtfWriter& writer, const RunSettings& run, const Scripts& scripts,

@@ -29,8 +29,8 @@ FontFormat::Values DefaultFontFormat(const DocumentSettings& document);
 /// \b1\fs28: what differs from the reference, or from the style.
 void EmitFontFormatChanges(RtfWriter& writer, const FontFormat::Values& format,
                            const FontFormat::Values& reference, const FontFormat::Values* style = nullptr);
-/// \dbch\af0 for East Asian text, \rtlch\af0\afs24\ab for text that runs to the left: the words that readers take the
-/// look of such text from, beside those for all text.
+/// \dbch\af0 for East Asian text, \rtlch\af0\afs24\ab for text that runs to the left, \rtlch\af0\afs24\ab\ltrch for
+/// that of India: the words that readers take the look of such text from, beside those for all text.
 void EmitScripts(RtfWriter& writer, const Scripts& scripts, const FontFormat::Values& format);
 
 /// \keep\qc\li720\sb0\sa0\sl240\slmult1\ls1\ilvl0
