@@ -63,6 +63,7 @@ public:
 
     // The rest is for the library.
 
+    /// For what knows more than the place that refuses.
     void SetAdvice(std::string advice);
 
 private:
