@@ -109,11 +109,12 @@ Script::Place Script::Follow(ObjectPointer from, std::string_view path,
         Object& object = *place.object;
         const auto given = path.empty() ? arguments : std::span<const Variant>{};
         if (object.Description().FindProperty(member) != nullptr) {
-            place.value = Get(object, member, given);
+            place.value = GetMember(object, member, given);
         } else if (IsNumber(member) || IsConstant(member)) {
-            place.value = Call(object, "Items", {ValueOf(member)});
+            const Variant key = ValueOf(member);
+            place.value = CallMember(object, "Items", {&key, 1});
         } else {
-            place.value = Call(object, member, given);
+            place.value = CallMember(object, member, given);
         }
         if (const auto* next = std::get_if<ObjectPointer>(&place.value))
             place.object = *next;
@@ -136,7 +137,7 @@ void Script::Set(std::string_view setting) const {
     const std::size_t dot = path.rfind('.');
     const bool ofPart = dot != path.npos;
     Object& object = *(ofPart ? Follow(last_, path.substr(0, dot), {}).object : last_);
-    draftwick::Set(object, ofPart ? path.substr(dot + 1) : path, ValueOf(value));
+    SetMember(object, ofPart ? path.substr(dot + 1) : path, ValueOf(value));
 }
 
 void Script::Run(std::string_view step) {

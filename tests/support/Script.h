@@ -10,6 +10,12 @@
 
 namespace draftwick::test {
 
+/// How steps reach members of objects. In the library's own tests it is Get, Set and Call; the tests of another way to
+/// the library put that in their place.
+Variant GetMember(Object& object, std::string_view name, std::span<const Variant> arguments);
+void SetMember(Object& object, std::string_view name, const Variant& value);
+Variant CallMember(Object& object, std::string_view name, std::span<const Variant> arguments);
+
 /// Builds a document by the names of classes' members, in the language of tests/words/README.md.
 class Script {
 public:
