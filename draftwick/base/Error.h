@@ -63,7 +63,7 @@ public:
 
     // The rest is for the library.
 
-    /// For what knows more than the place that refuses.
+    /// What Advice gives from now on.
     void SetAdvice(std::string advice);
 
 private:
