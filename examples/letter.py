@@ -26,7 +26,10 @@ def add_styles(document: Document) -> None:
     subject.font_format.bold = True
     subject.format.space_before = 18
 
-    document.text_styles.add("Title").font_format.italic = True
+    # A text style has a size of its own.
+    title = document.text_styles.add("Title")
+    title.font_format.size = 11
+    title.font_format.italic = True
 
 
 def write_letter(filename: str) -> None:
@@ -34,7 +37,7 @@ def write_letter(filename: str) -> None:
         add_styles(document)
         section = document.add_section()
         section.add_paragraph("Address", "Fenwick & Daughters, bookbinders").add_text_item(
-            "\r\n 12 Mill Lane\r\n Ashford")
+            "\n12 Mill Lane\nAshford")
 
         # What differs from the style is set on the paragraph, before it gets its text.
         date = section.add_paragraph("Letter")

@@ -21,7 +21,7 @@ def add_number(paragraph: Paragraph) -> None:
 
 def add_note(paragraph: Paragraph, text: str, is_endnote: bool = False) -> None:
     add_number(paragraph)
-    note = paragraph.add_footnote(is_endnote).add_paragraph(style_name="Normal")  # a note has one paragraph
+    note = paragraph.add_footnote(is_endnote).add_paragraph(style_name="Normal")
     note.font_format.size = 9
     add_number(note)
     note.add_text_item(" ")

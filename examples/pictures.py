@@ -16,7 +16,7 @@ def write_pictures(filename: str, hills: str, board: str) -> None:
         section = document.add_section()
 
         # [frame]
-        # A picture frame shows a file: JPEG, GIF, BMP, EMF or WMF, told by the end of its name.
+        # A picture frame shows a file: JPEG, PNG, GIF, BMP, EMF or WMF.
         text = section.add_paragraph()
         text.format.align = ParagraphAlign.JUSTIFY
         frame = text.add_shape(ShapeKind.PICTURE_FRAME, width=3, height=2)

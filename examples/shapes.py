@@ -1,4 +1,4 @@
-"""Shapes: a chart of rectangles with fills, outlines and shadows.
+"""Shapes: a chart of rectangles with fills, outlines and shadows, and a star.
 
 usage: shapes.py OUTPUT.rtf
 """
@@ -6,13 +6,14 @@ usage: shapes.py OUTPUT.rtf
 import sys
 
 import draftwick
-from draftwick import FontFamily, Paragraph, Shape, ShapeFillStyle, ShapeKind, ShapeLineStyle, ShapeShadowStyle
+from draftwick import FontFamily, Paragraph, Shape, ShapeFillStyle, ShapeKind, ShapeShadowStyle
 
 
 # [shape]
 # A shape is anchored in a paragraph. Where it stands is counted from the margins, unless it says otherwise.
-def add_box(anchor: Paragraph, left: float, top: float, width: float, height: float, color: str) -> Shape:
-    shape = anchor.add_shape(ShapeKind.RECTANGLE, left=left, top=top, width=width, height=height)
+def add_shape(anchor: Paragraph, kind: ShapeKind, left: float, top: float, width: float, height: float,
+              color: str) -> Shape:
+    shape = anchor.add_shape(kind, left=left, top=top, width=width, height=height)
     shape.fill.style = ShapeFillStyle.SOLID
     shape.fill.color = color
     return shape
@@ -23,22 +24,21 @@ def add_box(anchor: Paragraph, left: float, top: float, width: float, height: fl
 def draw_chart(anchor: Paragraph) -> None:
     """A bar for each quarter, on a wall that is shaded from one colour to another."""
     base = 3.4  # where the bars stand
-    wall = add_box(anchor, 0, 0.5, 6, 2.9, "#c4def0")
+    wall = add_shape(anchor, ShapeKind.RECTANGLE, 0, 0.5, 6, 2.9, "#c4def0")
     wall.fill.style = ShapeFillStyle.SHADE
     wall.fill.back_color = "#ffffff"
     wall.line.color = "#788ca0"
 
     left = 0.6
     for height in 1.1, 1.6, 1.3, 2.3:
-        bar = add_box(anchor, left, base - height, 0.7, height, "#286ea0")
+        bar = add_shape(anchor, ShapeKind.RECTANGLE, left, base - height, 0.7, height, "#286ea0")
         bar.line.width = 1.5  # points
         bar.shadow.style = ShapeShadowStyle.SINGLE
         bar.shadow.color = "#9696a0"
         left += 1.3
     # The last one is striking.
-    mark = add_box(anchor, left - 1.3, base - 2.3, 0.7, 0.35, "#eba028")
-    mark.line.style = ShapeLineStyle.DOUBLE
-    mark.line.width = 3
+    mark = add_shape(anchor, ShapeKind.STAR, left - 1.25, base - 2.2, 0.6, 0.6, "#eba028")
+    mark.line.color = "#ffffff"
 # [chart]
 
 
@@ -51,8 +51,7 @@ def write_shapes(filename: str) -> None:
         title = section.add_paragraph()
         title.font_format.size = 14
         title.add_text_item("Sales by quarter")
-        # Shapes hang on the last paragraph: one without text takes the place of the mark between its paragraph and the next.
-        draw_chart(section.add_paragraph())
+        draw_chart(title)
 
 
 if __name__ == "__main__":

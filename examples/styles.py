@@ -15,7 +15,7 @@ TEAL = "#126a6e"
 def add_styles(document: Document) -> None:
     styles = document.paragraph_styles
 
-    # Readers take the first style for the default. It is neutral, and the others are based on it.
+    # What all text has; the others are based on it.
     normal = styles.add("Normal")
     normal.font_format.size = 11
     normal.format.space_after = 6
@@ -42,8 +42,9 @@ def add_styles(document: Document) -> None:
     bar.width = 2
     bar.spacing = 8
 
-    # A text style is for a part of a paragraph.
+    # A text style is for a part of a paragraph. It has a size of its own.
     amount = document.text_styles.add("Amount")
+    amount.font_format.size = 11
     amount.font_format.bold = True
 # [styles]
 

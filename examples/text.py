@@ -56,7 +56,6 @@ def write_text(filename: str) -> None:
         text.add_text_item(" Water leaves the clay as steam, H")
         two = text.add_text_item("2")
         two.font_format.subscript = True
-        two.font_format.size = 8  # for readers that move the letters and leave them as large as they are
         text.add_text_item("O and nothing else; what ")
         text.add_text_item("else").font_format.underline = UnderlineStyle.WAVE
         text.add_text_item(" there is burns off later.")
@@ -79,11 +78,11 @@ def write_text(filename: str) -> None:
         # [indents]
 
         # [characters]
-        # A line break within a paragraph is CR LF; braces and backslashes need no care.
+        # "\n" is a line break within a paragraph; braces and backslashes need no care.
         last = section.add_paragraph()
         last.format.space_before = 8
-        last.add_text_item("Žofie’s price: 12 € {each} — “ask” at C:\\shop.\r\n ")
-        last.add_text_item("Greek is not in the file’s alphabet: αβγ.")
+        last.add_text_item("Žofie’s price: 12 € {each} — “ask” at C:\\shop.\n")
+        last.add_text_item("All alphabets are at home in the file: αβγ, абв.")
         # [characters]
 
 

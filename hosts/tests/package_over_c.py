@@ -90,7 +90,7 @@ class Package:
 
     def Document(self, filename, **settings):
         made = Over(Over.c.create("Document"))
-        for name, value in {"filename": filename, **settings}.items():
+        for name, value in {"filename": filename, "spelling": draftwick.Spelling.STANDARD, **settings}.items():
             setattr(made, name, value)
         return made
 

@@ -1,6 +1,5 @@
 """The guide's programs in Python write the files of those in C++, through the extension and through the C interface."""
 
-import functools
 import os
 import runpy
 import subprocess
@@ -11,8 +10,6 @@ import pytest
 from conftest import PROGRAMS, ROOT, interface
 from package_over_c import Package
 
-# The programs in C++ write the classic spelling, which has no Greek.
-pytestmark = pytest.mark.filterwarnings("ignore::UnicodeWarning")
 NAMES = sorted(path.stem for path in (ROOT / "examples").glob("*.py"))
 IN_BOTH = [name for name in NAMES if (ROOT / f"examples/{name}.cpp").exists()]
 
@@ -39,16 +36,13 @@ def test_bytes_are_those_of_cpp(host, name, tmp_path, monkeypatch):
     pictures = sorted(tmp_path.glob("*.rtf.*.*g*"), reverse=True)
     for path in tmp_path.glob("*.rtf"):
         path.unlink()
-    spelling = draftwick.Spelling.CLASSIC
-    imported = package(host)
-    monkeypatch.setitem(sys.modules, "draftwick", imported)
-    monkeypatch.setattr(imported, "Document", functools.partial(imported.Document, spelling=spelling))
+    monkeypatch.setitem(sys.modules, "draftwick", package(host))
     run(name, monkeypatch, out, *pictures)
     assert {path.name: path.read_bytes() for path in tmp_path.glob("*.rtf")} == expected
 
 
 @pytest.mark.parametrize("name", NAMES)
-def test_standard_spelling(name, tmp_path, monkeypatch):
+def test_programs_run(name, tmp_path, monkeypatch):
     out = tmp_path / f"{name}.rtf"
     pictures = [ROOT / "tests/pictures/whole.gif"] * 2 if name == "pictures" else []
     run(name, monkeypatch, out, *pictures)
