@@ -30,7 +30,7 @@ const TableBorder* Drawn(const TableBorder* first, const TableBorder* second = n
 }
 
 /// The border of the row that a side of one of its cells has: readers draw the lines of cells alone.
-const TableBorder* RowBorderAt(dwCellBorder side, const RowBorders& row, const CellPlace& place) {
+const TableBorder* RowBorderAt(dwCellBorder side, const TableBorder* const* row, const CellPlace& place) {
     switch (side) {
     case dwCBorderTop:
         return place.below ? Drawn(row[dwTBorderHorizontal], row[dwTBorderTop]) : Drawn(row[dwTBorderTop]);
@@ -43,10 +43,10 @@ const TableBorder* RowBorderAt(dwCellBorder side, const RowBorders& row, const C
 
 void WriteCellBorders(RtfWriter& writer, const CellBorders* borders, const TableBorders* rowBorders,
                       const CellPlace& place) {
-    std::array<const CellBorder*, 5> own{};
+    const CellBorder* own[5] = {};  // by their numbers, as the row's
     if (borders != nullptr)
         borders->ForEach([&](dwCellBorder side, const CellBorder& border) { own[side] = &border; });
-    RowBorders row{};
+    const TableBorder* row[7] = {};
     if (rowBorders != nullptr)
         rowBorders->ForEach([&](dwTableBorder side, const TableBorder& border) { row[side] = &border; });
     for (const dwCellBorder side : {dwCBorderTop, dwCBorderLeft, dwCBorderRight, dwCBorderBottom}) {

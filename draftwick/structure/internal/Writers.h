@@ -9,8 +9,6 @@
 #include <draftwick/structure/PageBorders.h>
 #include <draftwick/structure/Table.h>
 
-#include <array>
-
 namespace draftwick {
 
 /// "{\*\bkmkstart Total}"
@@ -50,8 +48,6 @@ struct CellPlace {
     bool first = false, last = false;  ///< in its row
     bool below = false;                ///< its row follows another one
 };
-/// The borders of a row by their numbers; null for those that were never read.
-using RowBorders = std::array<const TableBorder*, 7>;
 /// \clvertalt\clbrdrt...\cellx1440: what a row says about a cell.
 void EmitCellDefinition(RtfWriter& writer, const CellSettings& cell, const TableBorders* rowBorders,
                         const CellPlace& place);
