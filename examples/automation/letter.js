@@ -2,7 +2,7 @@
 //
 // usage: cscript //nologo letter.js OUTPUT.rtf
 
-var dwRoman = 2, dwInches = 1, dwAlignRight = 2, dwUnderlineSingle = 2;
+var dwSpellingStandard = 2, dwRoman = 2, dwInches = 1, dwAlignRight = 2, dwUnderlineSingle = 2;
 
 // The look of the letter, said once: paragraphs refer to these styles by name.
 function addStyles(document) {
@@ -48,6 +48,7 @@ function addOffer(section) {
 function writeLetter(filename) {
     var document = new ActiveXObject("Draftwick.Document");
     document.Filename = filename;
+    document.Spelling = dwSpellingStandard;
     document.ScaleMode = dwInches;
     document.MarginLeft = 1.1;
     document.MarginRight = 1.1;
