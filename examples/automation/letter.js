@@ -23,7 +23,10 @@ function addStyles(document) {
     subject.FontFormat.Bold = true;
     subject.Format.SpaceBefore = 18;
 
-    document.TextStyles.Add("Title").FontFormat.Italic = true;
+    // A text style has a size of its own.
+    var title = document.TextStyles.Add("Title");
+    title.FontFormat.Size = 11;
+    title.FontFormat.Italic = true;
 }
 
 // [text]
@@ -57,7 +60,7 @@ function writeLetter(filename) {
 
     var section = document.AddSection();
     var sender = addParagraph(section, "Address", "Fenwick & Daughters, bookbinders");
-    sender.AddTextItem("\r\n 12 Mill Lane\r\n Ashford");
+    sender.AddTextItem("\n12 Mill Lane\nAshford");
 
     // What differs from the style is set on the paragraph, before it gets its text.
     var date = section.AddParagraph();
