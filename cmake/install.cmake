@@ -1,4 +1,5 @@
-# What is installed, in two components: runtime (the shared library, the licence) and development (all else).
+# What is installed, in components: runtime (the shared library, the licence), development (all else), and the hosts c and
+# python.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -31,8 +32,15 @@ if(BUILD_SHARED_LIBS)
 endif()
 list(TRANSFORM pc_libs PREPEND " ")
 list(JOIN pc_libs "" pc_libs)
+set(pc_name draftwick)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/draftwick.pc.in ${PROJECT_BINARY_DIR}/draftwick.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/draftwick.pc DESTINATION ${pc_folder} COMPONENT development)
+if(DRAFTWICK_C)
+    set(pc_name draftwick_c)
+    set(pc_libs "")
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/draftwick.pc.in ${PROJECT_BINARY_DIR}/draftwick_c.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/draftwick_c.pc DESTINATION ${pc_folder} COMPONENT c)
+endif()
 
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 # The pages, with links that lead somewhere: headers are elsewhere, and what only the sources have is no link.
@@ -76,11 +84,43 @@ else()
     set(CPACK_COMPONENTS_ALL development)
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libgif-dev")
 endif()
+# What a host links is in the same version of the library, or in the host itself.
+foreach(host IN ITEMS C PYTHON)
+    if(DRAFTWICK_${host})
+        string(TOLOWER ${host} component)
+        list(APPEND CPACK_COMPONENTS_ALL ${component})
+        if(BUILD_SHARED_LIBS)
+            set(CPACK_DEBIAN_${host}_PACKAGE_DEPENDS "libdraftwick${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+        else()
+            set(CPACK_DEBIAN_${host}_PACKAGE_DEPENDS "libgif7")
+        endif()
+    endif()
+endforeach()
+set(CPACK_DEBIAN_C_PACKAGE_NAME libdraftwick-c${PROJECT_VERSION_MAJOR})
+set(CPACK_DEBIAN_C_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-draftwick)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+string(APPEND CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS ", python3 (>= 3.10)")
+# The command, which needs this library and no other version of it.
+if(DRAFTWICK_COMMAND)
+    list(APPEND CPACK_COMPONENTS_ALL command)
+    set(CPACK_DEBIAN_COMMAND_PACKAGE_NAME draftwick)
+    set(CPACK_DEBIAN_COMMAND_PACKAGE_SECTION text)
+    set(CPACK_DEBIAN_COMMAND_PACKAGE_SHLIBDEPS ON)
+    if(BUILD_SHARED_LIBS)
+        set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/draftwick)
+        set(CPACK_DEBIAN_COMMAND_PACKAGE_DEPENDS "libdraftwick${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+    endif()
+    set(CPACK_COMPONENT_COMMAND_DESCRIPTION
+        "This command writes Markdown, data in CSV and JSON,\nand documents in JSON as RTF that word processors open.")
+endif()
 string(CONCAT description
     "Draftwick streams documents of sections, paragraphs, tables, lists, notes,\n"
     "fields, shapes and pictures to one RTF file.")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "${description} This is the shared library.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "${description} These are its headers and\nwhat CMake and pkg-config need.")
+set(CPACK_COMPONENT_C_DESCRIPTION "${description} This is the interface for C\nand every language that can call C.")
+set(CPACK_COMPONENT_PYTHON_DESCRIPTION "${description} This is the package for Python 3.")
 # cpack -G ZIP, from the preset automation: what automation hosts on Windows need.
 set(CPACK_ARCHIVE_AUTOMATION_FILE_NAME draftwick-automation-${PROJECT_VERSION}-x64)
 if(WIN32)

@@ -100,9 +100,7 @@ void AddText(Section& section) {
     section.AddParagraph("Normal", "12\u00A0km is 7\u00A0miles, in a non\u2011stop flight");
     // [spaces]
     // [right-to-left]
-    auto hebrew = section.AddParagraph("Normal");
-    hebrew->Format()->SetAlign(dwAlignRight);
-    hebrew->AddTextItem("שלום עולם");
+    section.AddParagraph("Normal", "שלום עולם");
     // [right-to-left]
     // [link]
     auto text = section.AddParagraph("Normal", "Tickets are sold at ");

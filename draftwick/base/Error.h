@@ -63,6 +63,7 @@ public:
 
     // The rest is for the library.
 
+    /// What Advice gives from now on.
     void SetAdvice(std::string advice);
 
 private:

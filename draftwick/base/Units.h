@@ -29,6 +29,7 @@ public:
     /// How many twips the unit has; 0 for a plain number.
     constexpr double TwipsPerUnit() const noexcept { return twipsPerUnit_; }
 
+    /// As long to the other side.
     constexpr Measure operator-() const noexcept { return {-value_, twipsPerUnit_}; }
     friend constexpr Measure operator*(Measure length, double factor) noexcept {
         return {length.value_ * factor, length.twipsPerUnit_};
@@ -48,19 +49,23 @@ inline namespace literals {
 
 /// Inches.
 constexpr Measure operator""_in(long double length) { return {static_cast<double>(length), 1440}; }
+/// The same for a whole number.
 constexpr Measure operator""_in(unsigned long long length) { return {static_cast<double>(length), 1440}; }
 /// Centimetres.
 constexpr Measure operator""_cm(long double length) { return {static_cast<double>(length), 1440 / 2.54}; }
+/// The same for a whole number.
 constexpr Measure operator""_cm(unsigned long long length) {
     return {static_cast<double>(length), 1440 / 2.54};
 }
 /// Millimetres.
 constexpr Measure operator""_mm(long double length) { return {static_cast<double>(length), 1440 / 25.4}; }
+/// The same for a whole number.
 constexpr Measure operator""_mm(unsigned long long length) {
     return {static_cast<double>(length), 1440 / 25.4};
 }
 /// Points of 1/72 inch.
 constexpr Measure operator""_pt(long double length) { return {static_cast<double>(length), 20}; }
+/// The same for a whole number.
 constexpr Measure operator""_pt(unsigned long long length) { return {static_cast<double>(length), 20}; }
 
 }  // namespace literals

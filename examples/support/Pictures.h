@@ -10,6 +10,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace examples {
@@ -102,6 +103,18 @@ inline void WriteJpeg(const std::string& name, int columns, int rows,
     }
     put(127, 7);
     WriteFile(name, file + Bytes({0xFF, 0xD9}));
+}
+
+/// The bytes of a PNG file: a blue ring of 24 by 24 pixels.
+inline std::string RingPng() {
+    constexpr std::string_view Digits =
+        "89504e470d0a1a0a0000000d4948445200000018000000180803000000d7a9cdca00000006504c5445ffffff1e5aa0d5"
+        "f84b32000000424944415478da6360200818c10087308614230ac0258e906164c42183ccc1c546e161b3108b38426040"
+        "25703a17b707710703ce40c419ecb8230a77d4e2490c1800002e67010108cdef4d0000000049454e44ae426082";
+    std::string bytes;
+    for (std::size_t i = 0; i < Digits.size(); i += 2)
+        bytes += static_cast<char>(std::stoi(std::string{Digits.substr(i, 2)}, nullptr, 16));
+    return bytes;
 }
 
 }  // namespace examples

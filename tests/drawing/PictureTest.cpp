@@ -300,7 +300,7 @@ TEST(Picture, FromBytesIsThatFromAFile) {
     WithShape built;
     built.shape->Fill()->SetPictureData(Emf);
     for (const auto& [bytes, number] : refused)
-        EXPECT_EQ(RefusalNumber([&] { built.shape->Fill()->SetPictureData(bytes); }), number);
+        EXPECT_EQ(RefusalNumber([&, &wrong = bytes] { built.shape->Fill()->SetPictureData(wrong); }), number);
     built.shape->AddParagraph();  // with the one before
     WithShape without;
     without.shape->Fill()->SetPictureData(Emf);

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace draftwick::command {
+
+/// A place in an input, as compilers name it.
+struct Place {
+    std::string file;
+    std::int64_t line = 0;    ///< from 1; 0: the file as a whole
+    std::int64_t column = 0;  ///< from 1, in bytes; 0: the line as a whole
+
+    std::string Text() const;
+};
+
+/// What is wrong with an input, and where.
+class Failure : public std::runtime_error {
+public:
+    Failure(const Place& place, const std::string& what)
+        : std::runtime_error(place.Text() + ": error: " + what) {}
+};
+
+/// A line on standard error for what does not keep the document from being written.
+void Warn(const Place& place, const std::string& what);
+
+/// The text of an exception, and what there is to do about it.
+std::string Explain(const std::exception& error);
+
+/// What to say about a name that there is not: the one that was meant, if one is like it, else all of them.
+std::string Alternatives(std::string_view name, const std::vector<std::string_view>& names);
+
+}  // namespace draftwick::command
