@@ -16,7 +16,7 @@ Sub AddProperties(document)
 End Sub
 ' [properties]
 
-Const dwRoman = 2, dwAlignCenter = 3, dwTabRight = 2, dwTabLeaderDots = 2, dwFooter = 2
+Const dwSpellingStandard = 2, dwRoman = 2, dwAlignCenter = 3, dwTabRight = 2, dwTabLeaderDots = 2, dwFooter = 2
 
 Function AddParagraph(container, style)
     Set AddParagraph = container.AddParagraph
@@ -43,6 +43,7 @@ Sub WriteFields(filename)
     Dim document, section, footer, reference, heading
     Set document = CreateObject("Draftwick.Document")
     document.Filename = filename
+    document.Spelling = dwSpellingStandard
     document.PageWidth = 5.83
     document.PageHeight = 4.1
     document.MarginBottom = 0.9

@@ -5,11 +5,13 @@ param([Parameter(Mandatory)] [string] $Filename)
 $ErrorActionPreference = 'Stop'
 
 # [document]
+$dwSpellingStandard = 2
 $dwRoman = 2
 $dwAlignCenter = 3
 
 $document = New-Object -ComObject Draftwick.Document
 $document.Filename = $Filename  # a whole path: the folder of the program is not that of PowerShell
+$document.Spelling = $dwSpellingStandard
 $document.Fonts.Add('Times New Roman').Family = $dwRoman
 $document.DefaultFontName = 'Times New Roman'
 

@@ -4,12 +4,13 @@
 Option Explicit
 
 ' [document]
-Const dwRoman = 2, dwAlignCenter = 3
+Const dwSpellingStandard = 2, dwRoman = 2, dwAlignCenter = 3
 
 Sub WriteReport(filename)
     Dim document, section, title
     Set document = CreateObject("Draftwick.Document")
     document.Filename = filename
+    document.Spelling = dwSpellingStandard
     document.Fonts.Add("Times New Roman").Family = dwRoman
     document.DefaultFontName = "Times New Roman"
 

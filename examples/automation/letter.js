@@ -2,7 +2,7 @@
 //
 // usage: cscript //nologo letter.js OUTPUT.rtf
 
-var dwRoman = 2, dwInches = 1, dwAlignRight = 2, dwUnderlineSingle = 2;
+var dwSpellingStandard = 2, dwRoman = 2, dwInches = 1, dwAlignRight = 2, dwUnderlineSingle = 2;
 
 // The look of the letter, said once: paragraphs refer to these styles by name.
 function addStyles(document) {
@@ -23,7 +23,10 @@ function addStyles(document) {
     subject.FontFormat.Bold = true;
     subject.Format.SpaceBefore = 18;
 
-    document.TextStyles.Add("Title").FontFormat.Italic = true;
+    // A text style has a size of its own.
+    var title = document.TextStyles.Add("Title");
+    title.FontFormat.Size = 11;
+    title.FontFormat.Italic = true;
 }
 
 // [text]
@@ -48,6 +51,7 @@ function addOffer(section) {
 function writeLetter(filename) {
     var document = new ActiveXObject("Draftwick.Document");
     document.Filename = filename;
+    document.Spelling = dwSpellingStandard;
     document.ScaleMode = dwInches;
     document.MarginLeft = 1.1;
     document.MarginRight = 1.1;
@@ -56,7 +60,7 @@ function writeLetter(filename) {
 
     var section = document.AddSection();
     var sender = addParagraph(section, "Address", "Fenwick & Daughters, bookbinders");
-    sender.AddTextItem("\r\n 12 Mill Lane\r\n Ashford");
+    sender.AddTextItem("\n12 Mill Lane\nAshford");
 
     // What differs from the style is set on the paragraph, before it gets its text.
     var date = section.AddParagraph();

@@ -20,6 +20,7 @@ End Sub
 Private Sub WriteStatement(ByVal row As Range, ByVal filename As String)
     Dim document As New Draftwick.Document
     document.Filename = filename
+    document.Spelling = dwSpellingStandard
     document.ScaleMode = dwPoints
     document.Fonts.Add("Calibri").Family = dwSwiss
     document.DefaultFontName = "Calibri"

@@ -30,6 +30,7 @@ Sub AddCell(row, width, text, align, merge, shading)
 End Sub
 ' [cell]
 
+Const dwSpellingStandard = 2
 Const Bed = 1.1, Plant = 2.4, Amount = 1.2
 
 ' [rows]
@@ -68,6 +69,7 @@ Sub WriteTables(filename)
     Dim document, normal, inCell, section, title
     Set document = CreateObject("Draftwick.Document")
     document.Filename = filename
+    document.Spelling = dwSpellingStandard
     document.MarginLeft = 1
     document.MarginRight = 1
     document.Fonts.Add("Arial").Family = dwSwiss
