@@ -74,7 +74,7 @@ TEST_P(FaultsOfAllocations, ReachTheHost) {
         } catch (const Error&) {
         }
         document.reset();
-        EXPECT_EQ(OpenHandles(), handles) << n;
+        EXPECT_LE(OpenHandles(), handles) << n;  // a system closes some of its own now and then
         for (const auto& left : std::filesystem::directory_iterator(folder.Path())) {
             const std::string name = left.path().filename().string();
             EXPECT_FALSE(name.starts_with('~')) << name << " is left of " << n;

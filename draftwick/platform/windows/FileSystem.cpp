@@ -1,6 +1,7 @@
 #include <draftwick/platform/windows/Windows.h>
 
 #include <algorithm>
+#include <iterator>
 #include <sddl.h>
 
 namespace draftwick::platform {
@@ -140,7 +141,19 @@ public:
         return std::uint64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow;
     }
 
+    /// What cleans up after a lack of memory needs none, for names of ordinary length.
     void Delete(const std::string& name, std::error_code& error) override {
+        error.clear();
+        wchar_t brief[MAX_PATH - 12];
+        const int length = name.size() < std::size(brief)
+                               ? ::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, name.data(),
+                                                       static_cast<int>(name.size()), brief, MAX_PATH - 13)
+                               : 0;
+        if (length > 0 && std::find(brief, brief + length, L'\0') == brief + length) {
+            brief[length] = L'\0';
+            if (!::DeleteFileW(brief)) error = LastError();
+            return;
+        }
         const std::wstring wide = ToName(name, error);
         if (!error && !::DeleteFileW(wide.c_str())) error = LastError();
     }
