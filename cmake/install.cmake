@@ -56,7 +56,7 @@ endforeach()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/pages/ DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
-    FILES_MATCHING PATTERN *.cpp PATTERN *.h)
+    FILES_MATCHING REGEX "\\.(cpp|h|py|vbs|js|ps1|bas)$")
 
 # cpack -G DEB, from a build for the prefix /usr: see the preset package. Who gives packages away says who he is with
 # cpack -D CPACK_PACKAGE_CONTACT="...".
