@@ -119,17 +119,18 @@ std::shared_ptr<Shape> Paragraph::AddInLine(std::shared_ptr<const OpenPicture> p
 }
 
 void Paragraph::WriteStart() {
-    NoteLists(Writer().lists, Stored(format_));
+    detail::Session& session = Session();
+    NoteLists(session.writer.lists, Stored(format_));
     Holder().WriteParagraphMark();
     Holder().WriteParagraphPlace(frame_.Find());
-    EmitParagraph(Writer(),
+    EmitParagraph(session.writer,
                   {.style = style_,
                    .borders = borders_.Find(),
                    .background = background_.Find(),
                    .fontFormat = fontFormat_.Find(),
                    .format = Stored(format_),
                    .tabStops = tabStops_.Find()},
-                  Session().settings);
+                  session.settings);
 }
 
 const Class& Paragraph::Describe() {

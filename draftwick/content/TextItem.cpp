@@ -61,7 +61,7 @@ TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(
 }
 
 void TextItem::Append(std::string_view text) {
-    const bool standard = Session().settings.spelling == dwSpellingStandard;
+    const bool standard = SharedSession()->settings.spelling == dwSpellingStandard;
     if (AppendEscaped(text_, text, standard ? Escaping::Lines : Escaping::Classic)) isWestern_ = false;
 }
 
@@ -96,8 +96,9 @@ void TextItem::AddSpecial(std::string_view special) {
 }
 
 void TextItem::WriteStart() {
-    const Scripts scripts = Writer().Standard() ? ScriptsOf(text_, isWestern_) : Scripts{};
-    EmitTextItem(Writer(), Settings(), text_, scripts, Session().settings);
+    detail::Session& session = Session();
+    const Scripts scripts = session.writer.Standard() ? ScriptsOf(text_, isWestern_) : Scripts{};
+    EmitTextItem(session.writer, Settings(), text_, scripts, session.settings);
 }
 
 const Class& TextItem::Describe() {
