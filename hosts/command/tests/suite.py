@@ -15,7 +15,7 @@ ROOT = Path(__file__).resolve().parents[3]
 sys.path.append(str(ROOT / "tests/interop"))
 import constructs  # noqa: E402
 import refusals  # noqa: E402
-import specification  # noqa: E402
+import commonmark  # noqa: E402
 from readers import Odt, local, plain  # noqa: E402
 
 GUIDE = ROOT / "docs/guide/command.md"
@@ -33,7 +33,7 @@ def write():
         subprocess.run([PROGRAM, source, *construct.options, "-o", FOLDER / f"{construct.file}.rtf"], check=True)
         subprocess.run(["pandoc", "-f", "markdown+task_lists-implicit_figures", "-t", "rtf", "-s", *construct.options,
                         source, "-o", FOLDER / f"pandoc-{construct.file}.rtf"], check=True)
-    for i, group in enumerate(specification.groups()):
+    for i, group in enumerate(commonmark.groups()):
         subprocess.run([PROGRAM, "-", "-o", FOLDER / f"group-{i}.rtf"], input=group.encode(), check=True,
                        stderr=subprocess.DEVNULL)
 
@@ -75,16 +75,16 @@ class Command(unittest.TestCase):
     def test_guide_has_the_measured_table(self):
         self.assertIn(constructs.guide_table(), GUIDE.read_text(), "suite.py guide writes it")
 
-    def test_every_example_of_the_specification_is_a_whole_document(self):
-        for case in specification.cases():
+    def test_every_example_of_commonmark_is_a_whole_document(self):
+        for case in commonmark.cases():
             result = run("-", "--toc", "--number-sections", data=case.encode())
             self.assertEqual((result.returncode, fault(result.stdout)), (0, None), (case, result.stderr))
 
     def test_libreoffice_reads_the_text_that_the_reference_renderer_shows(self):
-        for i, group in enumerate(specification.groups()):
+        for i, group in enumerate(commonmark.groups()):
             root = Odt(FOLDER / f"group-{i}.odt").roots["content"]
             words = [w for e in root.iter() if local(e.tag) in ("p", "h") for w in plain(e).split()]
-            self.assertEqual(words, specification.reference(group), group)
+            self.assertEqual(words, commonmark.reference(group), group)
 
     def test_refusals(self):
         """Exit status and message, and that nothing is left: neither the output nor half of it."""
