@@ -1,17 +1,21 @@
 """Tables from rows of data."""
 
+from __future__ import annotations
+
 import itertools
 import numbers
 from collections.abc import Mapping
 
-from . import _draftwick as _d
+from ._values import enumeration
 
 _PEEKED = 100  # rows that say how wide a column is and where its texts stand
 _NARROWEST, _WIDEST = 4, 40  # letters of a column that others make room for
 
 
-def add_table_from(self, rows, columns=None, *, into=None, widths=None, header=True, lines=True, stripes="#f2f2f2",
-                   style_name="", text=None):
+def add_table_from(self, rows: Iterable[Any], columns: Sequence[str] | Mapping[Any, str] | None = None, *,
+                   into: Section | Header | Footnote | Shape | None = None, widths: Sequence[_Length] | None = None,
+                   header: bool = True, lines: bool = True, stripes: _Color | None = "#f2f2f2", style_name: str = "",
+                   text: Callable[[Any], str] | None = None) -> int:
     """Adds a table of rows of data, one after the other: however many there are, none is kept.
 
     rows is any iterable of lists, tuples, mappings or rows of a database cursor, or a frame of pandas or polars. columns has
@@ -49,8 +53,8 @@ def add_table_from(self, rows, columns=None, *, into=None, widths=None, header=T
 class _Table:
     def __init__(self, into, widths, right, lines, style_name):
         self.into, self.widths, self.right, self.lines, self.style_name = into, widths, right, lines, style_name
-        self.right_align = _d._enumeration("ParagraphAlign").RIGHT
-        self.solid, self.single = _d._enumeration("Texture").SOLID, _d._enumeration("BorderStyle").SINGLE
+        self.right_align = enumeration("ParagraphAlign").RIGHT
+        self.solid, self.single = enumeration("Texture").SOLID, enumeration("BorderStyle").SINGLE
 
     def add_row(self, texts, color, is_header=False):
         row = self.into.add_table(keep_together=True)

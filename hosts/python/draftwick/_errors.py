@@ -1,0 +1,37 @@
+"""What the library refuses with: an exception for each of its numbers."""
+
+import builtins
+import functools
+
+from . import _draftwick
+from ._texts import ERRORS
+
+
+class Error(Exception):
+    """What Draftwick refuses. Nothing has changed."""
+
+    number, advice = 0, ""
+
+    def __str__(self):
+        return " ".join(str(text) for text in (*self.args[:1], self.advice) if text)
+
+
+KINDS = {name: type(name, (Error, getattr(builtins, relative)) if relative else (Error,),
+                    {"__doc__": doc, "__module__": "draftwick", "number": number})
+         for name, (number, relative, doc) in ERRORS.items()}
+_BY_NUMBER = {kind.number: kind for kind in KINDS.values()}
+
+
+@functools.cache
+def _names():
+    import json
+
+    from ._names import Names
+    return Names(json.loads(_draftwick._describe()))
+
+
+def refusal(number, text, advice):
+    """The exception of an error of the library."""
+    error = _BY_NUMBER.get(number, Error)(text)
+    error.number, error.advice = number, _names().respelled(advice)
+    return error
