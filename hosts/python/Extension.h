@@ -95,7 +95,7 @@ template <class Row>
 struct Member {
     const Row* row;
     const char* name;
-    PythonType* type;  ///< of what it gives; nullptr: nothing
+    PythonType* type;               ///< of what it gives; nullptr: nothing
     PyObject* arguments = nullptr;  ///< the names of a method's arguments, a tuple
 };
 

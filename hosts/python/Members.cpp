@@ -73,12 +73,15 @@ PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject
         PyObject* const name = PyTuple_GetItem(keywords, i);
         PyObject* const value = given[positional + static_cast<std::size_t>(i)];
         std::size_t at = 0;
-        while (at < arguments.size() && !IsSame(PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at)), name)) ++at;
+        while (at < arguments.size()
+               && !IsSame(PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at)), name))
+            ++at;
         if (at == arguments.size()) {
             KeepSetting(method, settings, name, value);
         } else {
             if (found[at] != nullptr)
-                RaisePython(PyExc_TypeError, std::string{method.name} + "() got '" + TextOf(name) + "' twice");
+                RaisePython(PyExc_TypeError,
+                            std::string{method.name} + "() got '" + TextOf(name) + "' twice");
             found[at] = value;
         }
     }
@@ -89,8 +92,9 @@ PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject
         else if (arguments[at].initial)
             values[at] = *arguments[at].initial;
         else
-            RaisePython(PyExc_TypeError, std::string{method.name} + "() misses the argument '"
-                                             + TextOf(PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at))) + "'");
+            RaisePython(PyExc_TypeError,
+                        std::string{method.name} + "() misses the argument '"
+                            + TextOf(PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at))) + "'");
     }
     Owned result(ToPython(method.row->call(Use(self), {values.data(), arguments.size()}), method.type,
                           AsWrapper(self).keeper));
@@ -135,15 +139,18 @@ PyObject* IndexedItem(PyObject* self, PyObject* arguments) {
             RaisePython(PyExc_TypeError, std::string{name} + " has no items that can be set so");
         std::array<Variant, 2> values{FromPython(index, *row->arguments[0].type, object)};
         if (value != nullptr) values[1] = FromPython(value, *row->type, object);
-        Variant result = (value == nullptr ? row->get : row->set)(Use(self), {values.data(), value == nullptr ? 1u : 2u});
-        return ToPython(std::move(result), value == nullptr ? TypeOf(row->type) : nullptr, AsWrapper(self).keeper);
+        Variant result =
+            (value == nullptr ? row->get : row->set)(Use(self), {values.data(), value == nullptr ? 1u : 2u});
+        return ToPython(std::move(result), value == nullptr ? TypeOf(row->type) : nullptr,
+                        AsWrapper(self).keeper);
     });
 }
 
 void AddAttributes(PythonClass& to, std::string_view owner, std::span<const ClassProperty> rows) {
     for (const ClassProperty& row : rows) {
         const auto [name, doc, arguments] = TextOf(owner, row.name);
-        auto& property = to.properties.emplace_back(Member<ClassProperty>{&row, name, TypeOf(row.type), arguments});
+        auto& property =
+            to.properties.emplace_back(Member<ClassProperty>{&row, name, TypeOf(row.type), arguments});
         const bool isIndexed = !row.arguments.empty();
         const auto get = row.get == nullptr ? nullptr : isIndexed ? GetIndexed : GetAttribute;
         const auto set = row.set == nullptr || isIndexed ? nullptr : SetAttribute;

@@ -183,8 +183,7 @@ void AddTypes(PyObject* module) {
         PythonClass& one = state.classes[row];
         AddAttributes(one, row->name, row->properties);
         AddMethods(one, *row);
-        if (row == &Document::Describe())
-            one.functions.push_back({"_finish_to", FinishTo, METH_O, nullptr});
+        if (row == &Document::Describe()) one.functions.push_back({"_finish_to", FinishTo, METH_O, nullptr});
         AddType(module, one, TextOf(row->name), row->create == nullptr ? 0 : Py_TPFLAGS_BASETYPE,
                 one.items == nullptr ? std::vector<PyType_Slot>{} : ItemSlots());
     }
@@ -198,7 +197,8 @@ PyObject* Describe(PyObject*, PyObject*) {
 }
 
 PyMethodDef functions[] = {
-    {"_describe", Describe, METH_NOARGS, "The whole object model as JSON: classes, members, enumerations."}, {}};
+    {"_describe", Describe, METH_NOARGS, "The whole object model as JSON: classes, members, enumerations."},
+    {}};
 
 int Execute(PyObject* module) {
     return Guarded(-1, [&] {

@@ -10,7 +10,8 @@ namespace {
 /// The constant of a number; the plain number where an enumeration does not have it.
 PyObject* Constant(std::int32_t number, PythonType& type) {
     if (type.constants.get() == nullptr) {
-        const Owned made = Take(PyObject_CallFunction(Module().enumeration, "s", TextOf(type.row->name).name));
+        const Owned made =
+            Take(PyObject_CallFunction(Module().enumeration, "s", TextOf(type.row->name).name));
         type.constants = Take(PySequence_List(made.get()));
     }
     const auto& values = type.row->values;

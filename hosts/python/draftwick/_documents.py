@@ -1,4 +1,5 @@
-"""What documents and objects have in Python beyond what all hosts have. What has annotations goes into the stubs."""
+"""What documents and objects have in Python beyond what all hosts have. What has annotations goes into the stubs, in their terms."""
+# mypy: ignore-errors
 
 from __future__ import annotations
 
@@ -26,7 +27,8 @@ class Document:
     def __init__(self, filename=None, /, **properties):
         if filename is not None:
             self.filename = filename
-        Object.__init__(self, **properties)
+        for name, value in properties.items():
+            setattr(self, name, value)
 
     def __enter__(self: _Self) -> _Self:
         return self

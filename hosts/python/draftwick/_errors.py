@@ -1,4 +1,5 @@
 """What the library refuses with: an exception for each of its numbers."""
+# mypy: ignore-errors
 
 import builtins
 import functools
@@ -10,6 +11,7 @@ from ._texts import ERRORS
 class Error(Exception):
     """What Draftwick refuses. Nothing has changed."""
 
+    __module__ = "draftwick"
     number, advice = 0, ""
 
     def __str__(self):

@@ -42,6 +42,7 @@ def plain(value, kind):
 class IndexedProperty:
     """A property with several values, by their numbers as the library counts them."""
 
+    __module__ = "draftwick"
     __slots__ = "_owner", "_name"
 
     def __init__(self, owner, name):
