@@ -8,11 +8,24 @@ from . import _draftwick
 from ._texts import ERRORS
 
 
+@functools.cache
+def _names():
+    import json
+
+    from ._names import Names
+    return Names(json.loads(_draftwick._describe()))
+
+
 class Error(Exception):
     """What Draftwick refuses. Nothing has changed."""
 
     __module__ = "draftwick"
-    number, advice = 0, ""
+    number, _advice = 0, ""
+
+    @property
+    def advice(self):
+        """What was refused and what to do about it; empty when there is nothing to add."""
+        return self._advice and _names().respelled(self._advice)
 
     def __str__(self):
         return " ".join(str(text) for text in (*self.args[:1], self.advice) if text)
@@ -24,16 +37,8 @@ KINDS = {name: type(name, (Error, getattr(builtins, relative)) if relative else 
 _BY_NUMBER = {kind.number: kind for kind in KINDS.values()}
 
 
-@functools.cache
-def _names():
-    import json
-
-    from ._names import Names
-    return Names(json.loads(_draftwick._describe()))
-
-
 def refusal(number, text, advice):
     """The exception of an error of the library."""
     error = _BY_NUMBER.get(number, Error)(text)
-    error.number, error.advice = number, _names().respelled(advice)
+    error.number, error._advice = number, advice
     return error

@@ -40,8 +40,10 @@ class Error(Exception):
     """What Draftwick refuses. Nothing has changed."""
     number: int
     """Of the refusal, the same in all languages."""
-    advice: str
-    """What was refused and what to do about it; empty when there is nothing to add."""
+    @property
+    def advice(self) -> str:
+        """What was refused and what to do about it; empty when there is nothing to add."""
+        ...
 
 class Object:
     """What all objects of the model are. Two of them are equal when they are the same object of the document."""
