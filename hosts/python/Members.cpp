@@ -135,14 +135,18 @@ PyObject* IndexedItem(PyObject* self, PyObject* arguments) {
         if (PyArg_ParseTuple(arguments, "sO|O", &name, &index, &value) == 0) throw PythonError{};
         Object& object = Use(self);
         const ClassProperty* row = object.Description().FindProperty(name);
-        if (row == nullptr || row->arguments.empty() || (value != nullptr && row->set == nullptr))
-            RaisePython(PyExc_TypeError, std::string{name} + " has no items that can be set so");
+        if (row == nullptr || row->arguments.empty()) RaisePython(PyExc_AttributeError, name);
+        if (value != nullptr && row->set == nullptr) {
+            RaisePython(PyExc_TypeError, std::string{TextOf(object.Description().name, name).name}
+                                             + " has no items that can be set");
+        }
         std::array<Variant, 2> values{FromPython(index, *row->arguments[0].type, object)};
-        if (value != nullptr) values[1] = FromPython(value, *row->type, object);
-        Variant result =
-            (value == nullptr ? row->get : row->set)(Use(self), {values.data(), value == nullptr ? 1u : 2u});
-        return ToPython(std::move(result), value == nullptr ? TypeOf(row->type) : nullptr,
-                        AsWrapper(self).keeper);
+        if (value == nullptr)
+            return ToPython(row->get(Use(self), {values.data(), 1}), TypeOf(row->type),
+                            AsWrapper(self).keeper);
+        values[1] = FromPython(value, *row->type, object);
+        row->set(Use(self), values);
+        return Py_NewRef(Py_None);
     });
 }
 

@@ -29,7 +29,10 @@ def plain(value, kind):
     if kind == "Color" and isinstance(value, tuple):
         if len(value) != 3:
             raise TypeError("a colour has three parts: red, green and blue")
-        return int.from_bytes(bytes(value), "little")
+        red, green, blue = map(operator.index, value)
+        if not (0 <= red <= 255 and 0 <= green <= 255 and 0 <= blue <= 255):
+            raise ValueError("red, green and blue are numbers from 0 to 255")
+        return red | green << 8 | blue << 16
     if isinstance(value, datetime.date):
         return tuple(value.timetuple()[:6])
     if hasattr(value, "__index__"):
