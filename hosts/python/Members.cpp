@@ -54,8 +54,10 @@ void SetAttributes(PyObject* object, PyObject* settings) {
 
 bool IsSame(PyObject* one, PyObject* other) { return one == other || PyUnicode_Compare(one, other) == 0; }
 
-constexpr std::size_t MostArguments = 6;
+/// Most methods have few arguments, and room for more would take a tenth of a call.
+constexpr std::size_t FewArguments = 2, MostArguments = 6;
 
+template <std::size_t Most>
 PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject* const* given,
                      std::size_t positional, PyObject* keywords) {
     Object& object = Use(self);
@@ -65,7 +67,7 @@ PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject
                                          + std::to_string(arguments.size()) + " arguments, not "
                                          + std::to_string(positional));
     }
-    std::array<PyObject*, MostArguments> found{};
+    std::array<PyObject*, Most> found{};
     std::copy_n(given, positional, found.begin());
     Owned settings;
     const Py_ssize_t named = keywords == nullptr ? 0 : PyTuple_Size(keywords);
@@ -85,7 +87,7 @@ PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject
             found[at] = value;
         }
     }
-    std::array<Variant, MostArguments> values;
+    std::array<Variant, Most> values;
     for (std::size_t at = 0; at < arguments.size(); ++at) {
         if (found[at] != nullptr)
             values[at] = FromPython(found[at], *arguments[at].type, object);
@@ -108,8 +110,11 @@ constexpr std::size_t MostMethods = 16;
 template <std::size_t Place>
 PyObject* MethodAt(PyObject* self, PyObject* const* given, Py_ssize_t positional, PyObject* keywords) {
     return Guarded([&] {
-        const PythonClass& one = Module().classes.find(&AsWrapper(self).object->Description())->second;
-        return CallMethod(one.methods[Place], self, given, static_cast<std::size_t>(positional), keywords);
+        const auto& one = Module().classes.find(&AsWrapper(self).object->Description())->second;
+        const auto& method = one.methods[Place];
+        const auto call = method.row->arguments.size() <= FewArguments ? CallMethod<FewArguments>
+                                                                       : CallMethod<MostArguments>;
+        return call(method, self, given, static_cast<std::size_t>(positional), keywords);
     });
 }
 using FastMethod = PyObject* (*)(PyObject*, PyObject* const*, Py_ssize_t, PyObject*);
