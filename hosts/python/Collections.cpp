@@ -21,8 +21,7 @@ std::int32_t PositionFrom(PyObject* self, std::int32_t index) {
     const std::int32_t count = CountOf(self);
     const std::int32_t position = index < 0 ? index + count : index;
     if (position >= 0 && position < count) return position + 1;
-    RaisePython(PyExc_IndexError,
-                "there is no item " + std::to_string(index) + " among " + std::to_string(count));
+    RaisePython(PyExc_IndexError, "there is no item %d among %d", index, count);
 }
 
 Py_ssize_t Length(PyObject* self) {

@@ -48,7 +48,12 @@ inline void Check(int status) {
     if (status != 0) throw PythonError{};
 }
 
-[[noreturn]] void RaisePython(PyObject* type, const std::string& text);
+/// With a format as PyErr_Format has it.
+template <class... Arguments>
+[[noreturn]] void RaisePython(PyObject* type, const char* format, Arguments... arguments) {
+    PyErr_Format(type, format, arguments...);
+    throw PythonError{};
+}
 
 /// Sets Python's error from the exception that is being handled.
 void SetErrorFromException() noexcept;
@@ -144,12 +149,12 @@ PyObject* PythonText(const std::string& text);
 std::string TextOf(PyObject* text);
 
 /// What Python calls a class, a member ("Section.AddParagraph") or an enumeration, its docstring and its arguments.
-struct Text {
+struct Wording {
     const char* name = nullptr;
     const char* doc = nullptr;
     PyObject* arguments = nullptr;
 };
-Text TextOf(std::string_view owner, std::string_view member = {});
+Wording WordingOf(std::string_view owner, std::string_view member = {});
 
 void AddAttributes(PythonClass& to, std::string_view owner, std::span<const ClassProperty> rows);
 void AddMethods(PythonClass& to, const Class& row);

@@ -19,8 +19,7 @@ PyObject* GetAttribute(PyObject* self, void* closure) {
 int SetAttribute(PyObject* self, PyObject* value, void* closure) {
     return Guarded(-1, [&] {
         const auto& property = *static_cast<const Member<ClassProperty>*>(closure);
-        if (value == nullptr)
-            RaisePython(PyExc_AttributeError, std::string{property.name} + " cannot be deleted");
+        if (value == nullptr) RaisePython(PyExc_AttributeError, "%s cannot be deleted", property.name);
         const Variant plain = FromPython(value, *property.row->type, Use(self));
         property.row->set(Use(self), {&plain, 1});
         return 0;
@@ -40,8 +39,7 @@ PyObject* GetIndexed(PyObject* self, void* closure) {
 void KeepSetting(const Member<ClassMethod>& method, Owned& settings, PyObject* name, PyObject* value) {
     auto* const type = reinterpret_cast<PyObject*>(method.type == nullptr ? nullptr : method.type->objects);
     if (type == nullptr || PyObject_HasAttr(type, name) == 0)
-        RaisePython(PyExc_TypeError, std::string{method.name} + "() got an unexpected keyword argument '"
-                                         + TextOf(name) + "'");
+        RaisePython(PyExc_TypeError, "%s() got an unexpected keyword argument '%U'", method.name, name);
     if (settings.get() == nullptr) settings = Take(PyDict_New());
     Check(PyDict_SetItem(settings.get(), name, value));
 }
@@ -62,11 +60,9 @@ PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject
                      std::size_t positional, PyObject* keywords) {
     Object& object = Use(self);
     const auto& arguments = method.row->arguments;
-    if (positional > arguments.size()) {
-        RaisePython(PyExc_TypeError, std::string{method.name} + "() takes at most "
-                                         + std::to_string(arguments.size()) + " arguments, not "
-                                         + std::to_string(positional));
-    }
+    if (positional > arguments.size())
+        RaisePython(PyExc_TypeError, "%s() takes at most %zu arguments, not %zu", method.name,
+                    arguments.size(), positional);
     std::array<PyObject*, Most> found{};
     std::copy_n(given, positional, found.begin());
     Owned settings;
@@ -81,9 +77,7 @@ PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject
         if (at == arguments.size()) {
             KeepSetting(method, settings, name, value);
         } else {
-            if (found[at] != nullptr)
-                RaisePython(PyExc_TypeError,
-                            std::string{method.name} + "() got '" + TextOf(name) + "' twice");
+            if (found[at] != nullptr) RaisePython(PyExc_TypeError, "%s() got '%U' twice", method.name, name);
             found[at] = value;
         }
     }
@@ -94,9 +88,8 @@ PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject
         else if (arguments[at].initial)
             values[at] = *arguments[at].initial;
         else
-            RaisePython(PyExc_TypeError,
-                        std::string{method.name} + "() misses the argument '"
-                            + TextOf(PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at))) + "'");
+            RaisePython(PyExc_TypeError, "%s() misses the argument '%U'", method.name,
+                        PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at)));
     }
     Owned result(ToPython(method.row->call(Use(self), {values.data(), arguments.size()}), method.type,
                           AsWrapper(self).keeper));
@@ -140,11 +133,10 @@ PyObject* IndexedItem(PyObject* self, PyObject* arguments) {
         if (PyArg_ParseTuple(arguments, "sO|O", &name, &index, &value) == 0) throw PythonError{};
         Object& object = Use(self);
         const ClassProperty* row = object.Description().FindProperty(name);
-        if (row == nullptr || row->arguments.empty()) RaisePython(PyExc_AttributeError, name);
-        if (value != nullptr && row->set == nullptr) {
-            RaisePython(PyExc_TypeError, std::string{TextOf(object.Description().name, name).name}
-                                             + " has no items that can be set");
-        }
+        if (row == nullptr || row->arguments.empty()) RaisePython(PyExc_AttributeError, "%s", name);
+        if (value != nullptr && row->set == nullptr)
+            RaisePython(PyExc_TypeError, "%s has no items that can be set",
+                        WordingOf(object.Description().name, name).name);
         std::array<Variant, 2> values{FromPython(index, *row->arguments[0].type, object)};
         if (value == nullptr)
             return ToPython(row->get(Use(self), {values.data(), 1}), TypeOf(row->type),
@@ -157,7 +149,7 @@ PyObject* IndexedItem(PyObject* self, PyObject* arguments) {
 
 void AddAttributes(PythonClass& to, std::string_view owner, std::span<const ClassProperty> rows) {
     for (const ClassProperty& row : rows) {
-        const auto [name, doc, arguments] = TextOf(owner, row.name);
+        const auto [name, doc, arguments] = WordingOf(owner, row.name);
         auto& property =
             to.properties.emplace_back(Member<ClassProperty>{&row, name, TypeOf(row.type), arguments});
         const bool isIndexed = !row.arguments.empty();
@@ -178,7 +170,7 @@ void AddMethods(PythonClass& to, const Class& one) {
             to.items = &method;  // Python has [] for it
             continue;
         }
-        const auto [name, doc, arguments] = TextOf(one.name, row.name);
+        const auto [name, doc, arguments] = WordingOf(one.name, row.name);
         method.name = name;
         method.arguments = arguments;
         const auto function = reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(Methods[place]));

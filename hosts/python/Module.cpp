@@ -12,22 +12,18 @@ State& Module() {
     return state;
 }
 
-Text TextOf(std::string_view owner, std::string_view member) {
+Wording WordingOf(std::string_view owner, std::string_view member) {
     std::string key{owner};
     if (!member.empty()) key.append(".").append(member);
-    Text text;
+    Wording wording;
     PyObject* const found = PyDict_GetItemString(Module().texts, key.c_str());
-    if (found == nullptr) RaisePython(PyExc_ImportError, "no text of " + key);
-    if (PyArg_ParseTuple(found, "ss|O", &text.name, &text.doc, &text.arguments) == 0) throw PythonError{};
-    return text;
+    if (found == nullptr) RaisePython(PyExc_ImportError, "no text of %s", key.c_str());
+    if (PyArg_ParseTuple(found, "ss|O", &wording.name, &wording.doc, &wording.arguments) == 0)
+        throw PythonError{};
+    return wording;
 }
 
 // Errors.
-
-void RaisePython(PyObject* type, const std::string& text) {
-    PyErr_SetString(type, text.c_str());
-    throw PythonError{};
-}
 
 namespace {
 
@@ -156,14 +152,14 @@ PyObject* FinishTo(PyObject* self, PyObject* write) {
 
 // The module.
 
-void AddType(PyObject* module, PythonClass& to, const Text& text, unsigned flags,
+void AddType(PyObject* module, PythonClass& to, const Wording& wording, unsigned flags,
              std::vector<PyType_Slot> slots) {
     to.functions.push_back({});
     slots.push_back({Py_tp_getset, to.attributes.data()});
     slots.push_back({Py_tp_methods, to.functions.data()});
-    slots.push_back({Py_tp_doc, const_cast<char*>(text.doc)});
+    slots.push_back({Py_tp_doc, const_cast<char*>(wording.doc)});
     slots.push_back({0, nullptr});
-    PyType_Spec spec{text.name, sizeof(Wrapper), 0, Py_TPFLAGS_DEFAULT | flags, slots.data()};
+    PyType_Spec spec{wording.name, sizeof(Wrapper), 0, Py_TPFLAGS_DEFAULT | flags, slots.data()};
     auto* const base = reinterpret_cast<PyObject*>(Module().common.type);
     to.type = reinterpret_cast<PyTypeObject*>(Checked(PyType_FromSpecWithBases(&spec, base)));
     Check(PyModule_AddType(module, to.type));
@@ -173,7 +169,7 @@ void AddTypes(PyObject* module) {
     State& state = Module();
     AddAttributes(state.common, "Object", CommonProperties());
     state.common.functions.push_back({"_item", IndexedItem, METH_VARARGS, nullptr});
-    AddType(module, state.common, TextOf("Object"), Py_TPFLAGS_BASETYPE,
+    AddType(module, state.common, WordingOf("Object"), Py_TPFLAGS_BASETYPE,
             {{Py_tp_new, Slot(New)},
              {Py_tp_dealloc, Slot(Deallocate)},
              {Py_tp_richcompare, Slot(Compare)},
@@ -184,7 +180,7 @@ void AddTypes(PyObject* module) {
         AddAttributes(one, row->name, row->properties);
         AddMethods(one, *row);
         if (row == &Document::Describe()) one.functions.push_back({"_finish_to", FinishTo, METH_O, nullptr});
-        AddType(module, one, TextOf(row->name), row->create == nullptr ? 0 : Py_TPFLAGS_BASETYPE,
+        AddType(module, one, WordingOf(row->name), row->create == nullptr ? 0 : Py_TPFLAGS_BASETYPE,
                 one.items == nullptr ? std::vector<PyType_Slot>{} : ItemSlots());
     }
     for (auto& [type, made] : state.types) {
@@ -213,9 +209,9 @@ int Execute(PyObject* module) {
         state.datetime = Import("datetime", "datetime");
         state.intEnum = Import("enum", "IntEnum");
         AddTypes(module);
-        const std::string version = std::to_string(VersionMajor) + '.' + std::to_string(VersionMinor) + '.'
-                                    + std::to_string(VersionRevision);
-        Check(PyModule_AddStringConstant(module, "__version__", version.c_str()));
+        const Owned version =
+            Take(PyUnicode_FromFormat("%d.%d.%d", VersionMajor, VersionMinor, VersionRevision));
+        Check(PyModule_AddObjectRef(module, "__version__", version.get()));
         return 0;
     });
 }

@@ -11,7 +11,7 @@ namespace {
 PyObject* Constant(std::int32_t number, PythonType& type) {
     if (type.constants.get() == nullptr) {
         const Owned made =
-            Take(PyObject_CallFunction(Module().enumeration, "s", TextOf(type.row->name).name));
+            Take(PyObject_CallFunction(Module().enumeration, "s", WordingOf(type.row->name).name));
         type.constants = Take(PySequence_List(made.get()));
     }
     const auto& values = type.row->values;
