@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (error) std::abort();
     const std::string recorded = files.Bytes("recorded");
     std::uint32_t claimed = 0;
-    for (int byte = 3; byte >= 0; --byte)
+    for (std::size_t byte = 4; byte-- > 0;)
         claimed = claimed << 8 | static_cast<unsigned char>(recorded[48 + byte]);
     if (claimed != recorded.size()) std::abort();
     // One pixel more is not there.
