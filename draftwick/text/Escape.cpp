@@ -81,7 +81,7 @@ void AppendSpecial(std::string& to, std::string_view text, std::size_t& at, Esca
         ++at;
     } else if (how != Escaping::Classic) {
         to += how == Escaping::Lines ? "\\line " : " ";
-        at += text.compare(at, 2, "\r\n") == 0 ? 2 : 1;
+        at += text.compare(at, 2, "\r\n") == 0 ? 2U : 1U;
     } else if (text.compare(at, 3, "\r\n ") == 0) {
         to += "\\line ";
         at += 3;
