@@ -2,7 +2,7 @@
 
 #include "hosts/command/Options.h"
 
-#include <istream>
+#include <cstdint>
 #include <memory>
 #include <string>
 
