@@ -35,12 +35,12 @@ std::vector<double> ColumnWidths(cmark_node* table, double room) {
 
 template <class Render>
 void Writer::Repeat(const Tag& tag, const Render& render) {
-    const Datum* value = values_.Find(tag.name);
+    const Datum* value = Find(tag.name);
     const bool present = value != nullptr && !(value->text.empty() && value->members.empty());
     const auto renderWith = [&](const Datum& row) {
-        values_.Push(&row);
+        values_.push_back(&row);
         render();
-        values_.Pop();
+        values_.pop_back();
     };
     if (present == (tag.kind == Tag::Kind::Inverted)) return;
     if (!present || value->kind == Datum::Kind::Scalar) {

@@ -47,12 +47,11 @@ std::string BookmarkOf(std::string_view anchor, std::size_t number) {
 
 Writer::Writer(const Manuscript& manuscript, const Style& style, const Extras& extras,
                const std::shared_ptr<Document>& document)
-    : manuscript_(manuscript), style_(style), extras_(extras), document_(document),
-      values_(manuscript.Settings()) {}
+    : manuscript_(manuscript), style_(style), extras_(extras), document_(document) {}
 
 void Writer::Write(const Datum* row) {
-    values_ = Values(manuscript_.Settings());
-    if (row != nullptr) values_.Push(row);
+    values_ = {&manuscript_.Settings()};
+    if (row != nullptr) values_.push_back(row);
     const bool first = section_ == nullptr;
     FindTargets();
     if (first) Properties();

@@ -28,8 +28,9 @@ std::string Address(const std::string& url) {
 
 }  // namespace
 
-const Datum* Values::Find(std::string_view name) const {
-    for (auto row = rows_.rbegin(); row != rows_.rend(); ++row) {
+/// The value of a name in the innermost row that has it; nullptr when there is none.
+const Datum* Writer::Find(std::string_view name) const {
+    for (auto row = values_.rbegin(); row != values_.rend(); ++row) {
         // "." is the item of a list of texts.
         if (name == "." && (*row)->kind == Datum::Kind::Scalar) return *row;
         if (const Datum* value = (*row)->Find(name)) return value;
@@ -37,12 +38,12 @@ const Datum* Values::Find(std::string_view name) const {
     return nullptr;
 }
 
-std::string Values::Text(std::string_view name) const {
+std::string Writer::ValueOf(std::string_view name) const {
     const Datum* value = Find(name);
     if (value != nullptr && value->kind == Datum::Kind::Scalar) return value->text;
     if (value != nullptr) Refuse(Quoted(name) + " is no text; {{#" + std::string{name} + "}} repeats it");
     std::vector<std::string_view> names;
-    for (const Datum* row : rows_) {
+    for (const Datum* row : values_) {
         for (const std::string_view one : row->Names()) names.push_back(one);
     }
     Refuse("there is no value " + Quoted(name) + "; " + Alternatives(name, names));
@@ -50,11 +51,9 @@ std::string Values::Text(std::string_view name) const {
 
 std::string Writer::Filled(std::string_view text) const {
     if (!manuscript_.Merging()) return std::string{text};
-    return Locate([this] { return Place{manuscript_.File()}; },
-                  [&] {
-                      return Replaced(text, "{{", "}}",
-                                      [this](std::string_view name) { return values_.Text(name); });
-                  });
+    return Locate(
+        [this] { return Place{manuscript_.File()}; },
+        [&] { return Replaced(text, "{{", "}}", [this](std::string_view name) { return ValueOf(name); }); });
 }
 
 void Writer::Fill(cmark_node* first, Paragraph& paragraph) {
@@ -124,8 +123,7 @@ void Writer::Inline(cmark_node* node, Paragraph& paragraph, Look look) {
     case CMARK_NODE_FOOTNOTE_REFERENCE: Note(node, paragraph); return;
     case CMARK_NODE_HTML_INLINE:
         if (const Tag* tag = Manuscript::TagOf(node)) {
-            Say(Locate([tag] { return tag->place; }, [&] { return values_.Text(tag->name); }), paragraph,
-                look);
+            Say(Locate([tag] { return tag->place; }, [&] { return ValueOf(tag->name); }), paragraph, look);
         } else if (Literal(node).starts_with("<br")) {
             Say("\n", paragraph, look);
         } else if (const auto bookmark = bookmarks_.find(node); bookmark != bookmarks_.end()) {

@@ -60,18 +60,10 @@ private:
 JsonReader::JsonReader(Input& input) : input_(input), parser_(std::make_unique<Parser>()) {}
 JsonReader::~JsonReader() = default;
 
-/// What is read next begins here.
-void JsonReader::Begin() {
-    input_.SkipBlanks();
-    line_ = input_.Line();
-    column_ = input_.Column();
-}
-
 void JsonReader::ReadScalar() {
     constexpr unsigned Flags = rapidjson::kParseStopWhenDoneFlag | rapidjson::kParseNumbersAsStringsFlag
                                | rapidjson::kParseValidateEncodingFlag;
-    Begin();
-    if (input_.Peek() == '{' || input_.Peek() == '[')
+    if (Peek() == '{' || Peek() == '[')
         command::Refuse("a single value is expected, not an object or a list");
     const std::size_t start = input_.Tell();
     Stream stream{input_};
@@ -81,9 +73,12 @@ void JsonReader::ReadScalar() {
     Refuse(result.Code());
 }
 
-JsonReader::Next JsonReader::Peek() {
-    Begin();
-    return input_.Peek() == '{' ? Next::Object : input_.Peek() == '[' ? Next::Array : Next::Scalar;
+/// What is read next begins here.
+char JsonReader::Peek() {
+    input_.SkipBlanks();
+    line_ = input_.Line();
+    column_ = input_.Column();
+    return input_.Peek();
 }
 
 Variant JsonReader::Scalar() {
@@ -97,10 +92,7 @@ std::string JsonReader::Text() {
     return std::move(text != nullptr ? *text : parser_->written);
 }
 
-bool JsonReader::Accept(char mark) {
-    Begin();
-    return input_.Peek() == mark && input_.Take() == mark;
-}
+bool JsonReader::Accept(char mark) { return Peek() == mark && input_.Take() == mark; }
 
 bool JsonReader::More(char close, bool first) {
     if (Accept(close)) return false;
@@ -119,24 +111,19 @@ void JsonReader::Enter(char open, const char* expected) {
 
 /// What is wrong with a member is said at its name.
 void JsonReader::ReadName(std::string& name) {
-    Begin();
-    if (input_.Peek() != '"') Refuse(rapidjson::kParseErrorObjectMissName);
+    if (Peek() != '"') Refuse(rapidjson::kParseErrorObjectMissName);
     name = Text();
     input_.SkipBlanks();
-    if (input_.Peek() != ':') {
-        Begin();
+    if (input_.Peek() == ':') {
+        input_.Take();
+    } else {
+        Peek();
         Refuse(rapidjson::kParseErrorObjectMissColon);
     }
-    input_.Take();
-}
-
-bool JsonReader::AtEnd() {
-    Begin();
-    return input_.AtEnd();
 }
 
 void JsonReader::End() {
-    if (!AtEnd()) Refuse(rapidjson::kParseErrorDocumentRootNotSingular);
+    if (Peek() != '\0' || !input_.AtEnd()) Refuse(rapidjson::kParseErrorDocumentRootNotSingular);
 }
 
 }  // namespace draftwick::command

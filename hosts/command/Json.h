@@ -18,8 +18,8 @@ public:
     JsonReader(const JsonReader&) = delete;
     JsonReader& operator=(const JsonReader&) = delete;
 
-    enum class Next { Object, Array, Scalar };
-    Next Peek();
+    /// What comes next: a brace, a bracket, or the first byte of anything else; a zero byte at the end.
+    char Peek();
 
     /// Reads an object. What is called with the name of each member, a const std::string&, reads its value.
     template <class Member>
@@ -48,8 +48,6 @@ public:
     bool Accept(char mark);
     /// Whether something follows in what was begun, before the mark that ends it; both are taken.
     bool More(char close, bool first);
-    /// Whether nothing follows.
-    bool AtEnd();
     /// Refuses what follows.
     void End();
 
@@ -59,7 +57,6 @@ public:
 private:
     struct Parser;
 
-    void Begin();
     void Enter(char open, const char* expected);
     void ReadName(std::string& name);
     void ReadScalar();

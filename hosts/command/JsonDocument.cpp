@@ -30,11 +30,9 @@ private:
         if (method != nullptr && IsCallable(description, *method)) return Add(*object, *method);
         const Member member(object, prefix + name);
         switch (json_.Peek()) {
-        case JsonReader::Next::Scalar: member.Set(json_.Scalar()); break;
-        case JsonReader::Next::Object:
-            member.WantsKey() ? Members(object, prefix + name + '.') : Members(member.Part());
-            break;
-        case JsonReader::Next::Array: Items(name, *member.Part()); break;
+        case '{': member.WantsKey() ? Members(object, prefix + name + '.') : Members(member.Part()); break;
+        case '[': Items(name, *member.Part()); break;
+        default: member.Set(json_.Scalar());
         }
     }
 
@@ -48,7 +46,7 @@ private:
     /// ["text", {"Paragraph": ...}]
     void Content(Object& object) {
         json_.Array([&] {
-            if (json_.Peek() == JsonReader::Next::Scalar) return AddText(object);
+            if (json_.Peek() != '{' && json_.Peek() != '[') return AddText(object);
             bool first = true;
             json_.Object([&](const std::string& name) {
                 if (!std::exchange(first, false))
@@ -85,7 +83,7 @@ private:
 
     /// What a method adds: null, its first argument, or an object with arguments and then with members of what it adds.
     void Add(Object& object, const ClassMethod& method) {
-        if (json_.Peek() != JsonReader::Next::Scalar) return AddObject(object, method);
+        if (json_.Peek() == '{' || json_.Peek() == '[') return AddObject(object, method);
         Variant value = json_.Scalar();
         const bool alone = std::holds_alternative<std::monostate>(value);
         if (!alone && (method.arguments.empty() || !CanBeGiven(method.arguments[0])))

@@ -13,9 +13,7 @@ bool WriteMarkdown(Manuscript manuscript, const Options& options) {
     Style style;
     for (const std::string& one : options.styles) style.Add(one);
     if (!options.data.empty()) return Merge(manuscript, style, options) == 0;
-    const auto document = NewDocument(options, &style, options.output);
-    Writer(manuscript, style, options.extras, document).Write(nullptr);
-    Deliver(*document, options.output);
+    WriteDocument(manuscript, style, options, options.output, nullptr);
     return true;
 }
 

@@ -10,6 +10,9 @@
 #include <thread>
 #include <unistd.h>
 #include <unordered_set>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace draftwick::command {
 
@@ -110,14 +113,16 @@ public:
 
 private:
     void WriteMany() {
+#ifdef __GLIBC__
+        // What a document frees is what the next one needs.
+        mallopt(M_TRIM_THRESHOLD, 1 << 24);
+#endif
         const unsigned processors = std::max(1U, std::thread::hardware_concurrency());
         std::vector<std::future<void>> threads(options_.jobs > 0 ? options_.jobs : processors);
         for (auto& thread : threads) {
             thread = std::async(std::launch::async, [this] {
                 Work([this](const Row& row) {
-                    const auto document = NewDocument(options_, &style_, row.output);
-                    Writer(manuscript_, style_, options_.extras, document).Write(&row.data);
-                    Deliver(*document, row.output);
+                    WriteDocument(manuscript_, style_, options_, row.output, &row.data);
                 });
             });
         }

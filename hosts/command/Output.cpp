@@ -43,6 +43,13 @@ std::shared_ptr<Document> NewDocument(const Options& options, const Style* style
     return document;
 }
 
+void WriteDocument(const Manuscript& manuscript, const Style& style, const Options& options,
+                   const std::string& output, const Datum* row) {
+    const auto document = NewDocument(options, &style, output);
+    Writer(manuscript, style, options.extras, document).Write(row);
+    Deliver(*document, output);
+}
+
 void Deliver(Document& document, const std::string& output) {
     if (output != "-") {
         document.Finish();

@@ -1,6 +1,7 @@
 #include "hosts/command/Rows.h"
 
 #include "hosts/command/Json.h"
+#include "hosts/command/Text.h"
 
 #include <algorithm>
 
@@ -82,13 +83,11 @@ public:
     bool Next(Row& row) override {
         return Locate([this] { return json_.Where(); },
                       [&] {
-                          const bool more = array_ ? json_.More(']', number_ == 0) : !json_.AtEnd();
-                          if (!more) {
+                          if (array_ ? !json_.More(']', number_ == 0) : json_.Peek() == '\0') {
                               json_.End();
                               return false;
                           }
-                          if (json_.Peek() != JsonReader::Next::Object)
-                              Refuse("a row is an object, in braces");
+                          if (json_.Peek() != '{') Refuse("a row is an object, in braces");
                           row = {++number_, input_.Line(), Read()};
                           return true;
                       });
@@ -97,16 +96,14 @@ public:
 private:
     Datum Read() {
         Datum datum;
-        switch (json_.Peek()) {
-        case JsonReader::Next::Object:
+        if (json_.Peek() == '{') {
             datum.kind = Datum::Kind::Row;
             json_.Object([&](const std::string& name) { datum.members.emplace_back(name, Read()); });
-            break;
-        case JsonReader::Next::Array:
+        } else if (json_.Peek() == '[') {
             datum.kind = Datum::Kind::List;
             json_.Array([&] { datum.members.emplace_back("", Read()); });
-            break;
-        case JsonReader::Next::Scalar: datum.text = json_.Text(); break;
+        } else {
+            datum.text = json_.Text();
         }
         return datum;
     }
@@ -146,12 +143,11 @@ std::unique_ptr<Rows> OpenRows(Input& input) {
 }
 
 bool BeginsObject(std::string_view text) {
-    constexpr std::string_view Blanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(Blanks);
-    if (first == text.npos || text[first] != '{') return false;
+    text = Trimmed(text);
+    if (!text.starts_with('{')) return false;
     // "{{name}}" begins a letter, "{" and a name an object.
-    const std::size_t second = text.find_first_not_of(Blanks, first + 1);
-    return second != text.npos && (text[second] == '"' || text[second] == '}');
+    text = Trimmed(text.substr(1));
+    return text.starts_with('"') || text.starts_with('}');
 }
 
 }  // namespace draftwick::command

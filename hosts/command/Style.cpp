@@ -68,7 +68,7 @@ Style::Settings& Style::Element(const std::string& name) {
 }
 
 void Style::Read(JsonReader& json, const std::string& font, const std::string& path, Settings& settings) {
-    if (json.Peek() == JsonReader::Next::Object) {
+    if (json.Peek() == '{') {
         json.Object([&](const std::string& name) { Read(json, font, path + '.' + name, settings); });
     } else {
         Variant value = json.Scalar();

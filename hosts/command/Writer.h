@@ -22,22 +22,6 @@ struct Extras {
     bool manyRows = false;  ///< each has pages of its own to count
 };
 
-/// The values that tags can name, those of the innermost row first, the settings that all rows share last.
-class Values {
-public:
-    explicit Values(const Datum& settings) : rows_{&settings} {}
-
-    void Push(const Datum* row) { rows_.push_back(row); }
-    void Pop() { rows_.pop_back(); }
-    /// nullptr when there is no value of the name.
-    const Datum* Find(std::string_view name) const;
-    /// The text of a value. std::invalid_argument when there is none.
-    std::string Text(std::string_view name) const;
-
-private:
-    std::vector<const Datum*> rows_;
-};
-
 /// Writes the tree of a Markdown text to a document that Style::Prepare has seen.
 class Writer {
 public:
@@ -98,6 +82,8 @@ private:
     void Picture(cmark_node* node, Paragraph& paragraph, const Look& look);
     void Note(cmark_node* reference, Paragraph& paragraph);
     static void NoteMark(Paragraph& paragraph);
+    const Datum* Find(std::string_view name) const;
+    std::string ValueOf(std::string_view name) const;
     std::string Filled(std::string_view text) const;
 
     // What stands around the text.
@@ -113,7 +99,7 @@ private:
     const Extras& extras_;
     std::shared_ptr<Document> document_;
     std::shared_ptr<Section> section_;
-    Values values_;
+    std::vector<const Datum*> values_;  // that tags can name: those of all rows, then of rows in each other
 
     std::vector<cmark_node*> notes_, headings_;
     std::set<std::size_t> written_;                                      // notes that were referred to
