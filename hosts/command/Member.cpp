@@ -94,7 +94,7 @@ ObjectPointer Member::Part() const {
     if (property_ == nullptr)
         value = Call(*object_, "Items", keys_);
     else if (property_->type->kind == Kind::Object && !WantsKey())
-        value = Get(*object_, name_, keys_);
+        value = property_->get(*object_, keys_);
     if (auto* part = std::get_if<ObjectPointer>(&value); part != nullptr && *part != nullptr) return *part;
     Refuse(Name() + " has no members of its own");
 }

@@ -153,7 +153,7 @@ private:
         for (std::vector<Row> batch; !(batch = Take(share)).empty();) {
             std::int64_t written = 0;
             for (const Row& row : batch) {
-                if (stopped_) return;
+                if (stopped_) break;
                 try {
                     if (!row.fault.empty()) Refuse(row.fault);
                     write(row);
