@@ -84,14 +84,14 @@ private:
     /// What a method adds: null, its first argument, or an object with arguments and then with members of what it adds.
     void Add(Object& object, const ClassMethod& method) {
         if (json_.Peek() == '{' || json_.Peek() == '[') return AddObject(object, method);
-        Variant value = json_.Scalar();
+        const Variant value = json_.Scalar();
         const bool alone = std::holds_alternative<std::monostate>(value);
         if (!alone && (method.arguments.empty() || !CanBeGiven(method.arguments[0])))
             Refuse(Quoted(method.name) + " takes no value but an object, in braces");
         if (alone)
             Call(object, method.name);
         else
-            Call(object, method.name, {Fit(std::move(value), *method.arguments[0].type, document_)});
+            Call(object, method.name, {Fit(value, *method.arguments[0].type, document_)});
     }
 
     void AddObject(Object& object, const ClassMethod& method) {

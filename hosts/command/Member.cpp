@@ -38,7 +38,7 @@ std::string_view TakeName(std::string_view& path) {
 
 }  // namespace
 
-Variant Fit(Variant value, const Type& type, const Object& object) {
+Variant Fit(const Variant& value, const Type& type, const Object& object) {
     const auto* text = std::get_if<std::string>(&value);
     if (text == nullptr || type.kind == Kind::Text) return value;
     if (type.kind == Kind::Length) return hosts::LengthFrom(*text, object);

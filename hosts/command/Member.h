@@ -14,7 +14,7 @@ using ObjectPointer = std::shared_ptr<Object>;
 /// What a text or a number means for a property or an argument of the type: enumerations by name, colours as "#rrggbb",
 /// lengths with a unit ("2.5 cm"). Everything else is what it was. std::invalid_argument, and error 13 for texts that
 /// are none of these.
-Variant Fit(Variant value, const Type& type, const Object& object);
+Variant Fit(const Variant& value, const Type& type, const Object& object);
 
 /// A date, with or without a time of day: "2026-04-01", "2026-04-01T09:30:00". False when it is none.
 bool ReadDate(std::string text, Date& date);
