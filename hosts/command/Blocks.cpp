@@ -1,111 +1,54 @@
+#include "hosts/command/Text.h"
 #include "hosts/command/Writer.h"
 
 #include <cmark-gfm-core-extensions.h>
 
 #include <algorithm>
-#include <cctype>
-#include <iterator>
-#include <stdexcept>
+#include <numeric>
+#include <utility>
 
 namespace draftwick::command {
 
 namespace {
 
 constexpr double ListStep = 0.25, QuoteStep = 0.3;  // inches
+constexpr int Levels = 9;                           // of a list
 
-/// Whether a tag divides words; others are within lines of text.
-bool IsBlock(std::string_view tag) {
-    constexpr std::string_view names[] = {
-        "address", "article", "aside",  "blockquote", "br",         "caption", "dd",      "details", "dialog",
-        "div",     "dl",      "dt",     "fieldset",   "figcaption", "figure",  "footer",  "form",    "h1",
-        "h2",      "h3",      "h4",     "h5",         "h6",         "header",  "hr",      "li",      "main",
-        "nav",     "ol",      "option", "p",          "pre",        "section", "summary", "table",   "tbody",
-        "td",      "tfoot",   "th",     "thead",      "title",      "tr",      "ul"};
-    tag.remove_prefix(tag.starts_with("</") ? 2 : 1);
-    std::string name{tag.substr(0, tag.find_first_of(" \t\r\n/>"))};
-    for (char& letter : name) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
-
-/// The text that a browser shows of HTML, without its tags; what is not meant to be seen is left out.
-std::string TextOfHtml(std::string_view html) {
-    std::string text;
-    const auto skipTo = [&html](std::string_view end) {
-        const std::size_t at = html.find(end);
-        html.remove_prefix(at == html.npos ? html.size() : at + end.size());
-    };
-    static constexpr std::string_view entities[][2] = {
-        {"&amp;", "&"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&nbsp;", "\u00A0"}};
-    const auto say = [&text](std::string_view piece) {
-        const bool blank = piece == " " || piece == "\n" || piece == "\r" || piece == "\t";
-        if (!blank)
-            text += piece;
-        else if (!text.empty() && text.back() != ' ')
-            text += ' ';
-    };
-    while (!html.empty()) {
-        if (html.starts_with("<!--"))
-            skipTo("-->");
-        else if (html.starts_with("<![CDATA["))
-            skipTo("]]>");
-        else if (html.starts_with("<?"))
-            skipTo("?>");
-        else if (html.starts_with("<script"))
-            skipTo("</script>");
-        else if (html.starts_with("<style"))
-            skipTo("</style>");
-        else if (html[0] == '<') {
-            if (IsBlock(html)) say(" ");
-            skipTo(">");
-        } else {
-            const auto entity = std::find_if(std::begin(entities), std::end(entities),
-                                             [html](const auto& one) { return html.starts_with(one[0]); });
-            const bool found = entity != std::end(entities);
-            say(found ? (*entity)[1] : html.substr(0, 1));
-            html.remove_prefix(found ? (*entity)[0].size() : 1);
+/// The room, divided by the longest texts: long ones take more lines, short ones none of the others' room.
+std::vector<double> ColumnWidths(cmark_node* table, double room) {
+    constexpr std::size_t Shortest = 4, Longest = 60;
+    std::vector<double> widths(cmark_gfm_extensions_get_table_columns(table), Shortest);
+    for (cmark_node* row = cmark_node_first_child(table); row != nullptr; row = cmark_node_next(row)) {
+        cmark_node* cell = cmark_node_first_child(row);
+        for (double& width : widths) {
+            if (cell == nullptr) break;
+            width = std::max(width, static_cast<double>(std::min(PlainText(cell).size() + 2, Longest)));
+            cell = cmark_node_next(cell);
         }
     }
-    if (text.ends_with(' ')) text.pop_back();
-    return text;
+    const double sum = std::accumulate(widths.begin(), widths.end(), 0.0);
+    for (double& width : widths) width *= room / sum;
+    return widths;
 }
 
 }  // namespace
 
-/// Counts how deep the tree goes where the writer follows it: a stack has an end.
-struct Writer::Deeper {
-    Deeper(Writer& writer, cmark_node* node) : writer_(writer) {
-        constexpr int Deepest = 400;
-        if (++writer_.depth_ > Deepest)
-            throw Failure(writer_.manuscript_.PlaceOf(node), "nested more than 400 levels deep");
-    }
-    ~Deeper() { --writer_.depth_; }
-    Deeper(const Deeper&) = delete;
-    Deeper& operator=(const Deeper&) = delete;
-
-    Writer& writer_;
-};
-
 template <class Render>
 void Writer::Repeat(const Tag& tag, const Render& render) {
-    const Datum* value = values_.Find(tag.name);
+    const Datum* value = Find(tag.name);
     const bool present = value != nullptr && !(value->text.empty() && value->members.empty());
-    if (tag.kind == Tag::Kind::Inverted) {
-        if (!present) render();
-        return;
-    }
-    if (!present) return;
-    if (value->kind == Datum::Kind::Text) {
+    const auto renderWith = [&](const Datum& row) {
+        values_.push_back(&row);
+        render();
+        values_.pop_back();
+    };
+    if (present == (tag.kind == Tag::Kind::Inverted)) return;
+    if (!present || value->kind == Datum::Kind::Scalar) {
         render();
     } else if (value->kind == Datum::Kind::Row) {
-        values_.Push(value);
-        render();
-        values_.Pop();
+        renderWith(*value);
     } else {
-        for (const auto& item : value->members) {
-            values_.Push(&item.second);
-            render();
-            values_.Pop();
-        }
+        for (const auto& item : value->members) renderWith(item.second);
     }
 }
 
@@ -125,14 +68,11 @@ void Writer::Siblings(cmark_node* first, cmark_node* end, const Render& render) 
     }
 }
 
-void Writer::Inlines(cmark_node* first, cmark_node* end, Paragraph& paragraph, const Look& look) {
-    if (first == nullptr) return;
-    const Deeper deeper(*this, first);
-    Siblings(first, end, [&](cmark_node* node) { Inline(node, paragraph, look); });
+void Writer::Inlines(cmark_node* first, Paragraph& paragraph, const Look& look) {
+    Siblings(first, nullptr, [&](cmark_node* node) { Inline(node, paragraph, look); });
 }
 
 void Writer::Blocks(cmark_node* parent, RowContainer& holder, Position position) {
-    const Deeper deeper(*this, parent);
     const bool last = position.last;
     Siblings(cmark_node_first_child(parent), nullptr, [&](cmark_node* node) {
         position.last = last && cmark_node_next(node) == nullptr;
@@ -142,17 +82,27 @@ void Writer::Blocks(cmark_node* parent, RowContainer& holder, Position position)
 }
 
 void Writer::Block(cmark_node* node, RowContainer& holder, const Position& position) {
-    switch (const cmark_node_type type = cmark_node_get_type(node)) {
+    switch (cmark_node_get_type(node)) {
     case CMARK_NODE_PARAGRAPH:
-        if (!Caption(node, holder, position)) Plain(node, holder, position);
+        if (!Caption(node, holder, position))
+            Fill(cmark_node_first_child(node), *Begin(holder, StyleOfText(position), position));
         break;
     case CMARK_NODE_HEADING: Heading(node, holder, position); break;
-    case CMARK_NODE_CODE_BLOCK: CodeBlock(Literal(node), holder, position); break;
-    case CMARK_NODE_HTML_BLOCK: HtmlBlock(Literal(node), holder, position); break;
+    case CMARK_NODE_CODE_BLOCK: {
+        std::string_view text = Literal(node);
+        if (text.ends_with('\n')) text.remove_suffix(1);
+        Fill(Filled(text), *Begin(holder, "Code", position));
+        break;
+    }
+    case CMARK_NODE_HTML_BLOCK: {
+        const std::string text = TextOfHtml(Literal(node));
+        if (!text.empty() || !position.list.empty()) Fill(text, *Begin(holder, "Normal", position));
+        break;
+    }
     case CMARK_NODE_BLOCK_QUOTE: {
         Position inner = position;
         inner.indent += QuoteStep;
-        ++inner.quotes;
+        inner.quoted = true;
         Blocks(node, holder, inner);
         break;
     }
@@ -160,34 +110,34 @@ void Writer::Block(cmark_node* node, RowContainer& holder, const Position& posit
     case CMARK_NODE_THEMATIC_BREAK: Begin(holder, "Rule", position); break;
     default:
         // Notes stand where they are referred to.
-        if (type != CMARK_NODE_FOOTNOTE_DEFINITION && IsNode(node, "table")) Table(node, holder, position);
+        if (IsNode(node, "table")) Table(node, holder, position);
     }
+}
+
+std::string_view Writer::StyleOfText(const Position& position) const {
+    if (inNote_) return "footnote text";
+    if (position.level > 0) return position.tight && !position.last ? "List" : "List Paragraph";
+    return position.quoted ? "Quote" : "Normal";
 }
 
 std::shared_ptr<Paragraph> Writer::Begin(Container& holder, std::string_view style,
                                          const Position& position) {
-    auto paragraph = holder.AddParagraph();
-    paragraph->SetStyleName(style);
+    auto paragraph = holder.AddParagraph(style);
     const auto format = paragraph->Format();
     // The style of quotations has the first one's indent itself.
     const double indent = position.indent - (style == "Quote" ? QuoteStep : 0);
     if (indent > 0) format->SetIndentLeft(format->IndentLeft() + indent);
-    room_ = TextWidth() - format->IndentLeft() - format->IndentRight();
+    room_ = width_ - format->IndentLeft() - format->IndentRight();
     if (!position.list.empty()) {
         format->SetListName(position.list);
         format->SetListLevel(position.level);
         format->SetIndentFirst(-ListStep);
     }
+    if (std::exchange(beginsNote_, false)) {
+        NoteMark(*paragraph);
+        paragraph->AddTextItem(" ");
+    }
     return paragraph;
-}
-
-void Writer::Plain(cmark_node* node, RowContainer& holder, const Position& position) {
-    std::string_view style = position.quotes > 0 ? "Quote" : "Normal";
-    if (position.level > 0) style = position.tight && !position.last ? "List" : "List Paragraph";
-    if (inNote_) style = "footnote text";
-    const auto paragraph = Begin(holder, style, position);
-    Inlines(cmark_node_first_child(node), nullptr, *paragraph, {});
-    Flush(*paragraph);
 }
 
 void Writer::Heading(cmark_node* node, RowContainer& holder, const Position& position) {
@@ -197,69 +147,49 @@ void Writer::Heading(cmark_node* node, RowContainer& holder, const Position& pos
         paragraph->Format()->SetListName(SectionNumbers);
         paragraph->Format()->SetListLevel(level);
     }
-    const auto bookmark = bookmarks_.find(node);
-    if (bookmark != bookmarks_.end()) paragraph->AddBookmark(bookmark->second);
-    Inlines(cmark_node_first_child(node), nullptr, *paragraph, {});
-    Flush(*paragraph);
-    if (bookmark != bookmarks_.end()) paragraph->AddBookmark(bookmark->second, false);
-}
-
-void Writer::CodeBlock(std::string_view text, RowContainer& holder, const Position& position) {
-    const auto paragraph = Begin(holder, "Code", position);
-    if (text.ends_with('\n')) text.remove_suffix(1);
-    Say(Filled(text), *paragraph, {});
-    Flush(*paragraph);
-}
-
-void Writer::HtmlBlock(std::string_view html, RowContainer& holder, const Position& position) {
-    const std::string text = TextOfHtml(html);
-    if (text.empty() && position.list.empty()) return;
-    const auto paragraph = Begin(holder, "Normal", position);
-    Say(text, *paragraph, {});
-    Flush(*paragraph);
+    const std::string& bookmark = bookmarks_[node];
+    paragraph->AddBookmark(bookmark);
+    Fill(cmark_node_first_child(node), *paragraph);
+    paragraph->AddBookmark(bookmark, false);
 }
 
 /// A list whose numbers look like the text beside them unless the style says otherwise.
 std::shared_ptr<draftwick::List> Writer::NewList(std::string_view name, std::string_view element) {
     const auto list = document_->Lists()->Add(name);
     const auto text = document_->ParagraphStyles()->Items("Normal")->FontFormat();
-    for (int level = 1; level <= 9; ++level) {
-        list->Levels(level)->FontFormat()->SetSize(text->Size());
-        list->Levels(level)->FontFormat()->SetFontName(text->FontName());
+    for (int level = 1; level <= Levels; ++level) {
+        const auto font = list->Levels(level)->FontFormat();
+        font->SetSize(text->Size());
+        font->SetFontName(text->FontName());
     }
     style_.Apply(element, list);
     return list;
 }
 
 /// A list of bullets counts nothing, so that all of a kind are one.
-std::string Writer::Shared(std::string_view name, std::string_view bullet) {
-    if (usedLevels_.try_emplace(std::string{name}).second) {
-        const auto list = NewList(name, "bullets");
-        for (int level = 1; level <= 9; ++level) {
-            list->Levels(level)->SetStyle(dwLNSBullet);
-            list->Levels(level)->SetTabPosition(ListStep * level);
-            if (!bullet.empty()) list->Levels(level)->SetFormat(bullet);
-        }
+std::string Writer::Bullets(const std::string& name, std::string_view bullet) {
+    if (!bullets_.insert(name).second) return name;
+    const auto list = NewList(name, "bullets");
+    for (int level = 1; level <= Levels; ++level) {
+        list->Levels(level)->SetStyle(dwLNSBullet);
+        list->Levels(level)->SetTabPosition(ListStep * level);
+        if (!bullet.empty()) list->Levels(level)->SetFormat(bullet);
     }
-    return std::string{name};
+    return name;
 }
 
-/// The list that the items of a node belong to. Numbered lists in each other are levels of one, so that the inner ones
+/// The list that the items of a numbered one belong to. Those in each other are levels of one, so that the inner ones
 /// begin again; one that begins elsewhere or has another mark is a list of its own.
-std::string Writer::ListFor(cmark_node* node, const Position& outer, Position& inner) {
-    const bool ordered = cmark_node_get_list_type(node) == CMARK_ORDERED_LIST;
-    inner.ordered = ordered;
-    if (!ordered) return Shared("Bullets", {});
+std::string Writer::NumbersFor(cmark_node* node, const Position& outer, const Position& inner) {
     const int start = std::clamp(cmark_node_get_list_start(node), 0, 32767);
     const int mark = cmark_node_get_list_delim(node);
+    const std::pair looks{start, mark};
     std::string name = outer.numbers;
-    if (name.empty() || !outer.ordered
-        || usedLevels_[name].try_emplace(inner.level, start, mark).first->second != std::pair{start, mark}) {
+    if (name.empty() || levels_.try_emplace({name, inner.level}, looks).first->second != looks) {
         name = "Numbers " + std::to_string(++lists_);
         NewList(name, "numbers");
-        usedLevels_[name][inner.level] = {start, mark};
+        levels_[{name, inner.level}] = looks;
     }
-    inner.numbers = name;
     const auto level = document_->Lists()->Items(name)->Levels(inner.level);
     level->SetFormat("\\L" + std::to_string(inner.level) + (mark == CMARK_PAREN_DELIM ? ")" : "."));
     level->SetStartAt(start);
@@ -269,18 +199,18 @@ std::string Writer::ListFor(cmark_node* node, const Position& outer, Position& i
 
 void Writer::List(cmark_node* node, RowContainer& holder, const Position& outer) {
     Position position = outer;
-    position.level = std::min(outer.level + 1, 9);
+    position.level = std::min(outer.level + 1, Levels);
     position.indent += ListStep;
     position.tight = cmark_node_get_list_tight(node) != 0;
-    const std::string name = ListFor(node, outer, position);
+    const bool numbered = cmark_node_get_list_type(node) == CMARK_ORDERED_LIST;
+    position.numbers = numbered ? NumbersFor(node, outer, position) : "";
     Siblings(cmark_node_first_child(node), nullptr, [&](cmark_node* item) {
-        position.last = outer.last && cmark_node_next(item) == nullptr;
-        if (outer.level == 0) position.last = cmark_node_next(item) == nullptr;
-        position.list = name;
-        if (IsNode(item, "tasklist")) {
-            position.list = cmark_gfm_extensions_get_tasklist_item_checked(item) ? Shared("Done", "\u2612")
-                                                                                 : Shared("To Do", "\u2610");
-        }
+        position.last = (outer.last || outer.level == 0) && cmark_node_next(item) == nullptr;
+        if (IsNode(item, "tasklist"))
+            position.list = cmark_gfm_extensions_get_tasklist_item_checked(item) ? Bullets("Done", "\u2612")
+                                                                                 : Bullets("To Do", "\u2610");
+        else
+            position.list = numbered ? position.numbers : Bullets("Bullets", {});
         cmark_node* first = cmark_node_first_child(item);
         if (first == nullptr || cmark_node_get_type(first) == CMARK_NODE_LIST) {
             Begin(holder, "List", position);
@@ -291,9 +221,7 @@ void Writer::List(cmark_node* node, RowContainer& holder, const Position& outer)
 }
 
 void Writer::Table(cmark_node* node, RowContainer& holder, const Position& position) {
-    const std::size_t columns = cmark_gfm_extensions_get_table_columns(node);
     const std::uint8_t* alignments = cmark_gfm_extensions_get_table_alignments(node);
-    const double room = TextWidth() - position.indent;
     std::vector<double> widths;
     Siblings(cmark_node_first_child(node), nullptr, [&](cmark_node* from) {
         const bool head = cmark_gfm_extensions_get_table_row_is_header(from) != 0;
@@ -301,11 +229,11 @@ void Writer::Table(cmark_node* node, RowContainer& holder, const Position& posit
         style_.Apply("table", row);
         row->SetHeader(head);
         // A row that begins left of the margin, so that its text begins there, ends as far on the other side.
-        if (widths.empty()) widths = ColumnWidths(node, columns, std::max(room - 2 * row->Left(), 1.0));
+        if (widths.empty())
+            widths = ColumnWidths(node, std::max(width_ - position.indent - 2 * row->Left(), 1.0));
         if (position.indent > 0) row->SetLeft(row->Left() + position.indent);
-        std::size_t column = 0;
-        for (cmark_node* in = cmark_node_first_child(from); in != nullptr && column < columns;
-             in = cmark_node_next(in), ++column) {
+        cmark_node* in = cmark_node_first_child(from);
+        for (std::size_t column = 0; in != nullptr && column < widths.size(); ++column) {
             const auto cell = row->AddCell();
             cell->SetWidth(widths[column]);
             style_.Apply(head ? "head cell" : "cell", cell);
@@ -313,61 +241,36 @@ void Writer::Table(cmark_node* node, RowContainer& holder, const Position& posit
             room_ = std::max(widths[column] - 2 * row->Gap(), 0.1);
             if (alignments[column] == 'r') paragraph->Format()->SetAlign(dwAlignRight);
             if (alignments[column] == 'c') paragraph->Format()->SetAlign(dwAlignCenter);
-            Inlines(cmark_node_first_child(in), nullptr, *paragraph, {});
-            Flush(*paragraph);
+            Fill(cmark_node_first_child(in), *paragraph);
+            in = cmark_node_next(in);
         }
     });
     // Without it the next table would be rows of this one.
     if (!inNote_) Begin(holder, "Table End", {});
 }
 
-/// The room, divided by the longest texts: long ones take more lines, short ones none of the others' room.
-std::vector<double> Writer::ColumnWidths(cmark_node* table, std::size_t columns, double room) const {
-    constexpr std::size_t Shortest = 4, Longest = 60;
-    std::vector<double> widths(columns, Shortest);
-    for (cmark_node* row = cmark_node_first_child(table); row != nullptr; row = cmark_node_next(row)) {
-        std::size_t column = 0;
-        for (cmark_node* cell = cmark_node_first_child(row); cell != nullptr && column < columns;
-             cell = cmark_node_next(cell), ++column) {
-            const double length = static_cast<double>(std::min(PlainText(cell).size() + 2, Longest));
-            widths[column] = std::max(widths[column], length);
-        }
-    }
-    double sum = 0;
-    for (const double width : widths) sum += width;
-    for (double& width : widths) width *= room / sum;
-    return widths;
-}
-
 /// "Table: Prices" beside a table, and a picture with a title that stands alone, are numbered captions.
 bool Writer::Caption(cmark_node* node, RowContainer& holder, const Position& position) {
-    if (inNote_) return false;
-    cmark_node* first = cmark_node_first_child(node);
-    if (first == nullptr) return false;
     constexpr std::string_view Mark = "Table: ";
-    const bool isText = cmark_node_get_type(first) == CMARK_NODE_TEXT;
-    if (isText && Literal(first).starts_with(Mark)) {
-        cmark_node *before = cmark_node_previous(node), *after = cmark_node_next(node);
-        if (!(after != nullptr && IsNode(after, "table")) && !(before != nullptr && IsNode(before, "table")))
-            return false;
+    cmark_node* first = cmark_node_first_child(node);
+    if (inNote_ || first == nullptr) return false;
+    if (cmark_node_get_type(first) == CMARK_NODE_TEXT && Literal(first).starts_with(Mark)) {
+        const bool above = IsNode(cmark_node_next(node), "table");
+        if (!above && !IsNode(cmark_node_previous(node), "table")) return false;
         const auto paragraph = Begin(holder, "caption", position);
-        if (after != nullptr && IsNode(after, "table")) paragraph->Format()->SetKeepWithNext(true);
+        if (above) paragraph->Format()->SetKeepWithNext(true);
         AddCaption(*paragraph, "table", ++tables_);
         Say(Literal(first).substr(Mark.size()), *paragraph, {});
-        Inlines(cmark_node_next(first), nullptr, *paragraph, {});
-        Flush(*paragraph);
+        Fill(cmark_node_next(first), *paragraph);
         return true;
     }
     if (cmark_node_get_type(first) != CMARK_NODE_IMAGE || cmark_node_next(first) != nullptr) return false;
     const std::string title = Filled(cmark_node_get_title(first));
     if (title.empty() || PictureFile(first).empty()) return false;
-    const auto picture = Begin(holder, "Figure", position);
-    Inlines(first, nullptr, *picture, {});
-    Flush(*picture);
+    Fill(first, *Begin(holder, "Figure", position));
     const auto paragraph = Begin(holder, "caption", position);
     AddCaption(*paragraph, "figure", ++figures_);
-    Say(title, *paragraph, {});
-    Flush(*paragraph);
+    Fill(title, *paragraph);
     return true;
 }
 

@@ -1,38 +1,81 @@
 #pragma once
 
-#include "hosts/command/Message.h"
-#include "hosts/command/Values.h"
+#include "hosts/command/Input.h"
 
-#include <istream>
+#include <draftwick/base/Variant.h>
+
+#include <memory>
 #include <string>
-#include <string_view>
 
 namespace draftwick::command {
 
-/// How much of an input can be read before it is known to be JSON.
-inline constexpr std::size_t LargestHead = 1 << 16;
-
-/// What is told about a JSON text while it is read. Texts live as long as the call.
-class JsonEvents {
+/// Reads JSON in UTF-8 as a stream, value by value, in flat memory. std::invalid_argument for what is no JSON, and when
+/// something else comes than is asked for; Where tells the place.
+class JsonReader {
 public:
-    virtual ~JsonEvents() = default;
-    virtual void Value(const Scalar& value) = 0;
-    virtual void Key(std::string_view name) = 0;
-    virtual void Begin(bool object) = 0;  ///< an object, else an array
-    virtual void End() = 0;
+    explicit JsonReader(Input& input);
+    ~JsonReader();
+    JsonReader(const JsonReader&) = delete;
+    JsonReader& operator=(const JsonReader&) = delete;
 
-    /// Where the reader is: at the beginning of what the current call is about.
-    Place Where() const;
+    /// What comes next: a brace, a bracket, or the first byte of anything else; a zero byte at the end.
+    char Peek();
+
+    /// Reads an object. What is called with the name of each member, a const std::string&, reads its value.
+    template <class Member>
+    void Object(const Member& member) {
+        std::string name;
+        Enter('{', "an object is expected, in braces");
+        for (bool first = true; More('}', first); first = false) {
+            ReadName(name);
+            member(name);
+        }
+        --depth_;
+    }
+    /// Reads an array. What is called reads an item.
+    template <class Item>
+    void Array(const Item& item) {
+        Enter('[', "a list is expected, in brackets");
+        for (bool first = true; More(']', first); first = false) item();
+        --depth_;
+    }
+    /// Nothing, a Boolean, a number (whole if it can be) or a text.
+    Variant Scalar();
+    /// The same as a text: numbers as they are written, "true", and nothing for false and null.
+    std::string Text();
+
+    /// Takes a mark if it comes next.
+    bool Accept(char mark);
+    /// Whether something follows in what was begun, before the mark that ends it; both are taken.
+    bool More(char close, bool first);
+    /// Refuses what follows.
+    void End();
+
+    /// Where that begins which was read last.
+    Place Where() const { return {input_.Name(), line_, column_}; }
 
 private:
-    friend class JsonReader;
-    const class JsonReader* reader_ = nullptr;
+    struct Parser;
+
+    void Enter(char open, const char* expected);
+    void ReadName(std::string& name);
+    void ReadScalar();
+
+    Input& input_;
+    std::unique_ptr<Parser> parser_;
+    std::int64_t line_ = 1, column_ = 1;
+    int depth_ = 0;
 };
 
-/// Reads JSON in UTF-8 as a stream, in flat memory. Failure with its place for what is no JSON, and for what the
-/// events refuse with std::invalid_argument or Error. Several values may follow each other when `many` is set.
-/// The head is what was read of the input already, LargestHead at most.
-void ReadJson(std::istream& input, const std::string& name, JsonEvents& events, bool many = false,
-              std::string_view head = {});
+/// Runs what reads a JSON text to its end. Failure with its place for all that is wrong.
+template <class Action>
+void ReadJson(Input& input, const Action& action) {
+    JsonReader reader(input);
+    Locate([&] { return reader.Where(); },
+           [&] {
+               action(reader);
+               reader.End();
+           });
+}
 
 }  // namespace draftwick::command

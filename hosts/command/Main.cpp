@@ -1,63 +1,41 @@
 #include "hosts/command/Clean.h"
-#include "hosts/command/Json.h"
 #include "hosts/command/JsonDocument.h"
 #include "hosts/command/Merge.h"
 
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
 namespace draftwick::command {
 
 namespace {
 
 /// Whether everything was written.
-bool WriteMarkdown(const std::string& text, const std::string& name, const Options& options) {
-    Manuscript manuscript(text, name, options.Merging());
-    for (const auto& [setting, value] : options.settings) manuscript.Settings()[setting] = value;
+bool WriteMarkdown(Manuscript manuscript, const Options& options) {
+    for (const auto& [name, value] : options.settings.members) manuscript.Settings().Text(name) = value.text;
     Style style;
     for (const std::string& one : options.styles) style.Add(one);
     if (!options.data.empty()) return Merge(manuscript, style, options) == 0;
-    const auto document = NewDocument(options, &style, options.output);
-    Writer(manuscript, style, options.extras, document).Write(nullptr);
-    Deliver(*document, options.output);
+    WriteDocument(manuscript, style, options, options.output, nullptr);
     return true;
 }
 
-void WriteJson(std::istream& input, const std::string& name, const std::string& head,
-               const Options& options) {
-    if (!options.data.empty() || !options.styles.empty() || !options.settings.empty()
+void WriteJson(Input& input, const Options& options) {
+    if (!options.data.empty() || !options.styles.empty() || !options.settings.members.empty()
         || options.extras.contents || options.extras.sectionNumbers) {
         throw UsageError("a document in JSON says all of this itself: --style, --data, --set, --toc and "
                          "--number-sections are for Markdown");
     }
     const auto document = NewDocument(options, nullptr, options.output);
-    FillFromJson(input, name, document, head);
+    FillFromJson(input, document);
     Deliver(*document, options.output);
 }
 
 bool Write(const Options& options) {
-    const bool standard = options.input == "-";
-    const std::string name = standard ? "<stdin>" : options.input;
-    std::ifstream file;
-    if (!standard) {
-        if (std::filesystem::is_directory(options.input)) throw Failure({name}, "is a folder");
-        file.open(options.input, std::ios::binary);
-        if (!file) throw Failure({name}, "cannot be read: " + std::generic_category().message(errno));
-    }
-    std::istream& input = standard ? std::cin : file;
-    std::string text(LargestHead, '\0');
-    input.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(input.gcount()));
-    if (BeginsObject(text)) {
-        WriteJson(input, name, text, options);
+    Input input(options.input);
+    if (BeginsObject(input.Ahead())) {
+        WriteJson(input, options);
         return true;
     }
-    text.append(std::istreambuf_iterator<char>(input), {});
-    if (input.bad()) throw Failure({name}, "cannot be read");
-    return WriteMarkdown(text, name, options);
+    return WriteMarkdown(Manuscript(input.Rest(), input.Name(), options.Merging()), options);
 }
 
 int Run(int argc, char** argv) {

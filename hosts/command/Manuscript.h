@@ -1,10 +1,11 @@
 #pragma once
 
 #include "hosts/command/Message.h"
+#include "hosts/command/Rows.h"
 
 #include <cmark-gfm.h>
 
-#include <map>
+#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -19,6 +20,8 @@ struct Tag {
     std::string name;
     Place place{};
     cmark_node* end = nullptr;  ///< of a section, the node of its end; its own node: that alone
+
+    bool Begins() const { return kind == Kind::Section || kind == Kind::Inverted; }
 };
 
 /// A Markdown text: its front matter and its tree. The tree is only read once it is made, so that threads can share it.
@@ -30,36 +33,41 @@ public:
     Manuscript(const std::string& text, const std::string& file, bool merging);
 
     cmark_node* Root() const { return root_.get(); }
-    std::map<std::string, std::string, std::less<>>& Settings() { return settings_; }
-    const std::map<std::string, std::string, std::less<>>& Settings() const { return settings_; }
+    Datum& Settings() { return settings_; }
+    const Datum& Settings() const { return settings_; }
     const std::string& File() const { return file_; }
     Place PlaceOf(cmark_node* node) const;
     /// Whether there are tags in the text, so that places of values are to be filled.
     bool Merging() const { return merging_; }
-    static const Tag* TagOf(cmark_node* node) {
-        return static_cast<const Tag*>(cmark_node_get_user_data(node));
+    static Tag* TagOf(cmark_node* node) {
+        return node == nullptr ? nullptr : static_cast<Tag*>(cmark_node_get_user_data(node));
     }
+    /// What other parts of the text can refer to: headings, notes and inline HTML, in their order.
+    const std::vector<cmark_node*>& Targets() const { return targets_; }
 
 private:
     std::string_view TakeFrontMatter(std::string_view text);
     void FindTags();
     void SplitText(cmark_node* text);
     void PairTags(cmark_node* parent);
-    void Hoist(cmark_node* block, cmark_node* first, cmark_node* last);
-    Tag* NewTag(std::string_view inside, cmark_node* near);
+    static void Hoist(cmark_node* block, cmark_node* first, cmark_node* last);
+    Tag* NewTag(std::string_view inside, const Place& place);
 
     std::string file_;
     bool merging_;
     int linesBefore_ = 0;  // of the front matter
-    std::map<std::string, std::string, std::less<>> settings_;
+    Datum settings_{Datum::Kind::Row};
     std::unique_ptr<cmark_node, void (*)(cmark_node*)> root_{nullptr, cmark_node_free};
-    std::vector<std::unique_ptr<Tag>> tags_;
+    std::vector<cmark_node*> targets_;
+    std::deque<Tag> tags_;  // which nodes point to
 };
 
-/// The extensions' kinds of node have no public names, only spellings.
+/// The extensions' kinds of node have no public names, only spellings. nullptr is of no kind.
 bool IsNode(cmark_node* node, std::string_view type);
 /// What a node holds by itself.
 std::string_view Literal(cmark_node* node);
+/// A node and all in it, in the order of the text.
+std::vector<cmark_node*> NodesIn(cmark_node* node);
 /// The plain text of a node and of all in it.
 std::string PlainText(cmark_node* node);
 

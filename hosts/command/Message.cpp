@@ -1,7 +1,5 @@
 #include "hosts/command/Message.h"
 
-#include <draftwick/base/Error.h>
-
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
@@ -36,6 +34,8 @@ std::string Place::Text() const {
     return text;
 }
 
+void Refuse(const std::string& what) { throw std::invalid_argument(what); }
+
 void Warn(const Place& place, const std::string& what) {
     // In one call, so that lines of several threads do not mix.
     const std::string line = place.Text() + ": warning: " + what + '\n';
@@ -43,11 +43,16 @@ void Warn(const Place& place, const std::string& what) {
 }
 
 std::string Explain(const std::exception& error) {
-    std::string text = error.what();
+    const std::string text = error.what();
     const auto* refusal = dynamic_cast<const Error*>(&error);
-    if (refusal != nullptr && !refusal->Advice().empty()) text += ' ' + refusal->Advice();
-    return text;
+    if (refusal == nullptr || refusal->Advice().empty()) return text;
+    // "Type mismatch: a text is wanted" says no more than "Fonts.Add: a text is wanted".
+    const std::size_t detail = text.find(": ");
+    const bool repeated = detail != text.npos && refusal->Advice().ends_with(text.substr(detail + 2));
+    return repeated ? refusal->Advice() : text + ' ' + refusal->Advice();
 }
+
+std::string Quoted(std::string_view text) { return '"' + std::string{text} + '"'; }
 
 std::string Alternatives(std::string_view name, const std::vector<std::string_view>& names) {
     constexpr std::size_t LongestName = 100, MostNames = 30;
@@ -57,7 +62,7 @@ std::string Alternatives(std::string_view name, const std::vector<std::string_vi
             return Distance(name, one) < Distance(name, other);
         });
         if (Distance(name, *nearest) <= std::min<std::size_t>(2, name.size() / 3))
-            return "did you mean \"" + std::string{*nearest} + "\"?";
+            return "did you mean " + Quoted(*nearest) + "?";
     }
     std::string text = "there are ";
     for (std::size_t i = 0; i < std::min(names.size(), MostNames); ++i) {

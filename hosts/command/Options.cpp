@@ -4,50 +4,69 @@
 
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <iterator>
+#include <vector>
 
 namespace draftwick::command {
 
 namespace {
 
-enum Code : int {
-    StyleCode = 1,
-    DataCode,
-    SetCode,
-    PageCode,
-    TocCode,
-    NumbersCode,
-    SpellingCode,
-    GoOnCode,
-    SchemaCode,
-    CleanCode,
-    QuietCode,
-    VersionCode
+using Text = const std::string&;
+
+struct Choice {
+    const char* name;
+    char letter;  // 0: none
+    bool hasValue;
+    void (*take)(Options& options, Text value);
 };
 
-const option longOptions[] = {{"output", required_argument, nullptr, 'o'},
-                              {"style", required_argument, nullptr, StyleCode},
-                              {"data", required_argument, nullptr, DataCode},
-                              {"set", required_argument, nullptr, SetCode},
-                              {"page", required_argument, nullptr, PageCode},
-                              {"toc", no_argument, nullptr, TocCode},
-                              {"number-sections", no_argument, nullptr, NumbersCode},
-                              {"spelling", required_argument, nullptr, SpellingCode},
-                              {"continue", no_argument, nullptr, GoOnCode},
-                              {"jobs", required_argument, nullptr, 'j'},
-                              {"quiet", no_argument, nullptr, QuietCode},
-                              {"schema", no_argument, nullptr, SchemaCode},
-                              {"clean", required_argument, nullptr, CleanCode},
-                              {"help", no_argument, nullptr, 'h'},
-                              {"version", no_argument, nullptr, VersionCode},
-                              {nullptr, 0, nullptr, 0}};
+void TakeSetting(Options& options, Text value) {
+    const std::size_t mark = value.find('=');
+    if (mark == value.npos || mark == 0) throw UsageError("--set wants name=value, not " + Quoted(value));
+    options.settings.Text(value.substr(0, mark)) = value.substr(mark + 1);
+}
 
-/// "letter.md" gives "letter.rtf".
-std::string OutputFor(const std::string& input) {
-    const std::size_t slash = input.find_last_of("/\\");
-    const std::size_t dot = input.rfind('.');
-    const bool hasEnding = dot != input.npos && dot > 0 && (slash == input.npos || dot > slash + 1);
-    return (hasEnding ? input.substr(0, dot) : input) + ".rtf";
+void TakeSpelling(Options& options, Text value) {
+    if (value != "standard" && value != "classic")
+        throw UsageError("--spelling is standard or classic, not " + Quoted(value));
+    options.classic = value == "classic";
+}
+
+void TakeJobs(Options& options, Text value) {
+    const char* const end = value.data() + value.size();
+    if (std::from_chars(value.data(), end, options.jobs).ptr != end || options.jobs == 0
+        || options.jobs > 256) {
+        throw UsageError("--jobs is a number from 1 to 256, not " + Quoted(value));
+    }
+}
+
+const Choice choices[] = {
+    {"output", 'o', true, [](Options& options, Text value) { options.output = value; }},
+    {"style", 0, true, [](Options& options, Text value) { options.styles.push_back(value); }},
+    {"data", 0, true, [](Options& options, Text value) { options.data = value; }},
+    {"set", 0, true, TakeSetting},
+    {"page", 0, true, [](Options& options, Text value) { options.page = value; }},
+    {"toc", 0, false, [](Options& options, Text) { options.extras.contents = true; }},
+    {"number-sections", 0, false, [](Options& options, Text) { options.extras.sectionNumbers = true; }},
+    {"spelling", 0, true, TakeSpelling},
+    {"continue", 0, false, [](Options& options, Text) { options.goOn = true; }},
+    {"jobs", 'j', true, TakeJobs},
+    {"quiet", 0, false, [](Options& options, Text) { options.quiet = true; }},
+    {"schema", 0, false, [](Options& options, Text) { options.task = Options::Task::Schema; }},
+    {"clean", 0, true,
+     [](Options& options, Text value) {
+         options.task = Options::Task::Clean;
+         options.input = value;
+     }},
+    {"help", 'h', false, [](Options& options, Text) { options.task = Options::Task::Help; }},
+    {"version", 0, false, [](Options& options, Text) { options.task = Options::Task::Version; }},
+};
+
+/// What tells choices apart: the letter, or a number that is none.
+int Code(const Choice& choice) {
+    constexpr int Letters = 256;
+    return choice.letter != 0 ? choice.letter : Letters + static_cast<int>(&choice - choices);
 }
 
 }  // namespace
@@ -55,55 +74,30 @@ std::string OutputFor(const std::string& input) {
 bool Options::Merging() const {
     constexpr std::string_view known[] = {"title",    "author",  "date",   "language", "subject",
                                           "keywords", "company", "header", "footer",   "toc-title"};
-    return !data.empty() || std::any_of(settings.begin(), settings.end(), [&](const auto& setting) {
-        return std::find(std::begin(known), std::end(known), setting.first) == std::end(known);
+    const auto names = settings.Names();
+    return !data.empty() || std::any_of(names.begin(), names.end(), [&](std::string_view name) {
+        return std::find(std::begin(known), std::end(known), name) == std::end(known);
     });
 }
 
 Options ReadOptions(int argc, char** argv) {
     Options options;
+    std::string letters = ":";
+    std::vector<option> names;
+    for (const Choice& choice : choices) {
+        if (choice.letter != 0) letters.append(1, choice.letter).append(choice.hasValue ? ":" : "");
+        names.push_back({choice.name, choice.hasValue, nullptr, Code(choice)});
+    }
+    names.push_back({});
     opterr = 0;
-    for (int found; (found = getopt_long(argc, argv, ":o:j:h", longOptions, nullptr)) != -1;) {
-        const std::string value = optarg == nullptr ? "" : optarg;
-        const std::string asked = optind > 0 && optind <= argc ? argv[optind - 1] : "";
-        switch (found) {
-        case 'o': options.output = value; break;
-        case StyleCode: options.styles.push_back(value); break;
-        case DataCode: options.data = value; break;
-        case SetCode: {
-            const std::size_t mark = value.find('=');
-            if (mark == value.npos || mark == 0)
-                throw UsageError("--set wants name=value, not \"" + value + '"');
-            options.settings[value.substr(0, mark)] = value.substr(mark + 1);
-            break;
-        }
-        case PageCode: options.page = value; break;
-        case TocCode: options.extras.contents = true; break;
-        case NumbersCode: options.extras.sectionNumbers = true; break;
-        case SpellingCode:
-            if (value != "standard" && value != "classic")
-                throw UsageError("--spelling is standard or classic, not \"" + value + '"');
-            options.classic = value == "classic";
-            break;
-        case GoOnCode: options.goOn = true; break;
-        case QuietCode: options.quiet = true; break;
-        case 'j': {
-            const char* end = value.data() + value.size();
-            if (std::from_chars(value.data(), end, options.jobs).ptr != end || options.jobs == 0
-                || options.jobs > 256)
-                throw UsageError("--jobs is a number from 1 to 256, not \"" + value + '"');
-            break;
-        }
-        case SchemaCode: options.task = Options::Task::Schema; return options;
-        case CleanCode:
-            options.task = Options::Task::Clean;
-            options.input = value;
-            return options;
-        case 'h': options.task = Options::Task::Help; return options;
-        case VersionCode: options.task = Options::Task::Version; return options;
-        case ':': throw UsageError(asked + " wants a value");
-        default: throw UsageError("there is no option " + asked);
-        }
+    for (int found; (found = getopt_long(argc, argv, letters.c_str(), names.data(), nullptr)) != -1;) {
+        const std::string asked = argv[optind - 1];
+        if (found == ':') throw UsageError(asked + " wants a value");
+        if (found == '?') throw UsageError("there is no option " + asked);
+        const Choice* choice = std::find_if(std::begin(choices), std::end(choices),
+                                            [found](const Choice& one) { return Code(one) == found; });
+        choice->take(options, choice->hasValue ? optarg : "");
+        if (options.task != Options::Task::Write) return options;
     }
     if (optind + 1 != argc)
         throw UsageError(optind == argc
@@ -112,7 +106,11 @@ Options ReadOptions(int argc, char** argv) {
     options.input = argv[optind];
     if (options.input == "-" && options.data == "-")
         throw UsageError("the input and the data cannot both come from standard input");
-    if (options.output.empty()) options.output = options.input == "-" ? "-" : OutputFor(options.input);
+    if (options.output.empty()) {
+        options.output = options.input;
+        if (options.input != "-")
+            options.output = std::filesystem::path(options.input).replace_extension(".rtf").string();
+    }
     if (options.output == options.input && options.input != "-")
         throw UsageError("the output would replace the input " + options.input);
     return options;

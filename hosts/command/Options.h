@@ -2,7 +2,6 @@
 
 #include "hosts/command/Writer.h"
 
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -17,7 +16,7 @@ struct Options {
     std::string output;  ///< "-": standard output; with {column}: a name for each row
     std::string data;    ///< rows; empty: none
     std::vector<std::string> styles;
-    std::map<std::string, std::string, std::less<>> settings;
+    Datum settings{Datum::Kind::Row};
     std::string page;  ///< the name of a size of paper; empty: what the style says
     Extras extras;
     bool classic = false;  ///< the spelling of old readers

@@ -1,126 +1,117 @@
 #include "hosts/command/Rows.h"
 
 #include "hosts/command/Json.h"
+#include "hosts/command/Text.h"
 
 #include <algorithm>
-#include <sstream>
-#include <stdexcept>
 
 namespace draftwick::command {
 
 namespace {
 
-/// One record of CSV.
-class Records {
+class CsvRows final : public Rows {
 public:
-    Records(std::istream& input, char separator, std::int64_t line)
-        : buffer_(*input.rdbuf()), separator_(static_cast<unsigned char>(separator)), line_(line) {}
+    explicit CsvRows(Input& input) : input_(input) {
+        const std::string_view head = input.Ahead().substr(0, input.Ahead().find('\n'));
+        for (const char mark : {';', '\t'}) {
+            if (std::count(head.begin(), head.end(), mark) > std::count(head.begin(), head.end(), separator_))
+                separator_ = mark;
+        }
+        Row row;
+        if (head.find_first_not_of('\r') == head.npos || !Record(row) || !row.fault.empty())
+            throw Failure({input.Name(), 1}, "no names of columns");
+        names_ = std::move(fields_);
+    }
 
-    /// The fields of the next record that is no empty line. False at the end. The fault is set where quotation marks
-    /// are wrong.
-    bool Next(std::vector<std::string>& fields, std::string& fault) {
-        while (Peek() == '\n' || Peek() == '\r') Get();
-        fields.assign(1, {});
-        fault.clear();
-        begin_ = line_;
-        if (Peek() == End) return false;
-        bool afterQuotes = false;
-        for (int letter; (letter = Get()) != End && letter != '\n';) {
+    bool Next(Row& row) override {
+        row = {++number_};
+        if (!Record(row)) return false;
+        if (row.fault.empty() && fields_.size() != names_.size()) {
+            row.fault =
+                std::to_string(fields_.size()) + " values for " + std::to_string(names_.size()) + " columns";
+        }
+        for (std::size_t i = 0; row.fault.empty() && i < names_.size(); ++i)
+            row.data.members.emplace_back(names_[i], Datum{Datum::Kind::Scalar, std::move(fields_[i])});
+        return true;
+    }
+
+private:
+    /// Reads the fields of the next record that is no empty line. False at the end.
+    bool Record(Row& row) {
+        while (input_.Peek() == '\n' || input_.Peek() == '\r') input_.Take();
+        fields_.assign(1, {});
+        row.line = input_.Line();
+        if (input_.AtEnd()) return false;
+        for (bool afterQuotes = false; !input_.AtEnd();) {
+            const char letter = input_.Take();
+            if (letter == '\n') break;
             if (letter == separator_) {
-                fields.emplace_back();
+                fields_.emplace_back();
                 afterQuotes = false;
-            } else if (letter == '"' && fields.back().empty() && !afterQuotes) {
-                Quoted(fields.back(), fault);
+            } else if (letter == '"' && fields_.back().empty() && !afterQuotes) {
+                if (!Quotation(fields_.back())) row.fault = "a quotation mark without its end";
                 afterQuotes = true;
-            } else if (letter != '\r' || Peek() != '\n') {
-                if (afterQuotes) fault = "text behind a quotation mark";
-                fields.back() += static_cast<char>(letter);
+            } else if (letter != '\r' || input_.Peek() != '\n') {
+                if (afterQuotes) row.fault = "text behind a quotation mark";
+                fields_.back() += letter;
             }
         }
         return true;
     }
 
-    std::int64_t Line() const { return begin_; }
-
-private:
-    static constexpr int End = std::char_traits<char>::eof();
-
-    int Peek() { return buffer_.sgetc(); }
-    int Get() {
-        const int letter = buffer_.sbumpc();
-        line_ += letter == '\n';
-        return letter;
-    }
-
-    void Quoted(std::string& field, std::string& fault) {
-        for (;;) {
-            const int letter = Get();
-            if (letter == End) {
-                fault = "a quotation mark without its end";
-                return;
-            }
-            if (letter == '"' && Peek() != '"') return;
-            if (letter == '"') Get();
-            field += static_cast<char>(letter);
+    /// Whether it has an end. Within it, two marks are one.
+    bool Quotation(std::string& field) {
+        while (!input_.AtEnd()) {
+            const char letter = input_.Take();
+            if (letter == '"' && (input_.Peek() != '"' || input_.AtEnd())) return true;
+            if (letter == '"') input_.Take();
+            field += letter;
         }
+        return false;
     }
 
-    std::streambuf& buffer_;
-    int separator_;
-    std::int64_t line_, begin_ = 0;
+    Input& input_;
+    char separator_ = ',';
+    std::vector<std::string> names_, fields_;
+    std::int64_t number_ = 0;
 };
 
-class RowBuilder final : public JsonEvents {
+class JsonRows final : public Rows {
 public:
-    explicit RowBuilder(const RowSink& sink) : sink_(sink) {}
+    explicit JsonRows(Input& input) : input_(input), json_(input) { array_ = json_.Accept('['); }
 
-    struct Stopped {};
-
-    void Value(const Scalar& value) override {
-        if (open_.empty()) throw std::invalid_argument("a row is an object, in braces");
-        // What is false or null counts as absent.
-        std::string text{value.text};
-        if (value.kind == Scalar::Kind::Boolean && value.truth) text = "true";
-        Put({Datum::Kind::Text, std::move(text)});
-    }
-    void Key(std::string_view name) override { key_ = name; }
-    void Begin(bool object) override {
-        constexpr std::size_t Deepest = 50;
-        if (open_.size() == Deepest) throw std::invalid_argument("nested too deeply");
-        if (open_.empty() && !object) {
-            if (inArray_) throw std::invalid_argument("a row is an object, in braces");
-            inArray_ = true;
-            return;
-        }
-        if (open_.empty()) {
-            row_ = Row{++rows_, Where().line};
-            open_.push_back(&row_.data);
-        } else {
-            open_.push_back(Put({object ? Datum::Kind::Row : Datum::Kind::List}));
-        }
-    }
-    void End() override {
-        if (open_.empty()) {
-            inArray_ = false;
-            return;
-        }
-        open_.pop_back();
-        if (open_.empty() && !sink_(std::move(row_))) throw Stopped{};
+    bool Next(Row& row) override {
+        return Locate([this] { return json_.Where(); },
+                      [&] {
+                          if (array_ ? !json_.More(']', number_ == 0) : json_.Peek() == '\0') {
+                              json_.End();
+                              return false;
+                          }
+                          if (json_.Peek() != '{') Refuse("a row is an object, in braces");
+                          row = {++number_, input_.Line(), Read()};
+                          return true;
+                      });
     }
 
 private:
-    Datum* Put(Datum value) {
-        auto& members = open_.back()->members;
-        members.emplace_back(std::exchange(key_, {}), std::move(value));
-        return &members.back().second;
+    Datum Read() {
+        Datum datum;
+        if (json_.Peek() == '{') {
+            datum.kind = Datum::Kind::Row;
+            json_.Object([&](const std::string& name) { datum.members.emplace_back(name, Read()); });
+        } else if (json_.Peek() == '[') {
+            datum.kind = Datum::Kind::List;
+            json_.Array([&] { datum.members.emplace_back("", Read()); });
+        } else {
+            datum.text = json_.Text();
+        }
+        return datum;
     }
 
-    const RowSink& sink_;
-    Row row_;
-    std::vector<Datum*> open_;  // a parent takes no member while one of its members is open
-    std::string key_;
-    bool inArray_ = false;
-    std::int64_t rows_ = 0;
+    Input& input_;
+    JsonReader json_;
+    bool array_;
+    std::int64_t number_ = 0;
 };
 
 }  // namespace
@@ -132,52 +123,31 @@ const Datum* Datum::Find(std::string_view name) const {
     return nullptr;
 }
 
-void ReadCsv(std::istream& input, const std::string& name, const RowSink& sink) {
-    std::string head;
-    std::getline(input, head);
-    if (head.starts_with("\xEF\xBB\xBF")) head.erase(0, 3);
-    if (head.ends_with('\r')) head.pop_back();
-    const auto count = [&head](char mark) { return std::count(head.begin(), head.end(), mark); };
-    char separator = ',';
-    for (const char mark : {';', '\t'}) {
-        if (count(mark) > count(separator)) separator = mark;
+std::string& Datum::Text(std::string_view name) {
+    for (auto& [own, value] : members) {
+        if (own == name) return value.text;
     }
-    std::istringstream line(head);
-    std::vector<std::string> names, fields;
-    std::string fault;
-    if (!Records(line, separator, 1).Next(names, fault) || !fault.empty())
-        throw Failure({name, 1}, "no names of columns");
-    Records records(input, separator, 2);
-    for (std::int64_t number = 1; records.Next(fields, fault); ++number) {
-        Row row{number, records.Line()};
-        if (fault.empty() && fields.size() != names.size()) {
-            fault =
-                std::to_string(fields.size()) + " values for " + std::to_string(names.size()) + " columns";
-        }
-        row.fault = fault;
-        for (std::size_t i = 0; fault.empty() && i < names.size(); ++i)
-            row.data.members.emplace_back(names[i], Datum{Datum::Kind::Text, std::move(fields[i])});
-        if (!sink(std::move(row))) return;
-    }
-    if (input.bad()) throw Failure({name}, "cannot be read");
+    return members.emplace_back(name, Datum{}).second.text;
 }
 
-void ReadJsonRows(std::istream& input, const std::string& name, const RowSink& sink) {
-    RowBuilder builder(sink);
-    try {
-        ReadJson(input, name, builder, true);
-    } catch (const RowBuilder::Stopped&) {
-    }
+std::vector<std::string_view> Datum::Names() const {
+    std::vector<std::string_view> names;
+    for (const auto& member : members) names.push_back(member.first);
+    return names;
 }
 
-bool BeginsObject(std::string_view beginning) {
-    if (beginning.starts_with("\xEF\xBB\xBF")) beginning.remove_prefix(3);
-    const std::size_t first = beginning.find_first_not_of(" \t\r\n");
-    if (first == beginning.npos) return false;
+std::unique_ptr<Rows> OpenRows(Input& input) {
+    input.SkipBlanks();
+    if (input.Peek() == '[' || input.Peek() == '{') return std::make_unique<JsonRows>(input);
+    return std::make_unique<CsvRows>(input);
+}
+
+bool BeginsObject(std::string_view text) {
+    text = Trimmed(text);
+    if (!text.starts_with('{')) return false;
     // "{{name}}" begins a letter, "{" and a name an object.
-    const std::size_t second = beginning.find_first_not_of(" \t\r\n", first + 1);
-    return beginning[first] == '{' && second != beginning.npos
-           && (beginning[second] == '"' || beginning[second] == '}');
+    text = Trimmed(text.substr(1));
+    return text.starts_with('"') || text.starts_with('}');
 }
 
 }  // namespace draftwick::command

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "hosts/command/Input.h"
+
 #include <cstdint>
-#include <functional>
-#include <istream>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,12 +13,15 @@ namespace draftwick::command {
 
 /// A value of a row: a text, a list of values, or a row of its own.
 struct Datum {
-    enum class Kind { Text, List, Row };
-    Kind kind = Kind::Text;
+    enum class Kind { Scalar, List, Row };
+    Kind kind = Kind::Scalar;
     std::string text{};                                    ///< numbers as they were written; empty: absent
     std::vector<std::pair<std::string, Datum>> members{};  ///< of a list without names
 
     const Datum* Find(std::string_view name) const;
+    /// The text of a member, which is added when there is none.
+    std::string& Text(std::string_view name);
+    std::vector<std::string_view> Names() const;
 };
 
 /// One row of the data, or why there is none.
@@ -29,15 +33,19 @@ struct Row {
     std::string output{};  ///< the file that is to be written for it alone
 };
 
-/// What is told about each row; false ends the reading.
-using RowSink = std::function<bool(Row&&)>;
+/// The rows of an input.
+class Rows {
+public:
+    virtual ~Rows() = default;
+    /// The next row; false when there is none. Failure when what comes is no row.
+    virtual bool Next(Row& row) = 0;
+};
 
-/// Reads CSV (RFC 4180) with a line of names; values are divided by commas, semicolons or tabs, whichever the line of
-/// names has most. Failure when there is no line of names.
-void ReadCsv(std::istream& input, const std::string& name, const RowSink& sink);
-/// Reads objects, in an array or one after the other. Failure with its place for what is no JSON.
-void ReadJsonRows(std::istream& input, const std::string& name, const RowSink& sink);
+/// Rows of CSV (RFC 4180) with a line of names, or objects in JSON, in an array or one after the other. Values of CSV
+/// are divided by commas, semicolons or tabs, whichever the line of names has most. Failure without a line of names.
+std::unique_ptr<Rows> OpenRows(Input& input);
+
 /// Whether a text begins with an object of JSON: a brace and a name, not "{{name}}" or a list.
-bool BeginsObject(std::string_view beginning);
+bool BeginsObject(std::string_view text);
 
 }  // namespace draftwick::command

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "hosts/command/Message.h"
-#include "hosts/command/Values.h"
+#include "hosts/command/Json.h"
+#include "hosts/command/Member.h"
 
-#include <istream>
 #include <map>
 #include <string>
 #include <string_view>
@@ -20,29 +19,28 @@ public:
     /// Adds a built-in look by its name, or a style file; what it says comes after what was said before. Failure when
     /// there is no such file or something in it is wrong.
     void Add(const std::string& nameOrFile);
-    void Add(std::istream& input, const std::string& name);
+    void Add(Input& input);
 
     /// Adds fonts and styles to a document and sets its page.
     void Prepare(const std::shared_ptr<Document>& document) const;
     /// Sets what is said about a kind of element.
-    void Apply(std::string_view element, const std::shared_ptr<Object>& object) const;
+    void Apply(std::string_view element, const ObjectPointer& object) const;
     /// What is said about a single line of the document, like its footer; empty: nothing.
     std::string Default(std::string_view name) const;
 
-    static std::vector<std::string_view> Looks();
-
 private:
     struct Setting {
-        std::vector<std::string> path;
-        Scalar::Kind kind = Scalar::Kind::Nothing;
-        std::string text{};
-        bool truth = false;
-        Place place{};
+        std::string font;  // whose it is, in the element of fonts
+        std::string path;
+        Variant value;
+        Place place;
+
+        void Apply(const ObjectPointer& object) const;
     };
-    class Reader;
     using Settings = std::vector<Setting>;
 
-    static void Set(const Setting& setting, const Target& target, std::size_t from);
+    Settings& Element(const std::string& name);
+    static void Read(JsonReader& json, const std::string& font, const std::string& path, Settings& settings);
 
     std::vector<std::string> order_;  // of the elements, which is that of the styles
     std::map<std::string, Settings, std::less<>> elements_;
