@@ -68,8 +68,7 @@ void WriteErrors(const std::string& filename) {
 
     auto section = document->AddSection();
     for (const Case& one : Cases) {
-        auto paragraph = section->AddParagraph();
-        paragraph->SetStyleName("Normal");
+        auto paragraph = section->AddParagraph("Normal");
         const std::string refusal = Refusal(one.call, *paragraph);
         paragraph->AddTextItem(one.what)->FontFormat()->SetBold(true);
         paragraph->AddTextItem(": " + refusal);

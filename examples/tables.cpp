@@ -24,8 +24,7 @@ void AddCell(Table& row, double width, const char* text, dwParagraphAlign align 
     }
     for (const auto& side : *cell->Borders()) side->SetStyle(dwBSSingle);
 
-    auto paragraph = cell->AddParagraph();
-    paragraph->SetStyleName("In a cell");
+    auto paragraph = cell->AddParagraph("In a cell");
     paragraph->Format()->SetAlign(align);
     paragraph->AddTextItem(text);
 }
@@ -91,9 +90,7 @@ void WriteTables(const char* filename) {
     inCell->Format()->SetSpaceAfter(3);
 
     auto section = document->AddSection();
-    auto title = section->AddParagraph();
-    title->SetStyleName("Normal");
-    title->AddTextItem("What is sown in April");
+    section->AddParagraph("Normal", "What is sown in April");
     AddTable(*section);
     document->Finish();
 }
