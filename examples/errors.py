@@ -62,7 +62,7 @@ def write_errors(filename: str) -> None:
 
     section = document.add_section()
     for what, call in CASES:
-        paragraph = section.add_paragraph(style_name="Normal")
+        paragraph = section.add_paragraph("Normal")
         refused = refusal(call, paragraph)
         paragraph.add_text_item(what).font_format.bold = True
         paragraph.add_text_item(f": {refused}")

@@ -20,7 +20,7 @@ def add_cell(row: Table, width: float, text: str, align: ParagraphAlign = Paragr
     for side in cell.borders:
         side.style = BorderStyle.SINGLE
 
-    paragraph = cell.add_paragraph(style_name="In a cell")
+    paragraph = cell.add_paragraph("In a cell")
     paragraph.format.align = align
     paragraph.add_text_item(text)
 # [cell]
@@ -74,7 +74,7 @@ def write_tables(filename: str) -> None:
         in_cell.format.space_after = 3
 
         section = document.add_section()
-        section.add_paragraph(style_name="Normal").add_text_item("What is sown in April")
+        section.add_paragraph("Normal", "What is sown in April")
         add_table(section)
 
 
