@@ -1,4 +1,4 @@
-"""Fields, which readers work out, and document properties, which they show as information about the file.
+"""Fields, which readers compute, and document properties, which they show as information about the file.
 
 usage: fields.py OUTPUT.rtf
 """

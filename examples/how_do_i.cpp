@@ -248,7 +248,7 @@ void AddShapes(Section& section, const std::string& photo) {
     frame->SetReferenceY(dwSRYParagraph);
     frame->SetWrap(dwSWAround);
     paragraph->AddTextItem("The picture stands on the right, twelve centimetres from where the column "
-                           "begins, and the text goes around it.");
+                           "begins, and the text flows around it.");
     // [wrap]
     // [box]
     auto anchor = section.AddParagraph("Normal");

@@ -218,7 +218,7 @@ def add_shapes(section: Section, photo: str) -> None:
     frame.reference_x = ShapeReferenceX.COLUMN
     frame.reference_y = ShapeReferenceY.PARAGRAPH
     frame.wrap = ShapeWrap.AROUND
-    paragraph.add_text_item("The picture stands on the right, twelve centimetres from where the column begins, and the text goes "
+    paragraph.add_text_item("The picture stands on the right, twelve centimetres from where the column begins, and the text flows "
                             "around it.")
     # [wrap]
     # [box]

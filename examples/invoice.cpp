@@ -1,4 +1,4 @@
-// Writes an invoice: a letterhead on the first page, a table of forty rows whose head is repeated on each page,
+// Writes an invoice: a letterhead on the first page, a table of forty rows whose header row is repeated on each page,
 // cells that are merged down and across, amounts that stand below each other, totals.
 //
 // usage: invoice OUTPUT.rtf
@@ -98,7 +98,7 @@ void AddHeaders(Section& section) {
         auto footer = section.AddHeader(kind)->AddParagraph("Small print");
         footer->TabStops()->Add(6.7, dwTabRight, dwTabLeaderNone);
         footer->AddTextItem("IBAN DE02 1203 0000 0000 2020 51\tPage ");
-        // The reader works these out; the numbers here are shown only until it does.
+        // Readers compute these; the numbers here are shown until they do.
         footer->AddField("PAGE", "1");
         footer->AddTextItem(" of ");
         footer->AddField("NUMPAGES", "1");

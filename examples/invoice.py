@@ -1,4 +1,4 @@
-"""An invoice: a letterhead on the first page, a table of forty rows whose head is repeated on each page, cells that are
+"""An invoice: a letterhead on the first page, a table of forty rows whose header row is repeated on each page, cells that are
 merged down and across, amounts that stand below each other, totals.
 
 usage: invoice.py OUTPUT.rtf

@@ -10,7 +10,7 @@ using namespace draftwick;
 
 namespace {
 
-// The look of the letter, said once: paragraphs refer to these styles by name.
+// The look of the letter, in one place: paragraphs refer to these styles by name.
 void AddStyles(Document& document) {
     document.Fonts()->Add("Georgia")->SetFamily(dwRoman);
     document.SetDefaultFontName("Georgia");

@@ -32,7 +32,7 @@ constexpr const char* Entries[] = {
 void AddHeaders(Section& section) {
     section.AddHeader(dwHeader)->AddParagraph("Running title", "The lighthouse keeper’s log");
     auto footer = section.AddHeader(dwFooter)->AddParagraph("Running title", "Page ");
-    footer->AddField("PAGE", "1");  // readers work it out; 1 is shown until they do
+    footer->AddField("PAGE", "1");  // readers compute it; 1 is shown until they do
 }
 // [header]
 

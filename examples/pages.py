@@ -31,7 +31,7 @@ ENTRIES = [
 def add_headers(section: Section) -> None:
     section.add_header(HeaderKind.HEADER).add_paragraph("Running title", "The lighthouse keeper’s log")
     footer = section.add_header(HeaderKind.FOOTER).add_paragraph("Running title", "Page ")
-    footer.add_field("PAGE", "1")  # readers work it out; 1 is shown until they do
+    footer.add_field("PAGE", "1")  # readers compute it; 1 is shown until they do
 # [header]
 
 

@@ -54,7 +54,7 @@ void WritePictures(const std::string& filename) {
     auto frame = text->AddShape(dwSKPictureFrame);
     frame->SetWidth(3);
     frame->SetHeight(2);
-    frame->SetWrap(dwSWAround);  // the text goes around it
+    frame->SetWrap(dwSWAround);  // the text flows around it
     frame->SetWrapRight(0.2);
     frame->SetWrapBottom(0.1);
     frame->Fill()->SetPicture(hills);

@@ -1,4 +1,4 @@
-// Styles: the look of a document said once, by name.
+// Styles: the look of a document in one place, by name.
 //
 // usage: styles OUTPUT.rtf
 #include <draftwick/draftwick.h>

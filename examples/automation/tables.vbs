@@ -38,13 +38,13 @@ Const Bed = 1.1, Plant = 2.4, Amount = 1.2
 Sub AddTable(section)
     Dim row, line
     Set row = section.AddTable
-    row.Header = True ' is repeated where the table goes on to another page
+    row.Header = True ' is repeated on each page that the table goes on to
     AddCell row, Bed, "Bed", dwAlignLeft, dwMergeNone, 20
     AddCell row, Plant, "Plant", dwAlignLeft, dwMergeNone, 20
     AddCell row, Amount, "Rows", dwAlignRight, dwMergeNone, 20
     AddCell row, Amount, "Seed, g", dwAlignRight, dwMergeNone, 20
 
-    ' A cell that goes over several rows is the first of merged ones; those below it have no text.
+    ' A cell that spans several rows is the first of merged cells; those below it have no text.
     For Each line In Array(Array("South wall", "Tomatoes", 2, "0.4", dwMergeFirstVertical), _
                            Array("", "Basil", 1, "0.5", dwMergeVertical), _
                            Array("", "French beans", 4, 120, dwMergeVertical), _
