@@ -34,15 +34,15 @@ class TextStyles;
 /// as its next sibling arrives; Finish puts the tables of fonts, colours, styles and lists in front. The first
 /// section writes the document's own settings: from then on its setters refuse ("Document"), except ScaleMode.
 ///
-/// The host's reference keeps the document alive; once it is let go, everything that belonged to it refuses
-/// with error 91. A document that is let go without Finish leaves its temporary file behind, with the lines
+/// Your program's reference keeps the document alive; once it is released, everything that belonged to it refuses
+/// with error 91. A document that is released without Finish leaves its temporary file behind, with the lines
 /// that were written so far, unless DiscardOnRelease is set. One document is for one thread; different documents can be used in different
 /// threads at the same time.
 class DRAFTWICK_API Document final : public detail::Content {
 public:
     /// A new document with the system's services.
     static std::shared_ptr<Document> Create();
-    /// A new document with the host's own services in place of the system's (draftwick/platform/Platform.h). A service
+    /// A new document with services of your own in place of the system's (draftwick/platform/Platform.h). A service
     /// that is empty is refused with error 5 by the call that needs it.
     static std::shared_ptr<Document> Create(platform::Platform services);
     ~Document() override;
@@ -76,7 +76,7 @@ public:
     /// (dwErrTargetEmitted, "Document"). A finished document stays what it is, and a second call does nothing.
     /// FileError when the file cannot be deleted; the document is given up nevertheless.
     void Discard();
-    /// Whether a document that is let go unfinished is given up, as by Discard; else its temporary file stays, with
+    /// Whether a document that is released unfinished is given up, as by Discard; else its temporary file stays, with
     /// all that was written. Default false. Can be set until the document is finished.
     bool DiscardOnRelease() const { return settings_.discardOnRelease; }
     void SetDiscardOnRelease(bool on);
@@ -85,7 +85,7 @@ public:
     bool BodyInMemory() const { return settings_.bodyInMemory; }
     void SetBodyInMemory(bool on) { Change(settings_.bodyInMemory, on); }
 
-    /// How many characters of the host's texts the file could not hold, of what is written so far; "?" stands in their
+    /// How many characters of your texts the file could not hold, of what is written so far; "?" stands in their
     /// place.
     std::int32_t LostCharacters() const;
 
@@ -127,7 +127,7 @@ public:
     std::shared_ptr<draftwick::Lists> Lists() const;
     std::shared_ptr<draftwick::ParagraphStyles> ParagraphStyles() const;
     std::shared_ptr<draftwick::TextStyles> TextStyles() const;
-    /// Title, author and the like, and those of the host's own.
+    /// Title, author and the like, and those that you add.
     std::shared_ptr<draftwick::Properties> Properties() const;
 
     /// The font of everything that has no other; empty (default) leaves it to the reader. It takes the spelling of
