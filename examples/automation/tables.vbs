@@ -23,8 +23,7 @@ Sub AddCell(row, width, text, align, merge, shading)
         side.Style = dwBSSingle
     Next
 
-    Set paragraph = cell.AddParagraph
-    paragraph.StyleName = "In a cell"
+    Set paragraph = cell.AddParagraph("In a cell")
     paragraph.Format.Align = align
     paragraph.AddTextItem text
 End Sub
@@ -66,7 +65,7 @@ End Sub
 ' [rows]
 
 Sub WriteTables(filename)
-    Dim document, normal, inCell, section, title
+    Dim document, normal, inCell, section
     Set document = CreateObject("Draftwick.Document")
     document.Filename = filename
     document.Spelling = dwSpellingStandard
@@ -84,9 +83,7 @@ Sub WriteTables(filename)
     inCell.Format.SpaceAfter = 3
 
     Set section = document.AddSection
-    Set title = section.AddParagraph
-    title.StyleName = "Normal"
-    title.AddTextItem "What is sown in April"
+    section.AddParagraph "Normal", "What is sown in April"
     AddTable section
     document.Finish
 End Sub
