@@ -1,6 +1,6 @@
 #pragma once
 
-/// All of Draftwick: what a host includes. Services of its own in place of the system's need platform/Platform.h, too.
+/// All of Draftwick: what a program includes. Services in place of the system's need platform/Platform.h, too.
 #include <draftwick/base/Color.h>
 #include <draftwick/base/Error.h>
 #include <draftwick/base/Version.h>

@@ -29,7 +29,7 @@ struct Case {
     void (*call)(Paragraph&);
 };
 const Case Cases[] = {
-    {"an alignment that there is not", [](Paragraph& p) { p.Format()->SetAlign(dwParagraphAlign{7}); }},
+    {"an alignment that does not exist", [](Paragraph& p) { p.Format()->SetAlign(dwParagraphAlign{7}); }},
     {"an indent of 1000 inches", [](Paragraph& p) { p.Format()->SetIndentLeft(1000); }},
     {"a style that does not exist", [](Paragraph& p) { p.SetStyleName("Sonnet"); }},
     {"a font that was not added", [](Paragraph& p) { p.FontFormat()->SetFontName("Courier"); }},
@@ -68,8 +68,7 @@ void WriteErrors(const std::string& filename) {
 
     auto section = document->AddSection();
     for (const Case& one : Cases) {
-        auto paragraph = section->AddParagraph();
-        paragraph->SetStyleName("Normal");
+        auto paragraph = section->AddParagraph("Normal");
         const std::string refusal = Refusal(one.call, *paragraph);
         paragraph->AddTextItem(one.what)->FontFormat()->SetBold(true);
         paragraph->AddTextItem(": " + refusal);

@@ -29,7 +29,7 @@ def write_and_align(paragraph: Paragraph) -> None:
 
 # A type checker finds the first and the fifth before they run.
 CASES: list[tuple[str, Callable[[Any], Any]]] = [
-    ("an alignment that there is not", lambda paragraph: setattr(paragraph.format, "align", 7)),
+    ("an alignment that does not exist", lambda paragraph: setattr(paragraph.format, "align", 7)),
     ("an indent of 1000 inches", lambda paragraph: setattr(paragraph.format, "indent_left", 1000)),
     ("a style that does not exist", lambda paragraph: setattr(paragraph, "style_name", "Sonnet")),
     ("a font that was not added", lambda paragraph: setattr(paragraph.font_format, "font_name", "Courier")),
@@ -62,7 +62,7 @@ def write_errors(filename: str) -> None:
 
     section = document.add_section()
     for what, call in CASES:
-        paragraph = section.add_paragraph(style_name="Normal")
+        paragraph = section.add_paragraph("Normal")
         refused = refusal(call, paragraph)
         paragraph.add_text_item(what).font_format.bold = True
         paragraph.add_text_item(f": {refused}")

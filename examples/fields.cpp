@@ -1,4 +1,4 @@
-// Fields, which readers work out, and document properties, which they show as information about the file.
+// Fields, which readers compute, and document properties, which they show as information about the file.
 //
 // usage: fields OUTPUT.rtf
 #include <draftwick/draftwick.h>
@@ -19,12 +19,6 @@ void AddProperties(Document& document) {
     properties->Add("Plots", 64);  // one of our own
 }
 // [properties]
-
-std::shared_ptr<Paragraph> AddParagraph(Container& container, const char* style) {
-    auto paragraph = container.AddParagraph();
-    paragraph->SetStyleName(style);
-    return paragraph;
-}
 
 void AddStyles(Document& document) {
     document.Fonts()->Add("Times New Roman")->SetFamily(dwRoman);
@@ -53,8 +47,8 @@ void WriteFields(const char* filename) {
     auto section = document->AddSection();
 
     // [footer]
-    // A field is an instruction and the text that is shown until a reader carries it out, or for ever if it cannot.
-    auto footer = AddParagraph(*section->AddHeader(dwFooter), "Normal");
+    // A field is an instruction and the text that is shown until a reader carries it out. Some readers never do.
+    auto footer = section->AddHeader(dwFooter)->AddParagraph("Normal");
     footer->Format()->SetAlign(dwAlignCenter);
     footer->AddField("TITLE", "Rules of the allotment");
     footer->AddTextItem(" · page ");
@@ -64,24 +58,23 @@ void WriteFields(const char* filename) {
     // [footer]
 
     // [contents]
-    AddParagraph(*section, "Heading 1")->AddTextItem("Rules of the allotment");
-    auto contents = AddParagraph(*section, "Contents");
+    section->AddParagraph("Heading 1", "Rules of the allotment");
+    auto contents = section->AddParagraph("Contents");
     contents->AddField("TOC \\o \"1-1\"", "Water\t2");
 
-    auto reference = AddParagraph(*section, "Normal");
-    reference->AddTextItem("What the pump may be used for stands on page ");
+    auto reference = section->AddParagraph("Normal", "What the pump may be used for stands on page ");
     reference->AddField("PAGEREF water", "2");
     reference->AddTextItem(". As of ");
     reference->AddField("DATE", "1 April 2026")->SetDatePicture("d MMMM yyyy");
     reference->AddTextItem(" it is locked at night.");
 
-    auto heading = AddParagraph(*section, "Heading 1");
+    auto heading = section->AddParagraph("Heading 1");
     heading->Format()->SetPageBreakBefore(true);
     heading->AddBookmark("water");
     heading->AddTextItem("Water");
     heading->AddBookmark("water", false);
     // [contents]
-    AddParagraph(*section, "Normal")->AddTextItem("For plants, hands and the coffee of the committee.");
+    section->AddParagraph("Normal", "For plants, hands and the coffee of the committee.");
     document->Finish();
 }
 

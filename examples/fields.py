@@ -1,4 +1,4 @@
-"""Fields, which readers work out, and document properties, which they show as information about the file.
+"""Fields, which readers compute, and document properties, which they show as information about the file.
 
 usage: fields.py OUTPUT.rtf
 """
@@ -40,8 +40,8 @@ def write_fields(filename: str) -> None:
         section = document.add_section()
 
         # [footer]
-        # A field is an instruction and the text that is shown until a reader carries it out, or for ever if it cannot.
-        footer = section.add_header(HeaderKind.FOOTER).add_paragraph(style_name="Normal")
+        # A field is an instruction and the text that is shown until a reader carries it out. Some readers never do.
+        footer = section.add_header(HeaderKind.FOOTER).add_paragraph("Normal")
         footer.format.align = ParagraphAlign.CENTER
         footer.add_field("TITLE", "Rules of the allotment")
         footer.add_text_item(" · page ")
@@ -51,23 +51,22 @@ def write_fields(filename: str) -> None:
         # [footer]
 
         # [contents]
-        section.add_paragraph(style_name="Heading 1").add_text_item("Rules of the allotment")
-        section.add_paragraph(style_name="Contents").add_field(r'TOC \o "1-1"', "Water\t2")
+        section.add_paragraph("Heading 1", "Rules of the allotment")
+        section.add_paragraph("Contents").add_field(r'TOC \o "1-1"', "Water\t2")
 
-        reference = section.add_paragraph(style_name="Normal")
-        reference.add_text_item("What the pump may be used for stands on page ")
+        reference = section.add_paragraph("Normal", "What the pump may be used for stands on page ")
         reference.add_field("PAGEREF water", "2")
         reference.add_text_item(". As of ")
         reference.add_field("DATE", "1 April 2026", date_picture="d MMMM yyyy")
         reference.add_text_item(" it is locked at night.")
 
-        heading = section.add_paragraph(style_name="Heading 1")
+        heading = section.add_paragraph("Heading 1")
         heading.format.page_break_before = True
         heading.add_bookmark("water")
         heading.add_text_item("Water")
         heading.add_bookmark("water", is_start=False)
         # [contents]
-        section.add_paragraph(style_name="Normal").add_text_item("For plants, hands and the coffee of the committee.")
+        section.add_paragraph("Normal", "For plants, hands and the coffee of the committee.")
 
 
 if __name__ == "__main__":

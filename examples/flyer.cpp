@@ -12,7 +12,6 @@
 #include <string>
 
 using namespace draftwick;
-using examples::Rgb;
 
 namespace {
 
@@ -58,13 +57,6 @@ void AddStyles(Document& document) {
     auto below = document.ParagraphStyles()->Add("Below");
     below->SetBasedOn("Copy");
     below->Format()->SetSpaceBefore(540);
-}
-
-std::shared_ptr<Paragraph> AddLine(Container& container, const char* style, const char* text) {
-    auto paragraph = container.AddParagraph();
-    paragraph->SetStyleName(style);
-    paragraph->AddTextItem(text);
-    return paragraph;
 }
 
 /// Inches from the left margin and, as not all readers know the upper one, from the edge of the page, less the titles.
@@ -187,7 +179,7 @@ void AddProgramme(Paragraph& anchor) {
     box->Line()->SetColor(Navy);
     box->Line()->SetStyle(dwSLSThinThick);
     box->Line()->SetWidth(3);
-    AddLine(*box, "Box title", "What is on");
+    box->AddParagraph("Box title", "What is on");
     static constexpr const char* Programme[][2] = {
         {"11:00", "Building kites with the harbour school"},
         {"14:00", "The big fight of the stunt kites"},
@@ -197,10 +189,10 @@ void AddProgramme(Paragraph& anchor) {
         auto row = box->AddTable();
         auto when = row->AddCell();
         when->SetWidth(0.7);
-        AddLine(*when, "Copy", time);
+        when->AddParagraph("Copy", time);
         auto what = row->AddCell();
         what->SetWidth(2.5);
-        AddLine(*what, "Copy", event);
+        what->AddParagraph("Copy", event);
     }
     auto below = box->AddParagraph();
     below->FontFormat()->SetColor(Navy);
@@ -224,7 +216,7 @@ void WriteFlyer(const std::string& filename, dwSpelling spelling) {
 
     auto section = document->AddSection();
     // Everything that is drawn hangs on the first paragraph.
-    auto anchor = AddLine(*section, "Headline", "Kites over the Harbour");
+    auto anchor = section->AddParagraph("Headline", "Kites over the Harbour");
     DrawTitle(*anchor);
     DrawSky(*anchor);
     DrawBuoy(*anchor);
@@ -238,8 +230,8 @@ void WriteFlyer(const std::string& filename, dwSpelling spelling) {
     swatch->Fill()->SetPicture(cloth);
     AddProgramme(*anchor);
 
-    AddLine(*section, "Occasion", "Saturday, 14 June, from eleven until the wind drops");
-    AddLine(*section, "Below", "Bring a kite or borrow one of ours. Dogs stay on the leash, kites too.");
+    section->AddParagraph("Occasion", "Saturday, 14 June, from eleven until the wind drops");
+    section->AddParagraph("Below", "Bring a kite or borrow one of ours. Dogs stay on the leash, kites too.");
     document->Finish();
     std::cout << "written: " << document->ActualFileName() << '\n';
 }

@@ -5,9 +5,13 @@
 
 #include <draftwick/draftwick.h>
 
+#include <algorithm>
 #include <exception>
 #include <iostream>
+#include <numeric>
 #include <string>
+#include <utility>
+#include <vector>
 
 using namespace draftwick;
 
@@ -21,6 +25,8 @@ void AddStyles(Document& document) {
     normal->Format()->SetSpaceAfter(6);
     auto heading = document.ParagraphStyles()->Add("Heading 1");
     heading->FontFormat()->SetSize(16);
+    heading->Format()->SetSpaceBefore(12);
+    heading->Format()->SetSpaceAfter(6);
     heading->Format()->SetOutlineLevel(1);
     heading->Format()->SetKeepWithNext(true);
     // [styles]
@@ -53,11 +59,11 @@ void AddStep(Section& section, const char* list, const char* text) {
 
 // [contents-line]
 /// A line of a table of contents that every reader shows and follows: a link, a tab and the number of the page.
-void AddContentsLine(Section& section, const std::string& text, const std::string& bookmark) {
+void AddContentsLine(Section& section, const std::string& text, const std::string& bookmark, int page) {
     auto line = section.AddParagraph("Contents");
     line->AddField("HYPERLINK \\l \"" + bookmark + "\"", text);
     line->AddTextItem("\t");
-    line->AddField("PAGEREF " + bookmark, "1");
+    line->AddField("PAGEREF " + bookmark, std::to_string(page));
 }
 // [contents-line]
 
@@ -80,7 +86,7 @@ void AddHeaders(Section& section, const std::string& logo) {
     footer->AddTextItem("Page ");
     footer->AddField("PAGE", "1");
     footer->AddTextItem(" of ");
-    footer->AddField("NUMPAGES", "5");
+    footer->AddField("NUMPAGES", "6");
     // [page-of]
 }
 
@@ -116,9 +122,9 @@ void AddText(Section& section) {
     // [tab]
     // [footnote]
     auto noted = section.AddParagraph("Normal", "The first boat leaves at six");
-    noted->AddTextItem("")->AddSpecial(Special{}.Footnote());
+    noted->AddTextItem("")->AddSpecial(Special::Footnote());
     auto note = noted->AddFootnote()->AddParagraph("Normal");
-    note->AddTextItem("")->AddSpecial(Special{}.Footnote());
+    note->AddTextItem("")->AddSpecial(Special::Footnote());
     note->AddTextItem(" On Sundays at seven.");
     // [footnote]
     // [today]
@@ -127,6 +133,11 @@ void AddText(Section& section) {
 }
 
 void AddReferences(Section& section, const std::string& photo) {
+    // [picture]
+    auto words = section.AddParagraph("Normal", "The sign ");
+    words->AddPicture(photo, 0, 14_pt);  // 14 points high, as wide as that makes it
+    words->AddTextItem(" means that the harbour is open.");
+    // [picture]
     // [caption]
     auto figure = section.AddParagraph("Normal");
     figure->Format()->SetKeepWithNext(true);
@@ -142,16 +153,18 @@ void AddReferences(Section& section, const std::string& photo) {
     auto text = section.AddParagraph("Normal", "See ");
     text->AddField("REF harbour \\h", "Figure 1");
     text->AddTextItem(" on page ");
-    text->AddField("PAGEREF harbour", "2");
+    text->AddField("PAGEREF harbour", "1");
     text->AddTextItem(".");
     // [reference]
 }
 
 void AddTables(Section& section, const std::string& logo) {
     // [table]
+    // [header-row]
     auto head = section.AddTable();
-    head->SetHeader(true);  // again on each page that the table goes on to
+    head->SetHeader(true);
     head->SetKeepTogether(true);
+    // [header-row]
     for (const char* title : {"Boat", "Places", "Built"}) {
         auto cell = head->AddCell();
         cell->SetWidth(4_cm);
@@ -167,12 +180,23 @@ void AddTables(Section& section, const std::string& logo) {
     // [like]
     auto row = section.AddTable();
     for (const char* text : {"Kittiwake", "48", "1998"}) {
-        auto cell =
-            row->AddCell(head->CurrentCell());  // width, borders, background and alignment of that one
+        auto cell = row->AddCell(head->CurrentCell());
         cell->Background()->SetTexture(dwTextureNone);
         cell->AddParagraph("Cell", text);
     }
     // [like]
+    // [nested]
+    bool isFirst = true;
+    for (const auto& [place, seats] : {std::pair{"On deck", "30"}, {"In the cabin", "18"}}) {
+        auto part = section.AddTable();
+        auto boat = part->AddCell(row->CurrentCell());
+        boat->SetMerge(isFirst ? dwMergeFirstVertical : dwMergeVertical);
+        boat->AddParagraph("Cell", isFirst ? "Kittiwake, in detail" : "");
+        part->AddCell(row->CurrentCell())->AddParagraph("Cell", place);
+        part->AddCell(row->CurrentCell())->AddParagraph("Cell", seats);
+        isFirst = false;
+    }
+    // [nested]
     // [merge]
     auto total = section.AddTable();
     total->AddCell(row->CurrentCell())->SetMerge(dwMergeFirstHorizontal);
@@ -184,6 +208,33 @@ void AddTables(Section& section, const std::string& logo) {
     cell->AddParagraph("Cell")->AddPicture(logo, 1.5_cm);
     // [cell-picture]
 }
+
+using Texts = std::vector<std::vector<std::string>>;
+
+// [widths]
+/// Shares the room out in proportion to the longest text of each column, counted in bytes.
+std::vector<double> Widths(const Texts& rows, double room) {
+    std::vector<std::size_t> longest(rows.front().size(), 4);  // no column is narrower than that
+    for (const auto& row : rows) {
+        for (std::size_t i = 0; i < row.size(); ++i) longest[i] = std::max(longest[i], row[i].size());
+    }
+    const auto all = static_cast<double>(std::accumulate(longest.begin(), longest.end(), std::size_t{0}));
+    std::vector<double> widths;
+    for (const std::size_t length : longest) widths.push_back(room * static_cast<double>(length) / all);
+    return widths;
+}
+
+void AddTable(Section& section, const Texts& rows) {
+    const std::vector<double> widths = Widths(rows, 6.3);  // inches
+    for (const auto& texts : rows) {
+        auto row = section.AddTable();
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            row->AddCell()->SetWidth(widths[i]);
+            row->CurrentCell()->AddParagraph("Cell", texts[i]);
+        }
+    }
+}
+// [widths]
 
 void AddShapes(Section& section, const std::string& photo) {
     // [wrap]
@@ -197,7 +248,7 @@ void AddShapes(Section& section, const std::string& photo) {
     frame->SetReferenceY(dwSRYParagraph);
     frame->SetWrap(dwSWAround);
     paragraph->AddTextItem("The picture stands on the right, twelve centimetres from where the column "
-                           "begins, and the text goes around it.");
+                           "begins, and the text flows around it.");
     // [wrap]
     // [box]
     auto anchor = section.AddParagraph("Normal");
@@ -234,8 +285,8 @@ void WriteAnswers(const std::string& filename) {
 
     auto section = document->AddSection();
     AddHeaders(*section, photo);
-    AddContentsLine(*section, "Text", "chapter1");
-    AddContentsLine(*section, "Tables", "chapter2");
+    AddContentsLine(*section, "Text", "chapter1", 1);
+    AddContentsLine(*section, "Tables", "chapter2", 2);
     AddHeading(*section, "Text", "chapter1");
     AddText(*section);
     // [restart]
@@ -247,10 +298,15 @@ void WriteAnswers(const std::string& filename) {
     // [restart]
     AddReferences(*section, photo);
     // [page-break]
-    section->AddParagraph("Normal")->Format()->SetPageBreakBefore(true);
+    auto next = section->AddParagraph("Normal");
+    next->Format()->SetPageBreakBefore(true);
+    next->AddTextItem("This line begins a page.");
     // [page-break]
     AddHeading(*section, "Tables", "chapter2");
     AddTables(*section, photo);
+    section->AddParagraph("Normal", "The boats leave at");
+    AddTable(*section,
+             {{"8:15", "To the island, with a stop at the lighthouse", "12 km"}, {"18:00", "Back", "9 km"}});
     AddShapes(*section, photo);
 
     // [landscape]
@@ -263,7 +319,10 @@ void WriteAnswers(const std::string& filename) {
     columns->SetBreak(dwSBKPage);
     columns->Columns()->Auto(2, 1_cm);
     // [columns]
-    columns->AddParagraph("Normal", "In two columns.");
+    columns->AddParagraph("Normal", "In the first column.");
+    auto second = columns->AddParagraph("Normal");
+    second->AddTextItem("")->AddSpecial(Special::ColumnBreak());
+    second->AddTextItem("In the second column.");
     // [first-page]
     auto annex = document->AddSection();
     annex->SetTitlePage(true);

@@ -32,7 +32,7 @@ std::string MakeLetter(const std::string& name) {
 // [sink]
 /// Passes a document on piece by piece, to a socket, a compressor or a checksum. An exception of the function is what
 /// FinishTo throws; the document can then be finished into another.
-std::size_t Measure(Document& document) {
+std::size_t SizeOf(Document& document) {
     std::size_t size = 0;
     document.FinishTo([&](std::string_view bytes) { size += bytes.size(); });
     return size;
@@ -56,6 +56,7 @@ void WriteReport(const std::string& filename, bool fails) {
     auto document = Document::Create();
     document->SetDiscardOnRelease(true);
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     document->AddSection()->AddParagraph("", "Half of the report");
     if (fails) throw std::runtime_error("the database is gone");
     document->Finish();
@@ -76,6 +77,7 @@ void Explain(const std::exception& failure) {
 void WriteAnswers(const std::string& filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
+    document->SetSpelling(dwSpellingStandard);
     auto paragraph = document->AddSection()->AddParagraph("", "Delivered");
     // [remove]
     auto frame = paragraph->AddShape(dwSKPictureFrame);
@@ -98,16 +100,21 @@ void WriteAnswers(const std::string& filename) {
     }
     auto measured = Document::Create();
     measured->SetBodyInMemory(true);
-    if (Measure(*measured) == 0) throw std::logic_error("a document has bytes");
+    if (SizeOf(*measured) == 0) throw std::logic_error("a document has bytes");
     const std::string report = filename + ".report.rtf";
     try {
         WriteReport(report, true);
     } catch (const std::runtime_error& error) {
         if (std::ifstream(report)) throw std::logic_error("the report is there");
     }
-    // [lost]
     document->Finish();
-    if (document->LostCharacters() > 0) std::cout << document->LostCharacters() << " characters became '?'\n";
+
+    auto classic = Document::Create();  // in the classic spelling, which is the default
+    classic->SetFilename(filename + ".classic.rtf");
+    classic->AddSection()->AddParagraph("", "Łódź");
+    // [lost]
+    classic->Finish();
+    if (classic->LostCharacters() > 0) std::cout << classic->LostCharacters() << " characters became '?'\n";
     // [lost]
 }
 

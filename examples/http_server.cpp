@@ -27,7 +27,10 @@ std::string MakeReceipt(const std::string& customer, int order) {
     document->SetBodyInMemory(true);
     document->SetSpelling(dwSpellingStandard);
     document->SetPaperSize(dwPaperA5);
+    document->Fonts()->Add("Liberation Sans")->SetFamily(dwSwiss);
+    document->SetDefaultFontName("Liberation Sans");
     document->ParagraphStyles()->Add("Title")->FontFormat()->SetSize(18);
+    document->ParagraphStyles()->Add("Amount")->Format()->SetAlign(dwAlignRight);
     auto section = document->AddSection();
     section->AddParagraph("Title", "Receipt " + std::to_string(order));
     section->AddParagraph("", "For " + customer);
@@ -36,7 +39,7 @@ std::string MakeReceipt(const std::string& customer, int order) {
         row->AddCell()->SetWidth(8_cm);
         row->CurrentCell()->AddParagraph("", "Item " + std::to_string(line));
         row->AddCell()->SetWidth(3_cm);
-        row->CurrentCell()->AddParagraph("", std::to_string(order * line) + ".00 €");
+        row->CurrentCell()->AddParagraph("Amount", std::to_string(order * line) + ".00 €");
     }
     std::ostringstream bytes;
     document->FinishTo(bytes);

@@ -1,7 +1,7 @@
-/// Writes an invoice: a letterhead on the first page, a table of forty rows whose head is repeated on each page,
-/// cells that are merged down and across, amounts that stand below each other, totals.
-///
-/// usage: invoice FILE.rtf
+// Writes an invoice: a letterhead on the first page, a table of forty rows whose header row is repeated on each page,
+// cells that are merged down and across, amounts that stand below each other, totals.
+//
+// usage: invoice OUTPUT.rtf
 #include <draftwick/draftwick.h>
 
 #include <exception>
@@ -73,15 +73,8 @@ void AddStyles(Document& document) {
     title->Format()->SetSpaceAfter(12);
 
     auto small = add("Small print", 8);
-    small->FontFormat()->SetColor(0x606060);
+    small->FontFormat()->SetColor(Rgb(96, 96, 96));
     small->Format()->SetSpaceAfter(0);
-}
-
-std::shared_ptr<Paragraph> AddParagraph(Container& container, std::string_view style, std::string_view text) {
-    auto paragraph = container.AddParagraph();
-    paragraph->SetStyleName(style);
-    paragraph->AddTextItem(text);
-    return paragraph;
 }
 
 /// The first page has the letterhead, the others one line. Headers and footers come before the section's text.
@@ -90,25 +83,22 @@ void AddHeaders(Section& section) {
     auto name = letterhead->AddParagraph();
     name->FontFormat()->SetSize(22);
     name->FontFormat()->SetBold(true);
-    name->FontFormat()->SetColor(0x7A3B10);  // blue 7A, green 3B, red 10
+    name->FontFormat()->SetColor(Rgb(16, 59, 122));
     name->AddTextItem("Nordlicht Stage Services");
-    auto address = letterhead->AddParagraph();
-    address->SetStyleName("Small print");
+    auto address = letterhead->AddParagraph("Small print");
     address->Format()->SetSpaceAfter(6);
     address->Borders()->Items(dwPBorderBottom)->SetStyle(dwBSSingle);
     address->AddTextItem("Kaistraße 4 · 24103 Kiel · +49 431 555 0117 · office@nordlicht.example");
 
-    auto running = section.AddHeader(dwHeader)->AddParagraph();
-    running->SetStyleName("Small print");
+    auto running = section.AddHeader(dwHeader)->AddParagraph("Small print");
     running->TabStops()->Add(6.7, dwTabRight, dwTabLeaderNone);
     running->AddTextItem("Nordlicht Stage Services\tInvoice " + Number);
 
     for (const dwHeaderKind kind : {dwFooterFirst, dwFooter}) {
-        auto footer = section.AddHeader(kind)->AddParagraph();
-        footer->SetStyleName("Small print");
+        auto footer = section.AddHeader(kind)->AddParagraph("Small print");
         footer->TabStops()->Add(6.7, dwTabRight, dwTabLeaderNone);
         footer->AddTextItem("IBAN DE02 1203 0000 0000 2020 51\tPage ");
-        // The reader works these out; the numbers here are shown only until it does.
+        // Readers compute these; the numbers here are shown until they do.
         footer->AddField("PAGE", "1");
         footer->AddTextItem(" of ");
         footer->AddField("NUMPAGES", "1");
@@ -127,8 +117,7 @@ std::shared_ptr<Cell> AddCell(Table& row, double width, dwCellMerge merge = dwMe
 }
 
 void AddText(Cell& cell, std::string_view text, dwParagraphAlign align = dwAlignLeft, bool bold = false) {
-    auto paragraph = cell.AddParagraph();
-    paragraph->SetStyleName("Cell");
+    auto paragraph = cell.AddParagraph("Cell");
     paragraph->Format()->SetAlign(align);
     paragraph->FontFormat()->SetBold(bold);
     paragraph->AddTextItem(text);
@@ -198,13 +187,12 @@ void AddTotal(Section& section, std::string_view label, int cents, bool last) {
     AddText(*amount, Money(cents), dwAlignRight, last);
 }
 
-void WriteInvoice(const std::string& file) {
+void WriteInvoice(const std::string& filename) {
     auto document = Document::Create();
-    document->SetFilename(file);
+    document->SetFilename(filename);
     document->SetSpelling(dwSpellingStandard);
     document->SetCaption("Invoice " + Number);
-    document->SetPageWidth(8.27);  // A4
-    document->SetPageHeight(11.69);
+    document->SetPaperSize(dwPaperA4);
     document->SetMarginLeft(0.8);
     document->SetMarginRight(0.77);
     document->SetMarginTop(1.2);
@@ -216,13 +204,13 @@ void WriteInvoice(const std::string& file) {
     section->SetHeaderY(0.5);
     AddHeaders(*section);
 
-    AddParagraph(*section, "Title", "Invoice " + Number);
+    section->AddParagraph("Title", "Invoice " + Number);
     // An invoice keeps its date: readers do not update a locked field.
-    auto date = AddParagraph(*section, "Normal", "Date: ")->AddField("DATE", "20 April 2026");
+    auto date = section->AddParagraph("Normal", "Date: ")->AddField("DATE", "20 April 2026");
     date->SetDatePicture("d MMMM yyyy");
     date->SetLocked(true);
-    AddParagraph(
-        *section, "Normal",
+    section->AddParagraph(
+        "Normal",
         "Theater am Hafen, Hafenstraße 12, 18055 Rostock. Services in the weeks 12 to 15 of 2026, as "
         "agreed in our offer of 2 February.");
 
@@ -234,8 +222,7 @@ void WriteInvoice(const std::string& file) {
     AddTotal(*section, "Value added tax, 19 %", tax, false);
     AddTotal(*section, "Total, EUR", net + tax, true);
 
-    auto closing = section->AddParagraph();
-    closing->SetStyleName("Normal");
+    auto closing = section->AddParagraph("Normal");
     closing->Format()->SetSpaceBefore(12);
     closing->Format()->SetKeepIntact(true);
     closing->AddTextItem("Please pay within 14 days to the account below, with the number of this invoice.");
@@ -245,13 +232,13 @@ void WriteInvoice(const std::string& file) {
 
 }  // namespace
 
-int main(int count, char** arguments) {
-    if (count != 2) {
-        std::cerr << "usage: invoice FILE.rtf\n";
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: invoice OUTPUT.rtf\n";
         return 2;
     }
     try {
-        WriteInvoice(arguments[1]);
+        WriteInvoice(argv[1]);
     } catch (const std::exception& error) {
         std::cerr << "invoice: " << error.what() << '\n';
         return 1;

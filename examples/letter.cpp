@@ -10,7 +10,7 @@ using namespace draftwick;
 
 namespace {
 
-// The look of the letter, said once: paragraphs refer to these styles by name.
+// The look of the letter, in one place: paragraphs refer to these styles by name.
 void AddStyles(Document& document) {
     document.Fonts()->Add("Georgia")->SetFamily(dwRoman);
     document.SetDefaultFontName("Georgia");
@@ -35,53 +35,43 @@ void AddStyles(Document& document) {
     title->FontFormat()->SetItalic(true);
 }
 
-std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, const char* text) {
-    auto paragraph = section.AddParagraph();
-    paragraph->SetStyleName(style);
-    paragraph->AddTextItem(text);
-    return paragraph;
-}
-
 void WriteLetter(const char* filename) {
     auto document = Document::Create();
     document->SetFilename(filename);
     document->SetSpelling(dwSpellingStandard);
-    document->SetScaleMode(dwInches);
     document->SetMarginLeft(1.1);
     document->SetMarginRight(1.1);
     document->SetMarginTop(1);
     AddStyles(*document);
 
     auto section = document->AddSection();
-    auto sender = AddParagraph(*section, "Address", "Fenwick & Daughters, bookbinders");
-    sender->AddTextItem("\n12 Mill Lane\nAshford");
+    section->AddParagraph("Address", "Fenwick & Daughters, bookbinders")
+        ->AddTextItem("\n12 Mill Lane\nAshford");
 
     // What differs from the style is set on the paragraph, before it gets its text.
-    auto date = section->AddParagraph();
-    date->SetStyleName("Letter");
+    auto date = section->AddParagraph("Letter");
     date->Format()->SetAlign(dwAlignRight);
     date->AddTextItem("3 March");
 
-    AddParagraph(*section, "Address", "Mrs. Zoë Müller");
-    AddParagraph(*section, "Address", "Municipal Library, Castle Street 4");
-    AddParagraph(*section, "Subject", "Repair of nine volumes — our offer");
-    AddParagraph(*section, "Letter", "Dear Mrs. Müller,");
+    section->AddParagraph("Address", "Mrs. Zoë Müller");
+    section->AddParagraph("Address", "Municipal Library, Castle Street 4");
+    section->AddParagraph("Subject", "Repair of nine volumes — our offer");
+    section->AddParagraph("Letter", "Dear Mrs. Müller,");
 
-    auto offer = AddParagraph(*section, "Letter", "thank you for letting us see the nine volumes of the ");
+    auto offer = section->AddParagraph("Letter", "thank you for letting us see the nine volumes of the ");
     offer->AddTextItem("Ashford Chronicle")->SetStyleName("Title");
     offer->AddTextItem(". Three of them need new spines, the others only their corners mended. We offer the "
                        "whole work for €1,240 and need “about six weeks”, as you asked.");
 
-    auto closing = AddParagraph(*section, "Letter",
-                                "We would fetch the books ourselves: they should not travel "
-                                "in the post in ");
+    auto closing =
+        section->AddParagraph("Letter", "We would fetch the books ourselves: they should not travel "
+                                        "in the post in ");
     auto stress = closing->AddTextItem("their");
     stress->FontFormat()->SetUnderline(dwUnderlineSingle);
     closing->AddTextItem(" condition.");
 
-    AddParagraph(*section, "Letter", "Yours sincerely,");
-    auto name = section->AddParagraph();
-    name->SetStyleName("Letter");
+    section->AddParagraph("Letter", "Yours sincerely,");
+    auto name = section->AddParagraph("Letter");
     name->Format()->SetSpaceBefore(24);
     name->AddTextItem("Ada Fenwick");
 

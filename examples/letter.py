@@ -10,7 +10,7 @@ from draftwick import Document, FontFamily, ParagraphAlign, UnderlineStyle
 
 
 def add_styles(document: Document) -> None:
-    """The look of the letter, said once: paragraphs refer to these styles by name."""
+    """The look of the letter, in one place: paragraphs refer to these styles by name."""
     document.fonts.add("Georgia", family=FontFamily.ROMAN)
     document.default_font_name = "Georgia"
 

@@ -39,12 +39,6 @@ void AddStyle(Document& document, const char* name, const char* list, int level,
     style->Format()->SetIndentLeft(indent);
     style->Format()->SetIndentFirst(-0.35);
 }
-
-void AddItem(Section& section, const char* style, const char* text) {
-    auto item = section.AddParagraph();
-    item->SetStyleName(style);
-    item->AddTextItem(text);
-}
 // [items]
 
 void WriteLists(const char* filename) {
@@ -63,17 +57,17 @@ void WriteLists(const char* filename) {
 
     // [use]
     auto section = document->AddSection();
-    AddItem(*section, "Normal", "To change a tyre you need");
-    AddItem(*section, "Tool", "two tyre levers and a pump");
-    AddItem(*section, "Tool", "a bowl of water, unless you can hear the hole");
-    AddItem(*section, "Normal", "Then");
-    AddItem(*section, "Step", "take the wheel out:");
-    AddItem(*section, "Substep", "open the brake");
-    AddItem(*section, "Substep",
-            "loosen the nuts by half a turn each, one after the other, until the wheel drops");
-    AddItem(*section, "Step", "lift the tyre over the rim");
-    AddItem(*section, "Step", "put the new tube in:");
-    AddItem(*section, "Substep", "a breath of air in it keeps it from twisting");
+    section->AddParagraph("Normal", "To change a tyre you need");
+    section->AddParagraph("Tool", "two tyre levers and a pump");
+    section->AddParagraph("Tool", "a bowl of water, unless you can hear the hole");
+    section->AddParagraph("Normal", "Then");
+    section->AddParagraph("Step", "take the wheel out:");
+    section->AddParagraph("Substep", "open the brake");
+    section->AddParagraph("Substep",
+                          "loosen the nuts by half a turn each, one after the other, until the wheel drops");
+    section->AddParagraph("Step", "lift the tyre over the rim");
+    section->AddParagraph("Step", "put the new tube in:");
+    section->AddParagraph("Substep", "a breath of air in it keeps it from twisting");
     // [use]
 
     document->Finish();

@@ -6,7 +6,7 @@ usage: lists.py OUTPUT.rtf
 import sys
 
 import draftwick
-from draftwick import Document, FontFamily, ListNumberStyle, Section
+from draftwick import Document, FontFamily, ListNumberStyle
 
 
 # [lists]
@@ -36,10 +36,6 @@ def add_style(document: Document, name: str, list_name: str, level: int, indent:
     style.format.list_level = level
     style.format.indent_left = indent
     style.format.indent_first = -0.35
-
-
-def add_item(section: Section, style: str, text: str) -> None:
-    section.add_paragraph(style_name=style).add_text_item(text)
 # [items]
 
 
@@ -55,16 +51,16 @@ def write_lists(filename: str) -> None:
 
         # [use]
         section = document.add_section()
-        add_item(section, "Normal", "To change a tyre you need")
-        add_item(section, "Tool", "two tyre levers and a pump")
-        add_item(section, "Tool", "a bowl of water, unless you can hear the hole")
-        add_item(section, "Normal", "Then")
-        add_item(section, "Step", "take the wheel out:")
-        add_item(section, "Substep", "open the brake")
-        add_item(section, "Substep", "loosen the nuts by half a turn each, one after the other, until the wheel drops")
-        add_item(section, "Step", "lift the tyre over the rim")
-        add_item(section, "Step", "put the new tube in:")
-        add_item(section, "Substep", "a breath of air in it keeps it from twisting")
+        section.add_paragraph("Normal", "To change a tyre you need")
+        section.add_paragraph("Tool", "two tyre levers and a pump")
+        section.add_paragraph("Tool", "a bowl of water, unless you can hear the hole")
+        section.add_paragraph("Normal", "Then")
+        section.add_paragraph("Step", "take the wheel out:")
+        section.add_paragraph("Substep", "open the brake")
+        section.add_paragraph("Substep", "loosen the nuts by half a turn each, one after the other, until the wheel drops")
+        section.add_paragraph("Step", "lift the tyre over the rim")
+        section.add_paragraph("Step", "put the new tube in:")
+        section.add_paragraph("Substep", "a breath of air in it keeps it from twisting")
         # [use]
 
 

@@ -80,15 +80,10 @@ std::string Merged(std::string text, const Guest& guest) {
 
 /// Nothing here depends on the language: a paragraph whose first letter is Hebrew or Arabic runs from right to left.
 void AddLetter(Section& section, const Guest& guest) {
-    const auto add = [&](const char* style, const char* text) {
-        auto paragraph = section.AddParagraph();
-        paragraph->SetStyleName(style);
-        paragraph->AddTextItem(Merged(text, guest));
-    };
-    add("Greeting", guest.letter.greeting);
-    add("Letter", guest.letter.text);
-    add("Seats", guest.letter.seats);
-    add("Letter", guest.letter.closing);
+    section.AddParagraph("Greeting", Merged(guest.letter.greeting, guest));
+    section.AddParagraph("Letter", Merged(guest.letter.text, guest));
+    section.AddParagraph("Seats", Merged(guest.letter.seats, guest));
+    section.AddParagraph("Letter", Merged(guest.letter.closing, guest));
 }
 // [merge]
 
@@ -101,7 +96,7 @@ void AddStyles(Document& document) {
     auto greeting = document.ParagraphStyles()->Add("Greeting");
     greeting->SetBasedOn("Letter");
     greeting->FontFormat()->SetSize(15);
-    greeting->FontFormat()->SetColor(0x2828B4);  // blue 28, green 28, red B4
+    greeting->FontFormat()->SetColor(Rgb(180, 40, 40));
     auto seats = document.ParagraphStyles()->Add("Seats");
     seats->SetBasedOn("Letter");
     seats->FontFormat()->SetBold(true);

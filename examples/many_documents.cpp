@@ -15,9 +15,8 @@ namespace {
 
 struct Account {
     const char* holder;
-    int balance;
+    int payment;  // a month
 };
-constexpr const char* Months[] = {"January", "February", "March", "April"};
 constexpr Account Accounts[] = {{"A. Alder", 120}, {"B. Birch", 75}, {"C. Cedar", 230}, {"D. Dogwood", 18}};
 
 // [one]
@@ -35,14 +34,11 @@ void WriteStatement(const Account& account, const std::string& filename) {
     normal->TabStops()->Add(2.5, dwTabDecimal, dwTabLeaderDots);
 
     auto section = document->AddSection();
-    const auto add = [&](const std::string& text) {
-        auto paragraph = section->AddParagraph();
-        paragraph->SetStyleName("Normal");
-        paragraph->AddTextItem(text);
-    };
-    add(std::string{"Statement for "} + account.holder);
-    for (int month = 0; month < 4; ++month) {
-        add(std::string{Months[month]} + '\t' + std::to_string(account.balance * (month + 1)) + ".00");
+    section->AddParagraph("Normal", std::string{"Statement for "} + account.holder);
+    int balance = 0;
+    for (const std::string month : {"January", "February", "March", "April"}) {
+        balance += account.payment;
+        section->AddParagraph("Normal", month + '\t' + std::to_string(balance) + ".00");
     }
     document->Finish();
 }

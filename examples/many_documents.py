@@ -13,7 +13,7 @@ ACCOUNTS = [("A. Alder", 120), ("B. Birch", 75), ("C. Cedar", 230), ("D. Dogwood
 
 
 # [one]
-def write_statement(holder: str, balance: int, filename: str) -> None:
+def write_statement(holder: str, payment: int, filename: str) -> None:
     """A document and everything in it belongs to the thread that uses it. Nothing is shared with other documents, and
     the temporary files of two never meet."""
     with draftwick.Document(filename) as document:
@@ -25,9 +25,11 @@ def write_statement(holder: str, balance: int, filename: str) -> None:
         normal.tab_stops.add(2.5, TabAlign.DECIMAL, TabLeader.DOTS)
 
         section = document.add_section()
-        section.add_paragraph(style_name="Normal").add_text_item(f"Statement for {holder}")
-        for number, month in enumerate(("January", "February", "March", "April"), 1):
-            section.add_paragraph(style_name="Normal").add_text_item(f"{month}\t{balance * number}.00")
+        section.add_paragraph("Normal", f"Statement for {holder}")
+        balance = 0
+        for month in "January", "February", "March", "April":
+            balance += payment
+            section.add_paragraph("Normal", f"{month}\t{balance}.00")
 # [one]
 
 
@@ -36,9 +38,9 @@ def write_statements(filename: str) -> None:
     # Threads take turns, since the interpreter does; a ProcessPoolExecutor in place of this one uses all processors.
     with ThreadPoolExecutor() as pool:
         statements = []
-        for number, (holder, balance) in enumerate(ACCOUNTS, 1):
+        for number, (holder, payment) in enumerate(ACCOUNTS, 1):
             name = filename if number == 1 else f"{filename}.{number}.rtf"
-            statements.append(pool.submit(write_statement, holder, balance, name))
+            statements.append(pool.submit(write_statement, holder, payment, name))
         for statement in statements:
             statement.result()  # raises what its document raised
 # [all]

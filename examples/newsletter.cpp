@@ -1,7 +1,7 @@
-/// Writes a newsletter: a title across the page, text in two columns with a line between them, a drop cap,
-/// footnotes, endnotes at the end, and bookmarks that links from elsewhere can point at.
-///
-/// usage: newsletter FILE.rtf
+// Writes a newsletter: a title across the page, text in two columns with a line between them, a drop cap,
+// footnotes, endnotes at the end, and bookmarks that links from elsewhere can point at.
+//
+// usage: newsletter OUTPUT.rtf
 #include <draftwick/draftwick.h>
 
 #include <exception>
@@ -128,9 +128,9 @@ void AddArticles(Section& section) {
     }
 }
 
-void WriteNewsletter(const std::string& file) {
+void WriteNewsletter(const std::string& filename) {
     auto document = Document::Create();
-    document->SetFilename(file);
+    document->SetFilename(filename);
     document->SetSpelling(dwSpellingStandard);
     document->SetCaption("The Mill Stream");
     document->SetEndnoteFormat(dwFFRomanLower);
@@ -163,13 +163,13 @@ void WriteNewsletter(const std::string& file) {
 
 }  // namespace
 
-int main(int count, char** arguments) {
-    if (count != 2) {
-        std::cerr << "usage: newsletter FILE.rtf\n";
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: newsletter OUTPUT.rtf\n";
         return 2;
     }
     try {
-        WriteNewsletter(arguments[1]);
+        WriteNewsletter(argv[1]);
     } catch (const std::exception& error) {
         std::cerr << "newsletter: " << error.what() << '\n';
         return 1;

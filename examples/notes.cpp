@@ -20,20 +20,13 @@ void AddNumber(Paragraph& paragraph) {
 
 void AddNote(Paragraph& paragraph, const char* text, bool isEndnote = false) {
     AddNumber(paragraph);
-    auto note = paragraph.AddFootnote(isEndnote)->AddParagraph();
-    note->SetStyleName("Normal");
+    auto note = paragraph.AddFootnote(isEndnote)->AddParagraph("Normal");
     note->FontFormat()->SetSize(9);
     AddNumber(*note);
     note->AddTextItem(" ");
     note->AddTextItem(text);
 }
 // [note]
-
-std::shared_ptr<Paragraph> AddParagraph(Section& section) {
-    auto paragraph = section.AddParagraph();
-    paragraph->SetStyleName("Normal");
-    return paragraph;
-}
 
 void WriteNotes(const char* filename) {
     auto document = Document::Create();
@@ -53,8 +46,7 @@ void WriteNotes(const char* filename) {
 
     auto section = document->AddSection();
     // [text]
-    auto first = AddParagraph(*section);
-    first->AddTextItem("The town bought its first fire engine in ");
+    auto first = section->AddParagraph("Normal", "The town bought its first fire engine in ");
     // A bookmark has a start and an end with the same name.
     first->AddBookmark("engine");
     first->AddTextItem("1862");
@@ -64,9 +56,8 @@ void WriteNotes(const char* filename) {
     AddNote(*first, "Council minutes, volume 7, page 112.", true);
     first->AddTextItem(" and one hose.");
 
-    auto second = AddParagraph(*section);
-    second->AddTextItem(
-        "The hose was the one that had been lent out before. It came back three years after ");
+    auto second = section->AddParagraph(
+        "Normal", "The hose was the one that had been lent out before. It came back three years after ");
     second->AddField("REF engine", "1862");  // what is between the two marks
     second->AddTextItem(", patched in eleven places");
     AddNote(*second, "Nine, according to the brewery.");

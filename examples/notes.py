@@ -21,7 +21,7 @@ def add_number(paragraph: Paragraph) -> None:
 
 def add_note(paragraph: Paragraph, text: str, is_endnote: bool = False) -> None:
     add_number(paragraph)
-    note = paragraph.add_footnote(is_endnote).add_paragraph(style_name="Normal")
+    note = paragraph.add_footnote(is_endnote).add_paragraph("Normal")
     note.font_format.size = 9
     add_number(note)
     note.add_text_item(" ")
@@ -45,8 +45,7 @@ def write_notes(filename: str) -> None:
 
         section = document.add_section()
         # [text]
-        first = section.add_paragraph(style_name="Normal")
-        first.add_text_item("The town bought its first fire engine in ")
+        first = section.add_paragraph("Normal", "The town bought its first fire engine in ")
         # A bookmark has a start and an end with the same name.
         first.add_bookmark("engine")
         first.add_text_item("1862")
@@ -56,8 +55,8 @@ def write_notes(filename: str) -> None:
         add_note(first, "Council minutes, volume 7, page 112.", is_endnote=True)
         first.add_text_item(" and one hose.")
 
-        second = section.add_paragraph(style_name="Normal")
-        second.add_text_item("The hose was the one that had been lent out before. It came back three years after ")
+        second = section.add_paragraph("Normal", "The hose was the one that had been lent out before. It came back three "
+                                                 "years after ")
         second.add_field("REF engine", "1862")  # what is between the two marks
         second.add_text_item(", patched in eleven places")
         add_note(second, "Nine, according to the brewery.")

@@ -43,8 +43,7 @@ void AddStyle(Document& document, const char* name, double indent, double hangin
 
 // A paragraph joins a list by name and says its level. The number needs no text: it comes with the list.
 void AddItem(Section& section, const char* style, const char* list, int level, const char* text) {
-    auto paragraph = section.AddParagraph();
-    paragraph->SetStyleName(style);
+    auto paragraph = section.AddParagraph(style);
     paragraph->Format()->SetListName(list);
     paragraph->Format()->SetListLevel(level);
     paragraph->AddTextItem(text);
@@ -72,9 +71,7 @@ void WriteOutline(const char* filename) {
     AddStyle(*document, "Bullet", 0.5, 0.25);
 
     auto section = document->AddSection();
-    auto title = section->AddParagraph();
-    title->SetStyleName("Heading");
-    title->AddTextItem("Readers’ meeting");
+    section->AddParagraph("Heading", "Readers’ meeting");
     AddItem(*section, "Item 1", "Agenda", 1, "Welcome and minutes of the last meeting");
     AddItem(*section, "Item 1", "Agenda", 1, "The year in the house");
     AddItem(*section, "Item 2", "Agenda", 2, "Loans, visits, losses");
@@ -88,8 +85,7 @@ void WriteOutline(const char* filename) {
     AddItem(*section, "Item 1", "Agenda", 1, "Thanks to those who carried books");
 
     // The agenda counts on, in the look of another list: IV instead of 4.
-    auto last = section->AddParagraph();
-    last->SetStyleName("Item 1");
+    auto last = section->AddParagraph("Item 1");
     last->Format()->SetListName("Agenda");
     last->Format()->SetListFormatName("Roman");
     last->AddTextItem("Any other business");

@@ -12,43 +12,27 @@ namespace {
 
 constexpr const char* Entries[] = {
     "3 January. Wind from the north-west, cloud at noon. Two colliers and a brig passed inside the bank; the "
-    "brig "
-    "showed no light. Trimmed the wicks at four and wound the clock. The hens do not lay.",
+    "brig showed no light. Trimmed the wicks at four and wound the clock. The hens do not lay.",
     "9 January. Fog since Tuesday. Rang the bell every two minutes by turns with my wife, who says that I "
-    "ring it too "
-    "fast. Heard oars about midnight and called; a voice asked the way to the Hook and did not wait for the "
-    "answer.",
+    "ring it too fast. Heard oars about midnight and called; a voice asked the way to the Hook and did not "
+    "wait for the answer.",
     "17 January. Clear, hard frost. Counted forty sail from the gallery. The supply boat brought oil, flour, "
-    "a letter "
-    "for the keeper before me and no tobacco.",
+    "a letter for the keeper before me and no tobacco.",
     "2 February. Gale. The spray froze on the panes and had to be scraped off from outside, on a rope. Light "
-    "burning "
-    "all night. One pane cracked.",
+    "burning all night. One pane cracked.",
     "11 February. The hens lay. Sold six eggs to the pilot, who paid in tobacco.",
     "24 February. Inspector on the rock for two hours. He found the brass bright and the log too long.",
     "6 March. Fair.",
     "19 March. First swallow, or a bat. Painted the boat and, while there was paint, the door, the bench and "
-    "one of the "
-    "hens, which had sat on it.",
+    "one of the hens, which had sat on it.",
 };
-
-void AddText(Container& container, const char* style, const char* text) {
-    auto paragraph = container.AddParagraph();
-    paragraph->SetStyleName(style);
-    paragraph->AddTextItem(text);
-}
 
 // [header]
 // Headers and footers belong to a section and come before its text. The first page has its own once TitlePage is on.
 void AddHeaders(Section& section) {
-    auto running = section.AddHeader(dwHeader)->AddParagraph();
-    running->SetStyleName("Running title");
-    running->AddTextItem("The lighthouse keeper’s log");
-
-    auto footer = section.AddHeader(dwFooter)->AddParagraph();
-    footer->SetStyleName("Running title");
-    footer->AddTextItem("Page ");
-    footer->AddField("PAGE", "1");  // readers work it out; 1 is shown until they do
+    section.AddHeader(dwHeader)->AddParagraph("Running title", "The lighthouse keeper’s log");
+    auto footer = section.AddHeader(dwFooter)->AddParagraph("Running title", "Page ");
+    footer->AddField("PAGE", "1");  // readers compute it; 1 is shown until they do
 }
 // [header]
 
@@ -75,9 +59,8 @@ void WritePages(const char* filename) {
     document->SetFilename(filename);
     document->SetSpelling(dwSpellingStandard);
     // [paper]
-    document->SetPageWidth(5.83);  // A5, in inches
-    document->SetPageHeight(8.27);
-    document->SetMarginTop(0.9);
+    document->SetPaperSize(dwPaperA5);
+    document->SetMarginTop(0.9);  // inches, unless it has a unit of its own: 2.3_cm
     document->SetMarginBottom(0.9);
     document->SetMarginLeft(0.7);
     document->SetMarginRight(0.7);
@@ -89,9 +72,9 @@ void WritePages(const char* filename) {
     // header, paragraph or row.
     auto cover = document->AddSection();
     cover->SetTitlePage(true);
-    AddText(*cover->AddHeader(dwFooterFirst), "Running title", "Not to be taken ashore");
-    AddText(*cover, "Cover", "The lighthouse keeper’s log");
-    AddText(*cover, "Running title", "January to March");
+    cover->AddHeader(dwFooterFirst)->AddParagraph("Running title", "Not to be taken ashore");
+    cover->AddParagraph("Cover", "The lighthouse keeper’s log");
+    cover->AddParagraph("Running title", "January to March");
 
     auto log = document->AddSection();
     log->SetHeaderY(0.4);
@@ -99,7 +82,7 @@ void WritePages(const char* filename) {
     log->Columns()->Auto(2, 0.3);
     log->Columns()->SetLineBetween(true);
     AddHeaders(*log);
-    for (const char* entry : Entries) AddText(*log, "Entry", entry);
+    for (const char* entry : Entries) log->AddParagraph("Entry", entry);
     // [sections]
     document->Finish();
 }

@@ -6,7 +6,7 @@ usage: pages.py OUTPUT.rtf
 import sys
 
 import draftwick
-from draftwick import Cell, Document, FontFamily, Header, HeaderKind, ParagraphAlign, Section
+from draftwick import Document, FontFamily, HeaderKind, PaperSize, ParagraphAlign, Section
 
 ENTRIES = [
     "3 January. Wind from the north-west, cloud at noon. Two colliers and a brig passed inside the bank; the "
@@ -26,19 +26,12 @@ ENTRIES = [
 ]
 
 
-def add_text(container: Section | Header | Cell, style: str, text: str) -> None:
-    container.add_paragraph(style_name=style).add_text_item(text)
-
-
 # [header]
 # Headers and footers belong to a section and come before its text. The first page has its own once title_page is on.
 def add_headers(section: Section) -> None:
-    running = section.add_header(HeaderKind.HEADER).add_paragraph(style_name="Running title")
-    running.add_text_item("The lighthouse keeper’s log")
-
-    footer = section.add_header(HeaderKind.FOOTER).add_paragraph(style_name="Running title")
-    footer.add_text_item("Page ")
-    footer.add_field("PAGE", "1")  # readers work it out; 1 is shown until they do
+    section.add_header(HeaderKind.HEADER).add_paragraph("Running title", "The lighthouse keeper’s log")
+    footer = section.add_header(HeaderKind.FOOTER).add_paragraph("Running title", "Page ")
+    footer.add_field("PAGE", "1")  # readers compute it; 1 is shown until they do
 # [header]
 
 
@@ -59,9 +52,8 @@ def add_styles(document: Document) -> None:
 def write_pages(filename: str) -> None:
     with draftwick.Document(filename) as document:
         # [paper]
-        document.page_width = "5.83in"  # A5
-        document.page_height = "8.27in"
-        document.margin_top = document.margin_bottom = 0.9
+        document.paper_size = PaperSize.A5
+        document.margin_top = document.margin_bottom = 0.9  # inches, unless it has a unit of its own: "2.3cm"
         document.margin_left = document.margin_right = 0.7
         # [paper]
         add_styles(document)
@@ -70,16 +62,16 @@ def write_pages(filename: str) -> None:
         # A section starts with the document's page and can have another. Its settings are written when it gets its first
         # header, paragraph or row.
         cover = document.add_section(title_page=True)
-        add_text(cover.add_header(HeaderKind.FOOTER_FIRST), "Running title", "Not to be taken ashore")
-        add_text(cover, "Cover", "The lighthouse keeper’s log")
-        add_text(cover, "Running title", "January to March")
+        cover.add_header(HeaderKind.FOOTER_FIRST).add_paragraph("Running title", "Not to be taken ashore")
+        cover.add_paragraph("Cover", "The lighthouse keeper’s log")
+        cover.add_paragraph("Running title", "January to March")
 
         log = document.add_section(header_y=0.4, footer_y=0.4)
         log.columns.auto(2, 0.3)
         log.columns.line_between = True
         add_headers(log)
         for entry in ENTRIES:
-            add_text(log, "Entry", entry)
+            log.add_paragraph("Entry", entry)
         # [sections]
 
 

@@ -20,15 +20,15 @@ void MakeHills(const std::string& name) {
     examples::WriteJpeg(name, 60, 40, [](int x, int y) {
         for (int hill = 0; hill < 4; ++hill) {
             const double ridge = 34 - 7 * hill + 3.5 * std::sin(x * 0.13 + 2.1 * hill);
-            if (y > ridge) return examples::Rgb(40 + 35 * hill, 85 + 28 * hill, 60 + 38 * hill);
+            if (y > ridge) return Rgb(40 + 35 * hill, 85 + 28 * hill, 60 + 38 * hill);
         }
-        return examples::Rgb(250, 225 - y, 180);
+        return Rgb(250, 225 - y, 180);
     });
 }
 
 /// A board of two colours.
 void MakeBoard(const std::string& name) {
-    examples::WriteGif(name, 64, 64, {examples::Rgb(240, 230, 210), examples::Rgb(140, 90, 60)},
+    examples::WriteGif(name, 64, 64, {Rgb(240, 230, 210), Rgb(140, 90, 60)},
                        [](int x, int y) { return (x / 8 + y / 8) % 2; });
 }
 
@@ -54,7 +54,7 @@ void WritePictures(const std::string& filename) {
     auto frame = text->AddShape(dwSKPictureFrame);
     frame->SetWidth(3);
     frame->SetHeight(2);
-    frame->SetWrap(dwSWAround);  // the text goes around it
+    frame->SetWrap(dwSWAround);  // the text flows around it
     frame->SetWrapRight(0.2);
     frame->SetWrapBottom(0.1);
     frame->Fill()->SetPicture(hills);
@@ -71,15 +71,12 @@ void WritePictures(const std::string& filename) {
     second->SetWrapLeft(0.2);
     second->Fill()->SetPicture(board);  // a bitmap is written as a drawing, a pixel for a pixel
     // [second]
-    text->AddTextItem("From the tower one sees four ranges of hills, and on the clearest days of the year a "
-                      "fifth, which may be a "
-                      "cloud. The keeper has a board and pieces up there and plays against whoever climbs "
-                      "the two hundred and "
-                      "eleven steps; he has lost once, in the winter of the long snow, against a girl of "
-                      "nine who had counted the "
-                      "steps aloud and was not out of breath. Since then he opens with the other knight. The "
-                      "board is the one in "
-                      "the picture, or one that looks like it.");
+    text->AddTextItem(
+        "From the tower one sees four ranges of hills, and on the clearest days of the year a fifth, which "
+        "may be a cloud. The keeper has a board and pieces up there and plays against whoever climbs the two "
+        "hundred and eleven steps; he has lost once, in the winter of the long snow, against a girl of nine "
+        "who had counted the steps aloud and was not out of breath. Since then he opens with the other "
+        "knight. The board is the one in the picture, or one that looks like it.");
     document->Finish();
 }
 

@@ -20,7 +20,7 @@ def write_pictures(filename: str, hills: str, board: str) -> None:
         text = section.add_paragraph()
         text.format.align = ParagraphAlign.JUSTIFY
         frame = text.add_shape(ShapeKind.PICTURE_FRAME, width=3, height=2)
-        frame.wrap = ShapeWrap.AROUND  # the text goes around it
+        frame.wrap = ShapeWrap.AROUND  # the text flows around it
         frame.wrap_right = 0.2
         frame.wrap_bottom = 0.1
         frame.fill.picture = hills

@@ -23,8 +23,8 @@ def write_report(filename: str) -> None:
         title.font_format.color = "#1f4e79"
 
         section = document.add_section()
-        section.add_paragraph(style_name="Title").add_text_item("Quarterly report")
-        text = section.add_paragraph(style_name="Normal")
+        section.add_paragraph("Title", "Quarterly report")
+        text = section.add_paragraph("Normal")
         text.format.align = ParagraphAlign.JUSTIFY
         text.add_text_item("Sales rose by ")
         text.add_text_item("a tenth").font_format.bold = True
@@ -38,7 +38,7 @@ def write_report(filename: str) -> None:
 # [bytes]
 def letter(name: str) -> bytes:
     document = draftwick.Document(body_in_memory=True)
-    document.add_section().add_paragraph().add_text_item(f"Dear {name},")
+    document.add_section().add_paragraph(text=f"Dear {name},")
     return document.to_bytes()
 # [bytes]
 

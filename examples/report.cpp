@@ -160,16 +160,8 @@ void AddTextStyles(Document& document) {
     number->Border()->SetWidth(0.5);
 }
 
-std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, const char* text) {
-    auto paragraph = section.AddParagraph();
-    paragraph->SetStyleName(style);
-    paragraph->AddTextItem(text);
-    return paragraph;
-}
-
 void AddHeading(Section& section, const Heading& heading) {
-    auto paragraph = section.AddParagraph();
-    paragraph->SetStyleName(heading.style);
+    auto paragraph = section.AddParagraph(heading.style);
     paragraph->Format()->SetPageBreakBefore(paragraph->Format()->OutlineLevel() == 1);
     paragraph->AddBookmark(heading.bookmark);
     paragraph->AddTextItem(heading.text);
@@ -184,8 +176,7 @@ void AddContents(Section& section) {
         if (!text.empty()) text += '\n';
         text += heading.text + ("\t" + std::to_string(heading.page));
     }
-    auto contents = section.AddParagraph();
-    contents->SetStyleName("Figure");
+    auto contents = section.AddParagraph("Figure");
     contents->Format()->SetSpaceBefore(16);
     contents->AddField("TOC \\o \"1-2\" \\h", text);
 }
@@ -200,8 +191,7 @@ void AddReference(Paragraph& paragraph, const Heading& heading) {
 }
 
 void AddFooter(Section& section) {
-    auto footer = section.AddHeader(dwFooter)->AddParagraph();
-    footer->SetStyleName("Footer");
+    auto footer = section.AddHeader(dwFooter)->AddParagraph("Footer");
     footer->AddField("TITLE", "The library’s year");
     footer->AddTextItem(", printed on ");
     footer->AddField("DATE", "12 January 2027")->SetDatePicture("d MMMM yyyy");
@@ -223,12 +213,11 @@ void SetPageBorder(PageBorders& borders) {
 }
 
 void WriteCover(Section& section) {
-    AddParagraph(section, "Title", "The library’s year");
-    auto summary =
-        AddParagraph(section, "Body",
-                     "The town library was open on 287 days. It lent more than in any year since the "
-                     "move to the old granary, and for the first time the children’s room lent more "
-                     "than the reading room. The most borrowed book was ");
+    section.AddParagraph("Title", "The library’s year");
+    auto summary = section.AddParagraph(
+        "Body", "The town library was open on 287 days. It lent more than in any year since the "
+                "move to the old granary, and for the first time the children’s room lent more "
+                "than the reading room. The most borrowed book was ");
     summary->AddTextItem("A Field Guide to Hedges")->FontFormat()->SetItalic(true);
     summary->AddTextItem(", shelved under ");
     summary->AddTextItem(" 582.17 HED ")->SetStyleName("Call number");
@@ -242,34 +231,31 @@ void WriteCover(Section& section) {
 
 void WriteYear(Section& section) {
     AddHeading(section, Lent);
-    AddParagraph(section, "Figure", "Books for adults\t41,860");
-    AddParagraph(section, "Figure", "Books for children\t44,215");
-    AddParagraph(section, "Figure", "Maps, music and games\t9,730");
-    auto total = section.AddParagraph();
-    total->SetStyleName("Figure");
+    section.AddParagraph("Figure", "Books for adults\t41,860");
+    section.AddParagraph("Figure", "Books for children\t44,215");
+    section.AddParagraph("Figure", "Maps, music and games\t9,730");
+    auto total = section.AddParagraph("Figure");
     total->AddTextItem("Altogether\t95,805")->FontFormat()->SetBold(true);
 
     AddHeading(section, Shelf);
-    AddParagraph(
-        section, "Body",
-        "In March, sixty readers formed a line from the granary to the mill and passed four thousand "
-        "volumes from hand to hand, because the lift had failed on the day before the inspection.");
-    AddParagraph(section, "Quote",
-                 "I had Dickens on my left and the fire brigade on my right, and not one book touched the "
+    section.AddParagraph(
+        "Body", "In March, sixty readers formed a line from the granary to the mill and passed four thousand "
+                "volumes from hand to hand, because the lift had failed on the day before the inspection.");
+    section.AddParagraph(
+        "Quote", "I had Dickens on my left and the fire brigade on my right, and not one book touched the "
                  "floor.");
 }
 
 void WriteHouse(Section& section) {
     AddHeading(section, House);
     AddHeading(section, Hours);
-    AddParagraph(section, "Hours", "Monday\t7.5\tquiet in the morning\t");
-    AddParagraph(section, "Hours", "Wednesday\t10.25\tstories at four\t");
-    AddParagraph(section, "Hours", "Saturday\t5\tchess in the cellar\t");
+    section.AddParagraph("Hours", "Monday\t7.5\tquiet in the morning\t");
+    section.AddParagraph("Hours", "Wednesday\t10.25\tstories at four\t");
+    section.AddParagraph("Hours", "Saturday\t5\tchess in the cellar\t");
 
     AddHeading(section, Repairs);
     // A paragraph can go its own way after it has taken its style, until it gets its first text.
-    auto repairs = section.AddParagraph();
-    repairs->SetStyleName("Body");
+    auto repairs = section.AddParagraph("Body");
     repairs->Format()->SetIndentFirst(0.25);
     repairs->FontFormat()->SetSize(10);
     repairs->AddTextItem("The roof was tight, the heating was not. Of the two boilers ");
@@ -280,15 +266,13 @@ void WriteHouse(Section& section) {
     old->FontFormat()->SetStrikethrough(true);
     repairs->AddTextItem(" revolving door still sticks.");
 
-    auto box = section.AddParagraph();
-    box->SetStyleName("Box");
+    auto box = section.AddParagraph("Box");
     box->AddTextItem("For the year to come")->FontFormat()->SetBold(true);
-    AddParagraph(section, "Box",
-                 "A second evening each week, a lift that lifts, and a bench under the lime tree: we ask the "
-                 "council for 18,400 altogether.");
+    section.AddParagraph(
+        "Box", "A second evening each week, a lift that lifts, and a bench under the lime tree: we ask the "
+               "council for 18,400 altogether.");
 
-    auto imprint = section.AddParagraph();
-    imprint->SetStyleName("Body");
+    auto imprint = section.AddParagraph("Body");
     imprint->Format()->SetAlign(dwAlignCenter);
     imprint->Format()->SetSpaceBefore(10);
     imprint->FontFormat()->SetColor(Pine);

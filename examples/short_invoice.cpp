@@ -14,17 +14,15 @@ namespace {
 constexpr std::int32_t Blue = Rgb(30, 90, 160);
 constexpr Measure Widths[] = {9_cm, 2_cm, 2.5_cm, 2.5_cm};
 
-/// A row of cells that look like those of the row before.
-std::shared_ptr<Table> AddRow(Section& section, const std::shared_ptr<Cell>& like, const char* style,
-                              std::initializer_list<const char*> texts) {
+/// A row of cells that look like another.
+void AddRow(Section& section, const std::shared_ptr<Cell>& like, std::initializer_list<const char*> texts) {
     auto row = section.AddTable();
     const Measure* width = Widths;
     for (const char* text : texts) {
         auto cell = row->AddCell(like);
         cell->SetWidth(*width);
-        cell->AddParagraph(width++ == Widths ? style : "Number", text);
+        cell->AddParagraph(width++ == Widths ? "Body" : "Number", text);
     }
-    return row;
 }
 
 void WriteInvoice(const char* filename) {
@@ -62,10 +60,10 @@ void WriteInvoice(const char* filename) {
         side->SetColor(Blue);
     }
     look->AddParagraph("Body", "Delivered on 14 November 2026");
-    AddRow(*section, look, "Body", {"Item", "Amount", "Price", "Total"});
-    AddRow(*section, look, "Body", {"Fountain pen, blue", "2", "34.00 €", "68.00 €"});
-    AddRow(*section, look, "Body", {"Ink, 50 ml", "3", "9.50 €", "28.50 €"});
-    AddRow(*section, look, "Body", {"To be paid", "", "", "96.50 €"});
+    AddRow(*section, look, {"Item", "Amount", "Price", "Total"});
+    AddRow(*section, look, {"Fountain pen, blue", "2", "34.00 €", "68.00 €"});
+    AddRow(*section, look, {"Ink, 50 ml", "3", "9.50 €", "28.50 €"});
+    AddRow(*section, look, {"To be paid", "", "", "96.50 €"});
     auto pay = section->AddParagraph("Body", "Please pay within 14 days at ");
     auto link = pay->AddField("HYPERLINK \"https://example.org/pay\"", "example.org/pay");
     link->FontFormat()->SetColor(Blue);

@@ -1,4 +1,4 @@
-// Styles: the look of a document said once, by name.
+// Styles: the look of a document in one place, by name.
 //
 // usage: styles OUTPUT.rtf
 #include <draftwick/draftwick.h>
@@ -10,7 +10,7 @@ using namespace draftwick;
 
 namespace {
 
-constexpr std::int32_t Teal = 0x6E6A12;  // blue 6E, green 6A, red 12
+constexpr std::int32_t Teal = Rgb(18, 106, 110);
 
 // [styles]
 void AddStyles(Document& document) {
@@ -53,25 +53,17 @@ void AddStyles(Document& document) {
 // [styles]
 
 // [use]
-std::shared_ptr<Paragraph> AddParagraph(Section& section, const char* style, const char* text) {
-    auto paragraph = section.AddParagraph();
-    paragraph->SetStyleName(style);
-    paragraph->AddTextItem(text);
-    return paragraph;
-}
-
 void AddRecipe(Section& section) {
-    AddParagraph(section, "Dish", "Nettle soup");
-    auto recipe = AddParagraph(section, "Recipe", "Wash ");
+    section.AddParagraph("Dish", "Nettle soup");
+    auto recipe = section.AddParagraph("Recipe", "Wash ");
     recipe->AddTextItem("300 g")->SetStyleName("Amount");
     recipe->AddTextItem(" of young nettle tips and chop them. Fry an onion in butter, add the nettles and ");
     recipe->AddTextItem("a litre")->FontFormat()->SetBold(true);
     recipe->AddTextItem(" of broth, and let it simmer for a quarter of an hour.");
-    AddParagraph(section, "Remark", "Gloves on until the water boils: after that the leaves are harmless.");
+    section.AddParagraph("Remark", "Gloves on until the water boils: after that the leaves are harmless.");
 
     // A paragraph can go its own way after it has taken its style.
-    auto close = section.AddParagraph();
-    close->SetStyleName("Recipe");
+    auto close = section.AddParagraph("Recipe");
     close->Format()->SetAlign(dwAlignRight);
     close->AddTextItem("Serves four.");
 }

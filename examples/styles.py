@@ -1,4 +1,4 @@
-"""Styles: the look of a document said once, by name.
+"""Styles: the look of a document in one place, by name.
 
 usage: styles.py OUTPUT.rtf
 """
@@ -6,7 +6,7 @@ usage: styles.py OUTPUT.rtf
 import sys
 
 import draftwick
-from draftwick import BorderStyle, Document, FontFamily, Paragraph, ParagraphAlign, ParagraphBorderSide, Section
+from draftwick import BorderStyle, Document, FontFamily, ParagraphAlign, ParagraphBorderSide, Section
 
 TEAL = "#126a6e"
 
@@ -50,23 +50,17 @@ def add_styles(document: Document) -> None:
 
 
 # [use]
-def add_paragraph(section: Section, style: str, text: str) -> Paragraph:
-    paragraph = section.add_paragraph(style_name=style)
-    paragraph.add_text_item(text)
-    return paragraph
-
-
 def add_recipe(section: Section) -> None:
-    add_paragraph(section, "Dish", "Nettle soup")
-    recipe = add_paragraph(section, "Recipe", "Wash ")
+    section.add_paragraph("Dish", "Nettle soup")
+    recipe = section.add_paragraph("Recipe", "Wash ")
     recipe.add_text_item("300 g", style_name="Amount")
     recipe.add_text_item(" of young nettle tips and chop them. Fry an onion in butter, add the nettles and ")
     recipe.add_text_item("a litre").font_format.bold = True
     recipe.add_text_item(" of broth, and let it simmer for a quarter of an hour.")
-    add_paragraph(section, "Remark", "Gloves on until the water boils: after that the leaves are harmless.")
+    section.add_paragraph("Remark", "Gloves on until the water boils: after that the leaves are harmless.")
 
     # A paragraph can go its own way after it has taken its style.
-    close = section.add_paragraph(style_name="Recipe")
+    close = section.add_paragraph("Recipe")
     close.format.align = ParagraphAlign.RIGHT
     close.add_text_item("Serves four.")
 # [use]

@@ -1,4 +1,4 @@
-// A table: a head, rows, cells that are merged, amounts that stand below each other.
+// A table: a header row, rows, merged cells, amounts that are aligned.
 //
 // usage: tables OUTPUT.rtf
 #include <draftwick/draftwick.h>
@@ -24,8 +24,7 @@ void AddCell(Table& row, double width, const char* text, dwParagraphAlign align 
     }
     for (const auto& side : *cell->Borders()) side->SetStyle(dwBSSingle);
 
-    auto paragraph = cell->AddParagraph();
-    paragraph->SetStyleName("In a cell");
+    auto paragraph = cell->AddParagraph("In a cell");
     paragraph->Format()->SetAlign(align);
     paragraph->AddTextItem(text);
 }
@@ -39,7 +38,7 @@ constexpr double Amount = 1.2;
 // Rows that follow each other make one table.
 void AddTable(Section& section) {
     auto head = section.AddTable();
-    head->SetHeader(true);  // is repeated where the table goes on to another page
+    head->SetHeader(true);  // is repeated on each page that the table goes on to
     AddCell(*head, Bed, "Bed", dwAlignLeft, dwMergeNone, 20);
     AddCell(*head, Plant, "Plant", dwAlignLeft, dwMergeNone, 20);
     AddCell(*head, Amount, "Rows", dwAlignRight, dwMergeNone, 20);
@@ -49,7 +48,7 @@ void AddTable(Section& section) {
         const char *bed, *plant, *rows, *seed;
         dwCellMerge merge;
     };
-    // A cell that goes over several rows is the first of merged ones; those below it have no text.
+    // A cell that spans several rows is the first of merged cells; those below it have no text.
     static constexpr Line Lines[] = {
         {"South wall", "Tomatoes", "2", "0.4", dwMergeFirstVertical},
         {"", "Basil", "1", "0.5", dwMergeVertical},
@@ -91,9 +90,7 @@ void WriteTables(const char* filename) {
     inCell->Format()->SetSpaceAfter(3);
 
     auto section = document->AddSection();
-    auto title = section->AddParagraph();
-    title->SetStyleName("Normal");
-    title->AddTextItem("What is sown in April");
+    section->AddParagraph("Normal", "What is sown in April");
     AddTable(*section);
     document->Finish();
 }

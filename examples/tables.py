@@ -1,4 +1,4 @@
-"""A table: a head, rows, cells that are merged, amounts that stand below each other.
+"""A table: a header row, rows, merged cells, amounts that are aligned.
 
 usage: tables.py OUTPUT.rtf
 """
@@ -20,7 +20,7 @@ def add_cell(row: Table, width: float, text: str, align: ParagraphAlign = Paragr
     for side in cell.borders:
         side.style = BorderStyle.SINGLE
 
-    paragraph = cell.add_paragraph(style_name="In a cell")
+    paragraph = cell.add_paragraph("In a cell")
     paragraph.format.align = align
     paragraph.add_text_item(text)
 # [cell]
@@ -33,13 +33,13 @@ RIGHT = ParagraphAlign.RIGHT
 # [rows]
 # Rows that follow each other make one table.
 def add_table(section: Section) -> None:
-    head = section.add_table(header=True)  # is repeated where the table goes on to another page
+    head = section.add_table(header=True)  # is repeated on each page that the table goes on to
     add_cell(head, BED, "Bed", shading=20)
     add_cell(head, PLANT, "Plant", shading=20)
     add_cell(head, AMOUNT, "Rows", RIGHT, shading=20)
     add_cell(head, AMOUNT, "Seed, g", RIGHT, shading=20)
 
-    # A cell that goes over several rows is the first of merged ones; those below it have no text.
+    # A cell that spans several rows is the first of merged cells; those below it have no text.
     lines = [
         ("South wall", "Tomatoes", "2", "0.4", CellMerge.FIRST_VERTICAL),
         ("", "Basil", "1", "0.5", CellMerge.VERTICAL),
@@ -74,7 +74,7 @@ def write_tables(filename: str) -> None:
         in_cell.format.space_after = 3
 
         section = document.add_section()
-        section.add_paragraph(style_name="Normal").add_text_item("What is sown in April")
+        section.add_paragraph("Normal", "What is sown in April")
         add_table(section)
 
 

@@ -68,13 +68,13 @@ public:
         } else if (BeginsItem(lines.front())) {
             WriteItems(lines);
         } else {
-            NewParagraph("Body")->AddTextItem(Joined(lines.begin(), lines.end()));
+            section_->AddParagraph("Body", Joined(lines.begin(), lines.end()));
         }
         first_ = false;
     }
 
     void WriteCode(const Lines& lines) {
-        for (const std::string& line : lines) NewParagraph("Code")->AddTextItem(line);
+        for (const std::string& line : lines) section_->AddParagraph("Code")->AddTextItem(line);
     }
 
     void Finish() { document_->Finish(); }
@@ -121,12 +121,6 @@ private:
 
     static std::string HeadingStyle(int level) { return "Heading " + std::to_string(level); }
 
-    std::shared_ptr<Paragraph> NewParagraph(std::string_view style) {
-        auto paragraph = section_->AddParagraph();
-        paragraph->SetStyleName(style);
-        return paragraph;
-    }
-
     /// 1 to 3 for a heading, 0 for other text.
     int HeadingLevel(const Lines& lines) const {
         const std::string_view line = lines.front();
@@ -146,8 +140,8 @@ private:
 
     void WriteHeading(const Lines& lines, int level) {
         const std::string_view line = lines.front();
-        NewParagraph(HeadingStyle(level))
-            ->AddTextItem(Trimmed(line.substr(std::min(line.find_first_not_of('#'), line.size()))));
+        section_->AddParagraph(HeadingStyle(level),
+                               Trimmed(line.substr(std::min(line.find_first_not_of('#'), line.size()))));
     }
 
     /// Each item goes on until the next one begins.
@@ -155,7 +149,7 @@ private:
         auto item = lines.begin();
         while (item != lines.end()) {
             const auto next = std::find_if(item + 1, lines.end(), BeginsItem);
-            NewParagraph("Item")->AddTextItem(std::string_view{Joined(item, next)}.substr(2));
+            section_->AddParagraph("Item", std::string_view{Joined(item, next)}.substr(2));
             item = next;
         }
     }

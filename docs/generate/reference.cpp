@@ -132,7 +132,7 @@ void WriteClass(std::ostream& out, const Class& one, const Headers& headers) {
     out << "\n## " << one.name << "\n\n" << Escaped(headers.CommentOf(one.name)) << "\n\n";
     out << "[draftwick/" << header << "](../../draftwick/" << header << ") · class `" << one.classId
         << "` · interface `" << one.interfaceId << "`";
-    if (one.create != nullptr) out << " · made by hosts, as `" << ProgIdPrefix << "." << one.name << "`";
+    if (one.create != nullptr) out << " · created as `" << ProgIdPrefix << "." << one.name << "`";
     if (one.items != nullptr) out << " · collection of " << TypeText(one.items);
     if (!one.defaultMember.empty()) out << " · default member `" << one.defaultMember << "`";
     out << '\n';
@@ -191,8 +191,8 @@ std::string EnumerationsPage(const Headers& headers) {
     std::ostringstream out;
     out << R"(# Enumerations
 
-Written by `scripts/docs reference` from the descriptions and the comments of the headers. A host that has no names
-for the values gives the numbers.
+Written by `scripts/docs reference` from the descriptions and the comments of the headers. Where the
+names are not known, as in scripts, use the numbers.
 )";
     for (const Type* type : Enumerations()) {
         const std::string comment = headers.CommentOf(type->name);

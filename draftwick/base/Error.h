@@ -29,7 +29,7 @@ enum dwErrCode : std::int32_t {
     dwErrItemNotFound = -2147220879,               ///< a collection has no such item
 };
 
-/// The numbers of run-time refusals, as automation hosts know them.
+/// The numbers of run-time refusals, as scripts know them.
 enum dwRuntimeError : std::int32_t {
     dwRunInvalidCall = 5,          ///< an argument that makes no sense
     dwRunOverflow = 6,             ///< a number that does not fit the type it is stored in
@@ -37,7 +37,7 @@ enum dwRuntimeError : std::int32_t {
     dwRunDivisionByZero = 11,
     dwRunTypeMismatch = 13,  ///< a value of the wrong kind
     dwRunOutOfStackSpace = 28,
-    dwRunObjectGone = 91,  ///< the document that the object belonged to was let go
+    dwRunObjectGone = 91,  ///< the document that the object belonged to was released
     dwRunCannotCreateObject = 429,
     dwRunDuplicateKey = 457,  ///< a collection has an item of that name
     dwRunInvalidPicture = 481,

@@ -27,8 +27,8 @@ enum dwFieldTextFormat : std::int32_t {
     dwFTFUpper = 5,
 };
 
-/// Text that the reader works out: page numbers, dates, references, a table of contents (RTF \field). It has an
-/// instruction and the result that readers show until they update it, or for ever if they do not know the
+/// Text that the reader computes: page numbers, dates, references, a table of contents (RTF \field). It has an
+/// instruction and the result that readers show until they update it, or always if they do not know the
 /// instruction. It can be changed until it is written, which is when its paragraph gets the next child or is closed;
 /// then it refuses ("Field").
 class DRAFTWICK_API Field final : public Run {

@@ -39,15 +39,15 @@ class TextStyles;
 /// begins with a gap for the header, and line ends fill what the header leaves of it. It is copied nevertheless when the
 /// header grows out of the gap.
 ///
-/// The host's reference keeps the document alive; once it is let go, everything that belonged to it refuses
-/// with error 91. A document that is let go without Finish leaves its temporary file behind, with the lines
+/// Your program's reference keeps the document alive; once it is released, everything that belonged to it refuses
+/// with error 91. A document that is released without Finish leaves its temporary file behind, with the lines
 /// that were written so far, unless DiscardOnRelease is set. One document is for one thread; different documents can be
 /// used in different threads at the same time.
 class DRAFTWICK_API Document final : public detail::Content {
 public:
     /// A new document with the system's services.
     static std::shared_ptr<Document> Create();
-    /// A new document with the host's own services in place of the system's (draftwick/platform/Platform.h). A service
+    /// A new document with services of your own in place of the system's (draftwick/platform/Platform.h). A service
     /// that is empty is refused with error 5 by the call that needs it.
     static std::shared_ptr<Document> Create(platform::Platform services);
     ~Document() override;
@@ -85,7 +85,7 @@ public:
     /// stops. Default false: the system writes when it sees fit.
     bool Durable() const { return settings_.durable; }
     void SetDurable(bool on) { Change(settings_.durable, on); }
-    /// Whether a document that is let go unfinished is given up, as by Discard; else its temporary file stays, with
+    /// Whether a document that is released unfinished is given up, as by Discard; else its temporary file stays, with
     /// all that was written. Default false. Can be set until the document is finished.
     bool DiscardOnRelease() const { return settings_.discardOnRelease; }
     void SetDiscardOnRelease(bool on);
@@ -94,7 +94,7 @@ public:
     bool BodyInMemory() const { return settings_.bodyInMemory; }
     void SetBodyInMemory(bool on) { Change(settings_.bodyInMemory, on); }
 
-    /// How many characters of the host's texts the file could not hold, of what is written so far; "?" stands in their
+    /// How many characters of your texts the file could not hold, of what is written so far; "?" stands in their
     /// place.
     std::int32_t LostCharacters() const;
 
@@ -136,7 +136,7 @@ public:
     std::shared_ptr<draftwick::Lists> Lists() const;
     std::shared_ptr<draftwick::ParagraphStyles> ParagraphStyles() const;
     std::shared_ptr<draftwick::TextStyles> TextStyles() const;
-    /// Title, author and the like, and those of the host's own.
+    /// Title, author and the like, and those that you add.
     std::shared_ptr<draftwick::Properties> Properties() const;
 
     /// The font of everything that has no other; empty (default) leaves it to the reader. It takes the spelling of

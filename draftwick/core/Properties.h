@@ -75,8 +75,8 @@ private:
     std::string linkTo_;
 };
 
-/// The properties of a document: the twenty of dwBuiltInProperty, then those that the host added. A reader shows them
-/// as information about the file; nothing is filled in that the host did not set.
+/// The properties of a document: the twenty of dwBuiltInProperty, then those that you added. A reader shows them
+/// as information about the file; nothing is filled in that your program did not set.
 class DRAFTWICK_API Properties final : public detail::NamedCollection<Property> {
 public:
     explicit Properties(const detail::Origin& origin);

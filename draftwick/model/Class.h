@@ -10,11 +10,11 @@
 #include <string_view>
 #include <vector>
 
-/// The run-time descriptions of the classes: for each class one table of its members. A host that knows only names
-/// reaches everything with Get, Set and Call; one that is generated reads the tables.
+/// The run-time descriptions of the classes: for each class one table of its members. A program that has only
+/// names reaches everything with Get, Set and Call; one that generates bindings reads the tables.
 namespace draftwick {
 
-/// What a value is, as hosts tell kinds apart.
+/// What a value is.
 enum class Kind {
     Boolean,  ///< true or false
     Number,   ///< whole, 32 bits; of an enumeration when the type has values
@@ -90,9 +90,9 @@ struct DRAFTWICK_API Class {
     std::string_view interfaceId;           ///< of its interface, likewise
     std::vector<ClassProperty> properties;  ///< without CommonProperties
     std::vector<ClassMethod> methods;       ///< in no particular order
-    /// A new object, of a class whose objects a host creates; empty for those that other objects give.
+    /// A new object, of a class whose objects a program creates; empty for those that other objects give.
     std::shared_ptr<Object> (*create)() = nullptr;
-    /// The member that an automation host means by an object alone: Items of a collection; empty: none.
+    /// The member that automation means by an object alone: Items of a collection; empty: none.
     std::string_view defaultMember{};
     /// Of a collection, what Items gives for the positions 1 to Count; empty for other classes.
     const Type* items = nullptr;

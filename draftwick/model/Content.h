@@ -17,7 +17,7 @@ class RtfWriter;
 /// takes no more children.
 class DRAFTWICK_API Content : public Node {
 public:
-    /// How many objects can lie in each other. What is deeper is refused with error 28, whoever nests it: a host's
+    /// How many objects can lie in each other. What is deeper is refused with error 28, whoever nests it: the
     /// input must not decide how much stack a document takes. Readers give up earlier.
     static constexpr int MaxDepth = 200;
 

@@ -67,8 +67,8 @@ class Owner {
 
 }  // namespace detail
 
-/// Everything in the object model. A host holds objects by std::shared_ptr; nothing it holds dangles, and nothing
-/// it holds keeps the document alive. An object whose document is gone can still be read where neither a unit of
+/// Everything in the object model. Programs hold objects by std::shared_ptr; none dangles, and none but the document
+/// itself keeps the document alive. An object whose document is gone can still be read where neither a unit of
 /// length nor a name in the document's collections (of a font, style or list) is involved; everything else is refused
 /// with error 91.
 class DRAFTWICK_API Object {
@@ -79,7 +79,7 @@ public:
 
     /// The object that this one belongs to; empty when that is gone, and for a document.
     virtual std::shared_ptr<Object> Parent() const = 0;
-    /// The document; empty once the host has let it go.
+    /// The document; empty once your program has released it.
     std::shared_ptr<draftwick::Document> Document() const;
     /// The document as a generic object.
     std::shared_ptr<Object> DocumentObject() const;
@@ -211,7 +211,7 @@ private:
 };
 
 /// A part that is created when it is first read, in place. Whether it exists can matter: a writer uses an object's own
-/// part only if it was ever created. (A std::optional for each kind of part takes hosts a tenth of their compile time.)
+/// part only if it was ever created. (A std::optional for each kind of part costs a tenth of the compile time.)
 template <class Type>
 class Lazy {
 public:

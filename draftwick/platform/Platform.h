@@ -14,7 +14,7 @@
 
 namespace draftwick::platform {
 
-/// The services of the system that a document uses. A host can put its own in their place, for example files
+/// The services of the system that a document uses. A program can put its own in their place, for example files
 /// that live in memory. One that is empty is refused by the call that needs it.
 struct Platform {
     std::shared_ptr<FileSystem> files{};         ///< all files of documents and pictures

@@ -31,7 +31,7 @@ public:
     struct Values {
         rule::Choice<"Cell.Merge", dwMergeNone, dwMergeVertical> merge{dwMergeNone};
         rule::Choice<"Cell.VerticalAlign", dwCVATop, dwCVACenter> verticalAlign{dwCVATop};
-        // No value of the enumeration, to which a host cannot return.
+        // No value of the enumeration, to which a program cannot return.
         rule::Choice<"Cell.Orientation", dwReadNormal, dwReadLeft> orientation{dwCellOrientation{}};
         rule::Length width{1440};
     };

@@ -7,7 +7,7 @@ namespace draftwick {
 /// A footnote or endnote (RTF \footnote), with paragraphs and rows. It takes no more of them once its paragraph gets
 /// its next child or is closed ("Footnote").
 ///
-/// The number of the note is the host's business: add Special::Footnote to the paragraph before the note and to the
+/// Your program adds the number of the note: add Special::Footnote to the paragraph before the note and to the
 /// note's first paragraph. In the classic spelling nothing is written between the paragraphs of a note, so that they
 /// run together in a reader: one paragraph is what a note should have there.
 class DRAFTWICK_API Footnote final : public detail::HeldBy<Paragraph, RowContainer> {

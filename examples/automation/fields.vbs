@@ -1,4 +1,4 @@
-' Fields, which readers work out, and document properties, which they show as information about the file.
+' Fields, which readers compute, and document properties, which they show as information about the file.
 '
 ' usage: cscript //nologo fields.vbs OUTPUT.rtf
 Option Explicit
@@ -17,11 +17,6 @@ End Sub
 ' [properties]
 
 Const dwSpellingStandard = 2, dwRoman = 2, dwAlignCenter = 3, dwTabRight = 2, dwTabLeaderDots = 2, dwFooter = 2
-
-Function AddParagraph(container, style)
-    Set AddParagraph = container.AddParagraph
-    AddParagraph.StyleName = style
-End Function
 
 Sub AddStyles(document)
     Dim normal, heading, contents
@@ -52,8 +47,8 @@ Sub WriteFields(filename)
     Set section = document.AddSection
 
     ' [footer]
-    ' A field is an instruction and the text that is shown until a reader carries it out, or for ever if it cannot.
-    Set footer = AddParagraph(section.AddHeader(dwFooter), "Normal")
+    ' A field is an instruction and the text that is shown until a reader carries it out. Some readers never do.
+    Set footer = section.AddHeader(dwFooter).AddParagraph("Normal")
     footer.Format.Align = dwAlignCenter
     footer.AddField "TITLE", "Rules of the allotment"
     footer.AddTextItem " " & Chr(183) & " page "
@@ -62,22 +57,21 @@ Sub WriteFields(filename)
     footer.AddField "NUMPAGES", "2"
     ' [footer]
 
-    AddParagraph(section, "Heading 1").AddTextItem "Rules of the allotment"
-    AddParagraph(section, "Contents").AddField "TOC \o ""1-1""", "Water" & vbTab & "2"
+    section.AddParagraph "Heading 1", "Rules of the allotment"
+    section.AddParagraph("Contents").AddField "TOC \o ""1-1""", "Water" & vbTab & "2"
 
-    Set reference = AddParagraph(section, "Normal")
-    reference.AddTextItem "What the pump may be used for stands on page "
+    Set reference = section.AddParagraph("Normal", "What the pump may be used for stands on page ")
     reference.AddField "PAGEREF water", "2"
     reference.AddTextItem ". As of "
     reference.AddField("DATE", "1 April 2026").DatePicture = "d MMMM yyyy"
     reference.AddTextItem " it is locked at night."
 
-    Set heading = AddParagraph(section, "Heading 1")
+    Set heading = section.AddParagraph("Heading 1")
     heading.Format.PageBreakBefore = True
     heading.AddBookmark "water"
     heading.AddTextItem "Water"
     heading.AddBookmark "water", False
-    AddParagraph(section, "Normal").AddTextItem "For plants, hands and the coffee of the committee."
+    section.AddParagraph "Normal", "For plants, hands and the coffee of the committee."
     document.Finish
 End Sub
 

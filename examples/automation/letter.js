@@ -2,9 +2,9 @@
 //
 // usage: cscript //nologo letter.js OUTPUT.rtf
 
-var dwSpellingStandard = 2, dwRoman = 2, dwInches = 1, dwAlignRight = 2, dwUnderlineSingle = 2;
+var dwSpellingStandard = 2, dwRoman = 2, dwAlignRight = 2, dwUnderlineSingle = 2;
 
-// The look of the letter, said once: paragraphs refer to these styles by name.
+// The look of the letter, in one place: paragraphs refer to these styles by name.
 function addStyles(document) {
     document.Fonts.Add("Georgia").Family = dwRoman;
     document.DefaultFontName = "Georgia";
@@ -30,18 +30,11 @@ function addStyles(document) {
 }
 
 // [text]
-function addParagraph(section, style, text) {
-    var paragraph = section.AddParagraph();
-    paragraph.StyleName = style;
-    paragraph.AddTextItem(text);
-    return paragraph;
-}
-
 function addOffer(section) {
-    addParagraph(section, "Subject", "Repair of nine volumes \u2014 our offer");
-    addParagraph(section, "Letter", "Dear Mrs. M\u00fcller,");
+    section.AddParagraph("Subject", "Repair of nine volumes \u2014 our offer");
+    section.AddParagraph("Letter", "Dear Mrs. M\u00fcller,");
 
-    var offer = addParagraph(section, "Letter", "thank you for letting us see the nine volumes of the ");
+    var offer = section.AddParagraph("Letter", "thank you for letting us see the nine volumes of the ");
     offer.AddTextItem("Ashford Chronicle").StyleName = "Title";
     offer.AddTextItem(". Three of them need new spines, the others only their corners mended. We offer the " +
                       "whole work for \u20ac1,240 and need \u201cabout six weeks\u201d, as you asked.");
@@ -52,34 +45,30 @@ function writeLetter(filename) {
     var document = new ActiveXObject("Draftwick.Document");
     document.Filename = filename;
     document.Spelling = dwSpellingStandard;
-    document.ScaleMode = dwInches;
     document.MarginLeft = 1.1;
     document.MarginRight = 1.1;
     document.MarginTop = 1;
     addStyles(document);
 
     var section = document.AddSection();
-    var sender = addParagraph(section, "Address", "Fenwick & Daughters, bookbinders");
-    sender.AddTextItem("\n12 Mill Lane\nAshford");
+    section.AddParagraph("Address", "Fenwick & Daughters, bookbinders").AddTextItem("\n12 Mill Lane\nAshford");
 
     // What differs from the style is set on the paragraph, before it gets its text.
-    var date = section.AddParagraph();
-    date.StyleName = "Letter";
+    var date = section.AddParagraph("Letter");
     date.Format.Align = dwAlignRight;
     date.AddTextItem("3 March");
 
-    addParagraph(section, "Address", "Mrs. Zo\u00eb M\u00fcller");
-    addParagraph(section, "Address", "Municipal Library, Castle Street 4");
+    section.AddParagraph("Address", "Mrs. Zo\u00eb M\u00fcller");
+    section.AddParagraph("Address", "Municipal Library, Castle Street 4");
     addOffer(section);
 
-    var closing = addParagraph(section, "Letter",
+    var closing = section.AddParagraph("Letter",
         "We would fetch the books ourselves: they should not travel in the post in ");
     closing.AddTextItem("their").FontFormat.Underline = dwUnderlineSingle;
     closing.AddTextItem(" condition.");
 
-    addParagraph(section, "Letter", "Yours sincerely,");
-    var name = section.AddParagraph();
-    name.StyleName = "Letter";
+    section.AddParagraph("Letter", "Yours sincerely,");
+    var name = section.AddParagraph("Letter");
     name.Format.SpaceBefore = 24;
     name.AddTextItem("Ada Fenwick");
 

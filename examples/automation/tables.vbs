@@ -23,8 +23,7 @@ Sub AddCell(row, width, text, align, merge, shading)
         side.Style = dwBSSingle
     Next
 
-    Set paragraph = cell.AddParagraph
-    paragraph.StyleName = "In a cell"
+    Set paragraph = cell.AddParagraph("In a cell")
     paragraph.Format.Align = align
     paragraph.AddTextItem text
 End Sub
@@ -38,13 +37,13 @@ Const Bed = 1.1, Plant = 2.4, Amount = 1.2
 Sub AddTable(section)
     Dim row, line
     Set row = section.AddTable
-    row.Header = True ' is repeated where the table goes on to another page
+    row.Header = True ' is repeated on each page that the table goes on to
     AddCell row, Bed, "Bed", dwAlignLeft, dwMergeNone, 20
     AddCell row, Plant, "Plant", dwAlignLeft, dwMergeNone, 20
     AddCell row, Amount, "Rows", dwAlignRight, dwMergeNone, 20
     AddCell row, Amount, "Seed, g", dwAlignRight, dwMergeNone, 20
 
-    ' A cell that goes over several rows is the first of merged ones; those below it have no text.
+    ' A cell that spans several rows is the first of merged cells; those below it have no text.
     For Each line In Array(Array("South wall", "Tomatoes", 2, "0.4", dwMergeFirstVertical), _
                            Array("", "Basil", 1, "0.5", dwMergeVertical), _
                            Array("", "French beans", 4, 120, dwMergeVertical), _
@@ -66,7 +65,7 @@ End Sub
 ' [rows]
 
 Sub WriteTables(filename)
-    Dim document, normal, inCell, section, title
+    Dim document, normal, inCell, section
     Set document = CreateObject("Draftwick.Document")
     document.Filename = filename
     document.Spelling = dwSpellingStandard
@@ -84,9 +83,7 @@ Sub WriteTables(filename)
     inCell.Format.SpaceAfter = 3
 
     Set section = document.AddSection
-    Set title = section.AddParagraph
-    title.StyleName = "Normal"
-    title.AddTextItem "What is sown in April"
+    section.AddParagraph "Normal", "What is sown in April"
     AddTable section
     document.Finish
 End Sub

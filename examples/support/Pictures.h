@@ -2,8 +2,6 @@
 
 // Picture files for the examples, made without any library. Real programs have theirs from elsewhere.
 
-#include <draftwick/base/Color.h>
-
 #include <cmath>
 #include <cstdint>
 #include <fstream>
@@ -14,8 +12,6 @@
 #include <vector>
 
 namespace examples {
-
-using draftwick::Rgb;
 
 inline void WriteFile(const std::string& name, const std::string& bytes) {
     std::ofstream file(name, std::ios::binary);

@@ -72,8 +72,8 @@ class Interface:
             sent.kind, sent.plain.number = 2, value
         elif isinstance(value, float):
             sent.kind, sent.plain.real = 3, value
-        elif isinstance(value, str):
-            data = value.encode("utf-8", "surrogateescape")
+        elif isinstance(value, (str, bytes)):
+            data = value if isinstance(value, bytes) else value.encode("utf-8", "surrogateescape")
             sent.kept = ctypes.create_string_buffer(data, len(data) + 1)
             sent.kind, sent.plain.text = 4, Text(ctypes.addressof(sent.kept), len(data))
         elif isinstance(value, datetime.datetime):

@@ -6,7 +6,7 @@ import re
 import draftwick
 from python_host import snake
 
-INCHES = {"in": 1, "cm": 1 / 2.54, "pt": 1 / 72}
+INCHES = {"in": 1, "cm": 1 / 2.54, "mm": 1 / 25.4, "pt": 1 / 72}
 UNITS = {1: 1, 2: 1440, 3: 72}  # of dwScaleMode
 
 

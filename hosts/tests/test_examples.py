@@ -12,6 +12,9 @@ from package_over_c import Package
 
 NAMES = sorted(path.stem for path in (ROOT / "examples").glob("*.py"))
 IN_BOTH = [name for name in NAMES if (ROOT / f"examples/{name}.cpp").exists()]
+# To memory and to streams a document is finished by what only the extension has.
+THROUGH_C = [name for name in IN_BOTH if name not in ("how_do_i_deliver", "http_server")]
+INPUT = {"text_to_document": [ROOT / "README.md"]}
 
 
 def run(name, monkeypatch, *arguments):
@@ -27,23 +30,24 @@ def package(host):
     return draftwick
 
 
-@pytest.mark.parametrize("name", IN_BOTH)
-@pytest.mark.parametrize("host", ["python", "c"])
+@pytest.mark.parametrize("host, name", [("python", name) for name in IN_BOTH] + [("c", name) for name in THROUGH_C])
 def test_bytes_are_those_of_cpp(host, name, tmp_path, monkeypatch):
     program, out = PROGRAMS / "examples" / name, tmp_path / f"{name}.rtf"
-    subprocess.run([program, out], check=True, stdout=subprocess.DEVNULL, env={**os.environ, "LD_PRELOAD": ""})
+    if name == "http_server" and not program.exists():
+        pytest.skip("the program in C++ needs a library that is not here")
+    arguments = [*INPUT.get(name, []), out]
+    subprocess.run([program, *arguments], check=True, stdout=subprocess.DEVNULL, env={**os.environ, "LD_PRELOAD": ""})
     expected = {path.name: path.read_bytes() for path in tmp_path.glob("*.rtf")}
-    pictures = sorted(tmp_path.glob("*.rtf.*.*g*"), reverse=True)
+    pictures = sorted([*tmp_path.glob("*.jpg"), *tmp_path.glob("*.gif")], reverse=True)
     for path in tmp_path.glob("*.rtf"):
         path.unlink()
     monkeypatch.setitem(sys.modules, "draftwick", package(host))
-    run(name, monkeypatch, out, *pictures)
+    run(name, monkeypatch, *arguments, *pictures)
     assert {path.name: path.read_bytes() for path in tmp_path.glob("*.rtf")} == expected
 
 
-@pytest.mark.parametrize("name", NAMES)
+@pytest.mark.parametrize("name", sorted(set(NAMES) - set(IN_BOTH)))
 def test_programs_run(name, tmp_path, monkeypatch):
     out = tmp_path / f"{name}.rtf"
-    pictures = [ROOT / "tests/pictures/whole.gif"] * 2 if name == "pictures" else []
-    run(name, monkeypatch, out, *pictures)
+    run(name, monkeypatch, out)
     assert out.read_bytes().startswith(b"{\\rtf1")

@@ -421,7 +421,7 @@ def properties(t):
             ("Yes", True, "true"),
                                ("Date", when, "2024-02-29T12:30:00")):
         t.document.Properties.Add(f"My {name}", value)
-        t.shows(f"Property of the host: {name.lower()}", f"{{\\propname My {name}}}",
+        t.shows(f"Property of your own: {name.lower()}", f"{{\\propname My {name}}}",
                 lambda name=name: t.odt.meta(f"My {name}"), shown,
                 why=IGNORED if name == "Date" else "")
     t.document.Properties.Add("Linked", "old", "mark")
@@ -512,7 +512,7 @@ def specials(t):
     say(section, "behind")
     t.shows("Page break", r"\page", lambda: t.pdf.word("behind")[0] - t.pdf.word("before")[0], 1)
     raw = section.AddParagraph().AddTextItem(r"raw {\b bold}", True)
-    t.shows("RTF of the host", r"raw {\b bold}", lambda: t.odt.look("bold").get("font-weight"), "bold")
+    t.shows("RTF of your own", r"raw {\b bold}", lambda: t.odt.look("bold").get("font-weight"), "bold")
 
 
 @topic("Settings of the document")

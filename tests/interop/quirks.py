@@ -149,7 +149,7 @@ def quirk_notes(t):
     say(row.AddCell(Width=2.0), "cell of a note")
     say(note, "behind the row")
     say(note, "second behind it")
-    t.shows("A note to which the host gave no mark", "without a mark", lambda: t.odt.first("note-citation").text, "1")
+    t.shows("A note without a mark", "without a mark", lambda: t.odt.first("note-citation").text, "1")
     t.shows("Paragraphs around a row in a note", "cell of a note", lambda: [p.text.strip() for p in
             t.odt.first("note-body").find("p")], ["without a mark", "cell of a note", "behind the row", "second behind it"])
 

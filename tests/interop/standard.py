@@ -31,7 +31,7 @@ LIMITS = {
     "fields": same("Locked date", "Author"),
     "properties": same(*(f"Property {name}" for name in ("manager", "category", "comment", "hlinkbase", "buptim", "edmins",
                                                          "nofpages", "nofwords", "nofchars")),
-                       "Property of the host: date", "Property linked to a bookmark"),
+                       "Property of your own: date", "Property linked to a bookmark"),
     "frames": same("Drop cap in the margin", "Table in a frame"),
     "shapes": {**same("Shade around a rectangle", "Dashes", "Shadow", "Filled with a picture", "Tiled with a picture",
                       "Shade of three colours", "Outline of two lines", "Depth"),
