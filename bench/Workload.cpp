@@ -101,9 +101,7 @@ void WriteParagraphs(Document& document, long count) {
     document.Finish();
 }
 
-void WriteLong(long paragraphs, const std::string& file) {
-    WriteParagraphs(*NewDocument(file), paragraphs);
-}
+void WriteLong(long paragraphs, const std::string& file) { WriteParagraphs(*NewDocument(file), paragraphs); }
 
 /// Writes many files, each thread its share of them.
 void WriteMany(long count, long threads, const std::string& folder,

@@ -55,7 +55,11 @@ void Paragraph::AddText(std::string_view text, std::string_view styleName) {
     const TextStyle* style = styleName.empty() ? nullptr : &styles.At(styles.IndexOf(styleName));
     PrepareAdd(TextItem::Describe);
     EmitText(session.writer,
-             {.style = style, .fontFormat = nullptr, .paragraphFontFormat = fontFormat_.Find(), .background = nullptr, .border = nullptr},
+             {.style = style,
+              .fontFormat = nullptr,
+              .paragraphFontFormat = fontFormat_.Find(),
+              .background = nullptr,
+              .border = nullptr},
              text, session.settings);
 }
 

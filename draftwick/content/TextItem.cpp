@@ -101,8 +101,7 @@ void TextItem::AddSpecial(std::string_view special) {
 
 void TextItem::WriteStart() {
     detail::Session& session = Session();
-    EmitTextItem(session.writer, Settings(), text_, static_cast<Letters>(letters_),
-                 session.settings);
+    EmitTextItem(session.writer, Settings(), text_, static_cast<Letters>(letters_), session.settings);
 }
 
 const Class& TextItem::Describe() {

@@ -153,8 +153,7 @@ bool OutputFiles::OpenOnePass(Session& session) {
     const std::string folder = FolderOf(files, settings.filename);
     auto onePass = std::make_unique<OnePassFile>([this, &session] { return Header(session); }, gap_);
     try {
-        UniqueFile file =
-            CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);
+        UniqueFile file = CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);
         onePass->Open(std::move(file.file));
         OnePassFile* const opened = onePass.get();
         file.file = std::move(onePass);

@@ -45,8 +45,8 @@ void BlockWriter::AppendLarge(const char* bytes, std::size_t size) {
     used_ += size;
 }
 
-void BlockWriter::AppendFile(platform::File& source, const std::string& sourceName,
-                             std::uint64_t skipped, std::uint64_t expectedSize) {
+void BlockWriter::AppendFile(platform::File& source, const std::string& sourceName, std::uint64_t skipped,
+                             std::uint64_t expectedSize) {
     std::uint64_t total = 0;
     for (;;) {
         if (used_ == capacity_) {

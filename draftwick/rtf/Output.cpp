@@ -122,7 +122,8 @@ void Output::AppendAscii(std::string_view text) {
     while (!text.empty()) {
         if (length_ > Room / 2) MakeRoom();
         const std::size_t size = std::min(text.size(), Room - length_);
-        std::memmove(line_ + length_, text.data(), size);  // memcpy of some bytes is slower where the compiler has it in line
+        std::memmove(line_ + length_, text.data(),
+                     size);  // memcpy of some bytes is slower where the compiler has it in line
         length_ += size;
         text.remove_prefix(size);
     }
@@ -131,7 +132,8 @@ void Output::AppendAscii(std::string_view text) {
 void Output::AppendEncoded(std::string_view text) {
     // In pieces that have room, whatever their characters become.
     constexpr std::size_t Piece = 64;
-    constexpr std::size_t MostPerByte = std::max<std::size_t>(platform::LongestAnsiCharacter, LongestEscape / 4);
+    constexpr std::size_t MostPerByte =
+        std::max<std::size_t>(platform::LongestAnsiCharacter, LongestEscape / 4);
     static_assert(Piece * MostPerByte + LongestEscape <= Room / 2);
     for (std::size_t at = 0; at < text.size();) {
         if (length_ > Room / 2) MakeRoom();

@@ -36,7 +36,7 @@ public:
     const Collections* names = nullptr;
     WordsByIndex plainParagraphs;  ///< of paragraphs without a format of their own
     WordsByIndex styledRuns;       ///< of runs that have nothing but a text style, by its index
-    bool hasFrame = false;  ///< a paragraph was written that stands in a frame
+    bool hasFrame = false;         ///< a paragraph was written that stands in a frame
 
     /// From now on all is spelled as RTF 1.9.1 has it. Before the first word.
     void UseStandardSpelling() {

@@ -8,7 +8,8 @@ namespace draftwick {
 std::uint64_t LastBytes(std::string_view text, std::size_t count) noexcept {
     if (text.size() >= 8) return EightBytes(text.data() + text.size() - 8) >> (8 * (8 - count));
     std::uint64_t bytes = 0;
-    for (std::size_t i = text.size(); count-- > 0;) bytes = bytes << 8 | static_cast<unsigned char>(text[--i]);
+    for (std::size_t i = text.size(); count-- > 0;)
+        bytes = bytes << 8 | static_cast<unsigned char>(text[--i]);
     return bytes;
 }
 

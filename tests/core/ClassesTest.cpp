@@ -386,10 +386,9 @@ TEST(EveryWay, LeadsToSettingsThatChangeTheFile) {
         {"TableBorder", "Style=dwBSSingle"},
         {"TextBorder", "Style=dwBSSingle"},
     };
-    static const std::set<std::string> NotWritten{"Document.Filename",  "Document.TempPath",
-                                                  "Document.ScaleMode", "Document.BodyInMemory",
-                                                  "Columns.Spacing",    "Document.DiscardOnRelease",
-                                                  "Document.Durable"};
+    static const std::set<std::string> NotWritten{
+        "Document.Filename", "Document.TempPath",         "Document.ScaleMode", "Document.BodyInMemory",
+        "Columns.Spacing",   "Document.DiscardOnRelease", "Document.Durable"};
     // A row's frame stands in its paragraphs; what every document has is linked to nothing.
     static const std::set<std::string> Others{"Document_AddSection_AddTable_Frame",
                                               "Document_Properties_Items"};

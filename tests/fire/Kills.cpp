@@ -19,8 +19,10 @@ using namespace draftwick::test;
 
 namespace {
 
-constexpr long Paragraphs = 3000;
+constexpr long Paragraphs = 10000;
 constexpr dwSpelling Spellings[] = {dwSpellingClassic, dwSpellingStandard};
+
+constexpr const char* Texts[] = {"one", "two"};
 
 using Clock = std::chrono::steady_clock;
 
@@ -52,17 +54,16 @@ int main(int count, char** arguments) {
     std::mt19937 random(seed);
     const TempFolder out, temp;
     const std::string name = out / "a.rtf";
-    const auto write = [&](dwSpelling spelling, const std::string& mark) {
-        LongDocument(name, temp.Path(), spelling, mark, Paragraphs)->Finish();
-    };
-
-    std::string whole[2][2];  // by spelling and text
-    Clock::duration shortest = std::chrono::hours{1};
+    std::string whole[2][2];                                                       // by spelling and text
+    Clock::duration shortest[2] = {std::chrono::hours{1}, std::chrono::hours{1}};  // all of it, and Finish
     for (const dwSpelling spelling : Spellings) {
         for (int text = 0; text < 2; ++text) {
             const auto begin = Clock::now();
-            write(spelling, text == 0 ? "one" : "two");
-            shortest = std::min(shortest, Clock::now() - begin);
+            const auto document = LongDocument(name, temp.Path(), spelling, Texts[text], Paragraphs);
+            const auto middle = Clock::now();
+            document->Finish();
+            shortest[0] = std::min(shortest[0], Clock::now() - begin);
+            shortest[1] = std::min(shortest[1], Clock::now() - middle);
             whole[spelling == dwSpellingStandard][text] = ReadFile(name);
         }
     }
@@ -73,18 +74,27 @@ int main(int count, char** arguments) {
     for (int kill = 0; kill < kills;) {
         const dwSpelling spelling = Spellings[random() % 2];
         const int text = static_cast<int>(random() % 2);
+        // Finish is a short part of it, and gets half of the kills: the writer says when it begins.
+        int signal[2];
+        if (::pipe(signal) != 0) Fail("no pipe");
         const pid_t child = ::fork();
         if (child == 0) {
-            write(spelling, text == 0 ? "one" : "two");
+            const auto document = LongDocument(name, temp.Path(), spelling, Texts[text], Paragraphs);
+            if (::write(signal[1], "f", 1) != 1) Fail("no signal");
+            document->Finish();
             ::_exit(0);
         }
-        // Finish is the last part of it, and gets half of the kills.
-        std::uniform_real_distribution<> when(kill % 2 == 0 ? 0.0 : 0.8, 1.1);
-        ::usleep(static_cast<useconds_t>(std::chrono::duration<double, std::micro>(shortest).count()
+        const bool finish = kill % 2 == 1;
+        char byte = 0;
+        if (finish && ::read(signal[0], &byte, 1) != 1) Fail("no signal");
+        std::uniform_real_distribution<> when(0, 1);
+        ::usleep(static_cast<useconds_t>(std::chrono::duration<double, std::micro>(shortest[finish]).count()
                                          * when(random)));
         ::kill(child, SIGKILL);
         int status = 0;
         ::waitpid(child, &status, 0);
+        ::close(signal[0]);
+        ::close(signal[1]);
         const std::string now = ReadFile(name);
         const std::string& complete = whole[spelling == dwSpellingStandard][text];
         if (now != old && now != complete) Fail("neither the old file nor the new one: " + name);

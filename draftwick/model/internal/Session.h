@@ -39,7 +39,7 @@ public:
     DocumentSettings settings;
     RtfWriter writer;
     std::int32_t lastShapeIndex = 0;  // counted up before use
-    bool usable = false;  // from the creation of the document until it is gone or given up
+    bool usable = false;              // from the creation of the document until it is gone or given up
 
     // Null once the document is gone.
     draftwick::Document* document = nullptr;
