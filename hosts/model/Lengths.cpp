@@ -12,9 +12,8 @@ struct Unit {
     std::string_view name;
     double inches;
 };
-constexpr Unit Units[] = {{"in", 1},        {"\"", 1},       {"cm", 1 / 2.54},  {"mm", 1 / 25.4},
-                          {"pt", 1.0 / 72}, {"pc", 1.0 / 6}, {"tw", 1.0 / 1440},
-                          {"twips", 1.0 / 1440}};
+constexpr Unit Units[] = {{"in", 1},        {"\"", 1},       {"cm", 1 / 2.54},   {"mm", 1 / 25.4},
+                          {"pt", 1.0 / 72}, {"pc", 1.0 / 6}, {"tw", 1.0 / 1440}, {"twips", 1.0 / 1440}};
 constexpr std::int32_t TwipsOfInch = 1440;
 
 [[noreturn]] void Refuse(std::string_view text, const char* wanted) {
