@@ -54,6 +54,11 @@ const Choice choices[] = {
     {"jobs", 'j', true, TakeJobs},
     {"quiet", 0, false, [](Options& options, Text) { options.quiet = true; }},
     {"schema", 0, false, [](Options& options, Text) { options.task = Options::Task::Schema; }},
+    {"clean", 0, true,
+     [](Options& options, Text value) {
+         options.task = Options::Task::Clean;
+         options.input = value;
+     }},
     {"help", 'h', false, [](Options& options, Text) { options.task = Options::Task::Help; }},
     {"version", 0, false, [](Options& options, Text) { options.task = Options::Task::Version; }},
 };
@@ -131,6 +136,8 @@ Writes Markdown, or a document in JSON, as RTF that word processors open.
       --quiet           no progress
       --spelling NAME   standard (default), or classic for readers that need it
       --schema          print the JSON Schema of documents in JSON
+      --clean FOLDER    delete what killed processes left there of documents, and nobody
+                        has written to for a day: ~dw1.tmp, ~dwout1.tmp, ~DWGC1.tmp ...
   -h, --help            print this
       --version         print the version
 
