@@ -87,6 +87,10 @@ Manuscript::Manuscript(const std::string& text, const std::string& file, bool me
     if (merging_) FindTags();
 
     for (cmark_node* node : NodesIn(root_.get())) {
+        // The parser copies these out of its text when somebody first asks: not in several threads at once.
+        cmark_node_get_literal(node);
+        cmark_node_get_url(node);
+        cmark_node_get_title(node);
         // A stack has an end where the tree is followed.
         constexpr int Deepest = 400;
         int depth = 0;

@@ -17,17 +17,17 @@ inline std::string_view Trimmed(std::string_view text) {
 std::string TextOfHtml(std::string_view html);
 
 /// Takes a text apart at names between two marks: tells of each piece of text, and of each name.
-template <class OnText, class OnName>
-void Split(std::string_view text, std::string_view open, std::string_view close, const OnText& onText,
-           const OnName& onName) {
+template <class TakeText, class TakeName>
+void Split(std::string_view text, std::string_view open, std::string_view close, const TakeText& takeText,
+           const TakeName& takeName) {
     for (std::size_t begin; (begin = text.find(open)) != text.npos;) {
         const std::size_t inside = begin + open.size(), end = text.find(close, inside);
         if (end == text.npos) break;
-        if (begin > 0) onText(text.substr(0, begin));
-        onName(Trimmed(text.substr(inside, end - inside)));
+        if (begin > 0) takeText(text.substr(0, begin));
+        takeName(Trimmed(text.substr(inside, end - inside)));
         text.remove_prefix(end + close.size());
     }
-    if (!text.empty()) onText(text);
+    if (!text.empty()) takeText(text);
 }
 
 /// The text with values in place of the names between two marks.
