@@ -6,6 +6,8 @@
 //        draftwick_workload formatted PARAGRAPHS FILE          every run and paragraph with a look of its own
 //        draftwick_workload floor BYTES FILE                   the same number of bytes without a library
 //        draftwick_workload floors BYTES DOCUMENTS THREADS FOLDER   the same for many documents
+//
+// "--standard" before it: in the standard spelling. "--addtext": runs by Paragraph::AddText, which hands out no object.
 #include <draftwick/draftwick.h>
 
 #include <algorithm>
@@ -46,6 +48,24 @@ private:
     std::string text_;
 };
 
+bool standard = false;
+bool addText = false;
+
+std::shared_ptr<Document> NewDocument(const std::string& file) {
+    auto document = Document::Create();
+    document->SetFilename(file);
+    if (standard) document->SetSpelling(dwSpellingStandard);
+    return document;
+}
+
+void WriteRun(Paragraph& paragraph, std::string_view text) {
+    if (addText) {
+        paragraph.AddText(text);
+    } else {
+        paragraph.AddTextItem(text);
+    }
+}
+
 void WriteRow(Section& section, long number) {
     static thread_local std::array<Numbered, 4> texts{Numbered{"Cell ", " A"}, Numbered{"Cell ", " B"},
                                                       Numbered{"Cell ", " C"}, Numbered{"Cell ", " D"}};
@@ -53,29 +73,36 @@ void WriteRow(Section& section, long number) {
     for (Numbered& text : texts) {
         auto cell = row->AddCell();
         cell->SetWidth(2268);
-        cell->AddParagraph()->AddTextItem(text(number));
+        WriteRun(*cell->AddParagraph(), text(number));
     }
 }
 
 /// Three runs, and after every tenth paragraph a row of four cells.
 void WriteParagraphs(Document& document, long count) {
     document.SetScaleMode(dwTwips);
+    if (addText) {
+        document.TextStyles()->Add("Bold")->FontFormat()->SetBold(true);
+        document.TextStyles()->Add("Red")->FontFormat()->SetColor(200);
+    }
     auto section = document.AddSection();
     Numbered plain{"Line ", " plain run, "};
     for (long i = 1; i <= count; ++i) {
         auto paragraph = section->AddParagraph();
-        paragraph->AddTextItem(plain(i));
-        paragraph->AddTextItem("bold run of this one, ")->FontFormat()->SetBold(true);
-        paragraph->AddTextItem("red end of para.")->FontFormat()->SetColor(200);
+        WriteRun(*paragraph, plain(i));
+        if (addText) {
+            paragraph->AddText("bold run of this one, ", "Bold");
+            paragraph->AddText("red end of para.", "Red");
+        } else {
+            paragraph->AddTextItem("bold run of this one, ")->FontFormat()->SetBold(true);
+            paragraph->AddTextItem("red end of para.")->FontFormat()->SetColor(200);
+        }
         if (i % 10 == 0) WriteRow(*section, i);
     }
     document.Finish();
 }
 
 void WriteLong(long paragraphs, const std::string& file) {
-    auto document = Document::Create();
-    document->SetFilename(file);
-    WriteParagraphs(*document, paragraphs);
+    WriteParagraphs(*NewDocument(file), paragraphs);
 }
 
 /// Writes many files, each thread its share of them.
@@ -101,16 +128,14 @@ void WriteText(long megabytes, const std::string& file) {
                 "dashes \u2014 "
                 "stand between them; braces like {these} are rare. ";
     }
-    auto document = Document::Create();
-    document->SetFilename(file);
+    auto document = NewDocument(file);
     auto section = document->AddSection();
     for (long i = 0; i < megabytes; ++i) section->AddParagraph()->AddTextItem(text);
     document->Finish();
 }
 
 void WriteFormatted(long paragraphs, const std::string& file) {
-    auto document = Document::Create();
-    document->SetFilename(file);
+    auto document = NewDocument(file);
     constexpr long Variants = 50;
     std::vector<std::string> fonts, lists, styles;
     for (long i = 0; i < Variants; ++i) {
@@ -193,7 +218,9 @@ long Number(std::string_view text) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> words(argv + 1, argv + argc);
+    std::vector<std::string> words(argv + 1, argv + argc);
+    standard = std::erase(words, "--standard") != 0;
+    addText = std::erase(words, "--addtext") != 0;
     try {
         if (words.size() == 4 && words[0] == "small") {
             WriteSmall(Number(words[1]), Number(words[2]), words[3]);

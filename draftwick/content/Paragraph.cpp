@@ -13,8 +13,6 @@
 
 namespace draftwick {
 
-Paragraph::Paragraph(const Origin& origin) : HeldBy(origin), format_(AsOwner()) {}
-
 std::string Paragraph::StyleName() const { return style_.Name(*Session().collections->paragraphStyles); }
 
 void Paragraph::SetStyleName(std::string_view name) {
@@ -28,12 +26,12 @@ void Paragraph::SetStyleName(std::string_view name) {
         borders_.Get(AsOwner()).CopyFrom(style.borders);
         CopyValues(fontFormat_.Get(AsOwner()), style.fontFormat);
         CopyValues(background_.Get(AsOwner()), style.background);
-        CopyValues(format_, style.format);
+        CopyValues(format_.Get(AsOwner()), style.format);
     }
     style_ = named;
 }
 
-std::shared_ptr<ParagraphFormat> Paragraph::Format() { return Share(format_); }
+std::shared_ptr<ParagraphFormat> Paragraph::Format() { return Share(format_.Get(AsOwner())); }
 std::shared_ptr<draftwick::FontFormat> Paragraph::FontFormat() { return Share(fontFormat_.Get(AsOwner())); }
 std::shared_ptr<draftwick::Background> Paragraph::Background() { return Share(background_.Get(AsOwner())); }
 std::shared_ptr<ParagraphBorders> Paragraph::Borders() { return Share(borders_.Get(AsOwner())); }
@@ -48,6 +46,17 @@ std::shared_ptr<Footnote> Paragraph::AddFootnote(bool isEndnote) { return Add(cu
 
 std::shared_ptr<TextItem> Paragraph::AddTextItem(std::string_view text, bool raw) {
     return Add(currentTextItem_, text, raw);
+}
+
+void Paragraph::AddText(std::string_view text, std::string_view styleName) {
+    detail::Session& session = Session();
+    CheckNotFinished();
+    const TextStyles& styles = *session.collections->textStyles;
+    const TextStyle* style = styleName.empty() ? nullptr : &styles.At(styles.IndexOf(styleName));
+    PrepareAdd(TextItem::Describe);
+    EmitText(session.writer,
+             {.style = style, .fontFormat = nullptr, .paragraphFontFormat = fontFormat_.Find(), .background = nullptr, .border = nullptr},
+             text, session.settings);
 }
 
 void Paragraph::AddFirstText(std::string_view text) { AddFirst(currentTextItem_, text, false); }
@@ -120,7 +129,7 @@ std::shared_ptr<Shape> Paragraph::AddInLine(std::shared_ptr<const OpenPicture> p
 
 void Paragraph::WriteStart() {
     detail::Session& session = Session();
-    NoteLists(session.writer.lists, Stored(format_));
+    if (format_.Find() != nullptr) NoteLists(session.writer.lists, Stored(*format_.Find()));
     Holder().WriteParagraphMark();
     Holder().WriteParagraphPlace(frame_.Find());
     EmitParagraph(session.writer,
@@ -128,7 +137,7 @@ void Paragraph::WriteStart() {
                    .borders = borders_.Find(),
                    .background = background_.Find(),
                    .fontFormat = fontFormat_.Find(),
-                   .format = Stored(format_),
+                   .format = format_.Find(),
                    .tabStops = tabStops_.Find()},
                   session.settings);
 }
@@ -166,6 +175,7 @@ const Class& Paragraph::Describe() {
                 "AddPictureData",
                 {{"Bytes", Kind::Bytes}, {"Width", Variant{0.0}}, {"Height", Variant{0.0}}}),
             MethodOf<&P::AddShape>("AddShape", {{"Kind"}}),
+            MethodOf<&P::AddText>("AddText", {{"Text"}, {"StyleName", Variant{std::string{}}}}),
             MethodOf<&P::AddTextItem>("AddTextItem", {{"Text"}, {"Raw", Variant{false}}}),
         }};
     return description;

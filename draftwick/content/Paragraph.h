@@ -31,7 +31,7 @@ class TextItem;
 /// closed itself; then it takes no more children.
 class DRAFTWICK_API Paragraph final : public detail::HeldBy<Container> {
 public:
-    explicit Paragraph(const detail::Origin& origin);
+    using HeldBy::HeldBy;
 
     /// The name of a paragraph style; empty (default) for none. Setting it looks the style up (dwErrItemNotFound),
     /// takes its spelling and copies everything that the style has into the paragraph, over what was set before;
@@ -52,6 +52,11 @@ public:
 
     /// Adds a run of text: text that is escaped, or with `raw` RTF that is written as it is.
     std::shared_ptr<TextItem> AddTextItem(std::string_view text, bool raw = false);
+
+    /// Adds a run of text at once: what AddTextItem with this text and StyleName would write when the next child comes.
+    /// There is no object to change afterwards, which saves most of what a run costs, and CurrentTextItem stays what it
+    /// was. dwErrItemNotFound when there is no such text style.
+    void AddText(std::string_view text, std::string_view styleName = {});
 
     /// Adds the start, or the end, of a bookmark at this place of the text.
     std::shared_ptr<Bookmark> AddBookmark(std::string_view name, bool isStart = true);
@@ -98,7 +103,7 @@ private:
     bool StandsInCell() const { return Holder().StandsInCell(); }
 
     rule::Ref<ParagraphStyles> style_;
-    ParagraphFormat format_;
+    detail::Lazy<ParagraphFormat> format_;
     detail::Lazy<draftwick::FontFormat> fontFormat_;
     detail::Lazy<draftwick::Background> background_;
     detail::Lazy<ParagraphBorders> borders_;

@@ -6,6 +6,19 @@
 
 namespace draftwick {
 
+namespace {
+
+/// \plain\fs24\cf0\sb0\sa0\sl240\slmult1: most paragraphs have no format of their own, and all of these have the same
+/// words. What these depend on can no longer change when the first one is written.
+void EmitPlainFormat(RtfWriter& writer, const DocumentSettings& document) {
+    writer.RepeatWords(writer.plainParagraphs, 0, [&] {
+        EmitFontFormat(writer, DefaultFontFormat(document), true);
+        EmitParagraphFormat(writer, DefaultParagraphFormat(document), document);
+    });
+}
+
+}  // namespace
+
 void EmitParagraphMark(RtfWriter& writer) {
     if (!writer.layout.SuppressNextParagraphMark) writer.Word("par");
     writer.layout.SuppressNextParagraphMark = false;
@@ -38,13 +51,21 @@ void EmitParagraph(RtfWriter& writer, const ParagraphSettings& paragraph, const 
         EmitParagraphBorders(writer, *paragraph.borders, style != nullptr ? &style->borders : nullptr);
     if (paragraph.background != nullptr)
         EmitBackground(writer, Stored(*paragraph.background), values(&Parts::background));
-    EmitFontFormat(
-        writer, paragraph.fontFormat != nullptr ? Stored(*paragraph.fontFormat) : DefaultFontFormat(document),
-        true, values(&Parts::fontFormat));
-    EmitParagraphFormat(writer, paragraph.format, document, values(&Parts::format));
+    if (paragraph.fontFormat == nullptr && paragraph.format == nullptr) {
+        EmitPlainFormat(writer, document);
+        writer.layout.AlignsLeft = true;
+    } else {
+        const auto format =
+            paragraph.format != nullptr ? Stored(*paragraph.format) : DefaultParagraphFormat(document);
+        EmitFontFormat(writer,
+                       paragraph.fontFormat != nullptr ? Stored(*paragraph.fontFormat)
+                                                       : DefaultFontFormat(document),
+                       true, values(&Parts::fontFormat));
+        EmitParagraphFormat(writer, format, document, values(&Parts::format));
+        writer.layout.AlignsLeft = format.align == dwAlignLeft;
+    }
     if (paragraph.tabStops != nullptr) EmitTabStops(writer, *paragraph.tabStops);
     writer.layout.direction = Direction::None;
-    writer.layout.AlignsLeft = paragraph.format.align == dwAlignLeft;
 }
 
 }  // namespace draftwick

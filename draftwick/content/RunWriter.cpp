@@ -5,36 +5,38 @@ namespace draftwick {
 
 namespace {
 
-/// What holds for the text of a paragraph whose runs say nothing.
-FontFormat::Values InParagraph(const RunSettings& run, const DocumentSettings& document) {
-    return run.paragraphFontFormat != nullptr ? Stored(*run.paragraphFontFormat)
-                                              : DefaultFontFormat(document);
+using V = FontFormat::Values;
+
+/// Whether the run has nothing of its own and its paragraph no look of its own.
+bool IsPlain(const RunSettings& run) {
+    return run.fontFormat == nullptr && run.background == nullptr && run.border == nullptr
+           && run.paragraphFontFormat == nullptr;
 }
 
-/// The words of a run's own look are what differs from a reference, and this is where that is chosen: the run's style
-/// if it has one, else its paragraph's format, else the default. A run without a look of its own takes the
-/// reference's: nothing differs.
+/// What the run's own look is told from: its style in the classic spelling, else its paragraph's format, else the
+/// default, for which there is null.
+const V* ReferenceOf(const RunSettings& run, bool standard) {
+    if (!standard && run.style != nullptr) return &Stored(StoredParts(*run.style).fontFormat);
+    return run.paragraphFontFormat != nullptr ? &Stored(*run.paragraphFontFormat) : nullptr;
+}
+
+/// A run without a look of its own takes the reference's: nothing differs.
 void EmitClassicFormat(RtfWriter& writer, const RunSettings& run, const DocumentSettings& document) {
-    if (run.fontFormat != nullptr) {
-        const FontFormat::Values reference =
-            run.style != nullptr ? Stored(StoredParts(*run.style).fontFormat) : InParagraph(run, document);
-        EmitFontFormatChanges(writer, Stored(*run.fontFormat), reference);
-    }
+    if (run.fontFormat != nullptr)
+        EmitFontFormatChanges(writer, Stored(*run.fontFormat), ReferenceOf(run, false), document);
     if (run.background != nullptr) EmitCharacterBackground(writer, Stored(*run.background));
     if (run.border != nullptr) EmitTextBorder(writer, Stored(*run.border));
 }
 
 /// The run's own look, or its style's: what differs from the paragraph, for readers that do not apply styles, and what
 /// differs from the style, for those that do.
-void EmitStandardFormat(RtfWriter& writer, const RunSettings& run, const Scripts& scripts,
-                        const DocumentSettings& document) {
+void EmitStandardFormat(RtfWriter& writer, const RunSettings& run, const DocumentSettings& document) {
     const auto* style = run.style != nullptr ? &StoredParts(*run.style) : nullptr;
-    const FontFormat::Values reference = InParagraph(run, document);
-    const FontFormat::Values* styleFont = style != nullptr ? &Stored(style->fontFormat) : nullptr;
-    const FontFormat::Values& format = run.fontFormat != nullptr ? Stored(*run.fontFormat)
-                                       : styleFont != nullptr    ? *styleFont
-                                                                 : reference;
-    EmitFontFormatChanges(writer, format, reference, styleFont);
+    if (run.fontFormat != nullptr || style != nullptr) {
+        EmitFontFormatChanges(writer, Stored(run.fontFormat != nullptr ? *run.fontFormat : style->fontFormat),
+                              ReferenceOf(run, true), document,
+                              style != nullptr ? &Stored(style->fontFormat) : nullptr);
+    }
     const auto background = [&](const Background& part) {
         EmitCharacterBackground(writer, Stored(part), style ? &Stored(style->background) : nullptr);
     };
@@ -51,7 +53,15 @@ void EmitStandardFormat(RtfWriter& writer, const RunSettings& run, const Scripts
     } else if (style != nullptr) {
         border(style->border);
     }
-    EmitScripts(writer, scripts, format);
+}
+
+void EmitLook(RtfWriter& writer, const RunSettings& run, const DocumentSettings& document) {
+    if (run.style != nullptr) writer.Word("cs", TextStyleNumber(writer, run.style->StyleIndex()));
+    if (writer.Standard()) {
+        EmitStandardFormat(writer, run, document);
+    } else {
+        EmitClassicFormat(writer, run, document);
+    }
 }
 
 }  // namespace
@@ -67,20 +77,36 @@ void EmitDirection(RtfWriter& writer, const Scripts& scripts) {
 
 void EmitRunFormat(RtfWriter& writer, const RunSettings& run, const Scripts& scripts,
                    const DocumentSettings& document) {
-    if (run.style != nullptr) writer.Word("cs", TextStyleNumber(writer, run.style->StyleIndex()));
-    if (writer.Standard()) {
-        EmitStandardFormat(writer, run, scripts, document);
-    } else {
-        EmitClassicFormat(writer, run, document);
+    if (!IsPlain(run)) {
+        EmitLook(writer, run, document);
+    } else if (run.style != nullptr) {
+        // All runs with nothing but this style have the same words.
+        const auto style = static_cast<std::size_t>(run.style->StyleIndex());
+        writer.RepeatWords(writer.styledRuns, style, [&] { EmitLook(writer, run, document); });
     }
+    if (!scripts.Any()) return;
+    const V* const reference = ReferenceOf(run, true);
+    EmitScripts(writer, scripts,
+                run.fontFormat != nullptr ? Stored(*run.fontFormat)
+                : run.style != nullptr    ? Stored(StoredParts(*run.style).fontFormat)
+                : reference != nullptr    ? *reference
+                                          : DefaultFontFormat(document));
 }
 
-void EmitTextItem(RtfWriter& writer, const RunSettings& run, std::string_view text, const Scripts& scripts,
+void EmitTextItem(RtfWriter& writer, const RunSettings& run, std::string_view text, Letters letters,
                   const DocumentSettings& document) {
+    const Scripts scripts = writer.Standard() ? ScriptsOf(text, letters) : Scripts{};
     EmitDirection(writer, scripts);
     writer.Group([&] {
         EmitRunFormat(writer, run, scripts, document);
-        writer.Raw(text);
+        writer.output.WriteText(text, letters);
+    });
+}
+
+void EmitText(RtfWriter& writer, const RunSettings& run, std::string_view text,
+              const DocumentSettings& document) {
+    writer.WithEscaped(text, [&](std::string_view escaped, Letters letters) {
+        EmitTextItem(writer, run, escaped, letters, document);
     });
 }
 

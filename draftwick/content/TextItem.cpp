@@ -17,6 +17,8 @@ bool IsLetter(char c) { return c >= 'a' && c <= 'z'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsHexadecimal(char c) { return IsDigit(c) || (c >= 'a' && c <= 'f'); }
 
+void Note(unsigned char& all, Letters letters) { all = std::max(all, static_cast<unsigned char>(letters)); }
+
 /// "line" or "li-360": letters and a number, as RTF limits them.
 bool IsControlWord(std::string_view word) {
     constexpr std::size_t MostLetters = 32, MostDigits = 10;
@@ -54,7 +56,7 @@ std::string SpecialCode(std::string_view special) {
 TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(origin) {
     if (raw) {
         text_ = ToValidUtf8(text);
-        isWestern_ = false;
+        Note(letters_, Letters::Any);
     } else {
         Append(text);
     }
@@ -62,7 +64,7 @@ TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(
 
 void TextItem::Append(std::string_view text) {
     const bool standard = SharedSession()->settings.spelling == dwSpellingStandard;
-    if (AppendEscaped(text_, text, standard ? Escaping::Lines : Escaping::Classic)) isWestern_ = false;
+    Note(letters_, AppendEscaped(text_, text, standard ? Escaping::Lines : Escaping::Classic));
 }
 
 void TextItem::AddText(std::string_view text) {
@@ -73,7 +75,7 @@ void TextItem::AddText(std::string_view text) {
 void TextItem::AddRawText(std::string_view text) {
     OpenForChange();
     text_ += ToValidUtf8(text);
-    isWestern_ = false;
+    Note(letters_, Letters::Any);
 }
 
 void TextItem::AddSpecial(std::string_view special) {
@@ -84,6 +86,7 @@ void TextItem::AddSpecial(std::string_view special) {
             Append(special);
         } else {
             text_ += code;
+            Note(letters_, Letters::Western);
         }
         return;
     }
@@ -93,12 +96,13 @@ void TextItem::AddSpecial(std::string_view special) {
     }
     if (code.empty() || code.front() != '\\') code.insert(code.begin(), '\\');
     text_ += code + " ";
+    Note(letters_, Letters::Western);
 }
 
 void TextItem::WriteStart() {
     detail::Session& session = Session();
-    const Scripts scripts = session.writer.Standard() ? ScriptsOf(text_, isWestern_) : Scripts{};
-    EmitTextItem(session.writer, Settings(), text_, scripts, session.settings);
+    EmitTextItem(session.writer, Settings(), text_, static_cast<Letters>(letters_),
+                 session.settings);
 }
 
 const Class& TextItem::Describe() {

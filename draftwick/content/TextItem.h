@@ -32,7 +32,7 @@ private:
     void Append(std::string_view text);
 
     std::string text_;
-    bool isWestern_ = true;  // no character asks more of the standard spelling than Western ones do
+    unsigned char letters_ = 0;  // what characters it has at most: a number of Letters
 };
 
 }  // namespace draftwick

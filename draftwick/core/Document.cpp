@@ -49,6 +49,7 @@ void Document::Open() {
     collections.properties = std::make_shared<draftwick::Properties>(origin);
     detail::Session& session = *SharedSession();
     session.document = this;
+    session.usable = true;
     session.documentLink = weak_from_this();
     session.collections = &collections;
     session.writer.names = &collections;
@@ -57,9 +58,11 @@ void Document::Open() {
 Document::~Document() {
     detail::Session& session = *SharedSession();
     if (settings_.discardOnRelease && !Finished()) inside_->files.Discard();
+    inside_->files.LetGo();
     session.writer.output.SetStream(nullptr);
     session.writer.names = nullptr;
     session.document = nullptr;
+    session.usable = false;
     session.collections = nullptr;
 }
 
@@ -132,9 +135,9 @@ void Document::FinishInto(const detail::Sink& sink) {
 
 void Document::Discard() {
     detail::Session& session = *SharedSession();
-    if (Finished() || session.discarded) return;
+    if (Finished() || !session.usable) return;
     CheckNotDelivering();
-    session.discarded = true;
+    session.usable = false;
     session.writer.output.SetStream(nullptr);
     const std::error_code error = inside_->files.Discard();
     if (error) RaiseFileError(error, "delete", inside_->files.BodyFileName());
@@ -244,6 +247,7 @@ const Class& Document::Describe() {
             PropertyOf<&D::BodyInMemory, &D::SetBodyInMemory, &V::bodyInMemory>("BodyInMemory"),
             PropertyOf<&D::DiscardOnRelease, &D::SetDiscardOnRelease, &V::discardOnRelease>(
                 "DiscardOnRelease"),
+            PropertyOf<&D::Durable, &D::SetDurable, &V::durable>("Durable"),
             PropertyOf<&D::ScaleMode, &D::SetScaleMode, &V::scaleMode>("ScaleMode"),
             PropertyOf<&D::Spelling, &D::SetSpelling, &V::spelling>("Spelling"),
             PropertyOf<&D::MarginTop, &D::SetMarginTop, &P::marginTop>("MarginTop"),

@@ -30,14 +30,19 @@ class TextStyles;
 
 /// A document that is written while it is built.
 ///
-/// Set its properties, add sections, fill them, call Finish. What was added is written to a temporary file as soon
-/// as its next sibling arrives; Finish puts the tables of fonts, colours, styles and lists in front. The first
+/// Set its properties, add sections, fill them, call Finish. What was added is written to a temporary file, in blocks,
+/// as soon as its next sibling arrives; Finish puts the tables of fonts, colours, styles and lists in front. The first
 /// section writes the document's own settings: from then on its setters refuse ("Document"), except ScaleMode.
+///
+/// The temporary file is "~dw1.tmp" in TempPath, and is copied behind the header. In the standard spelling, when
+/// Filename is set and TempPath is not, it is "~dwout1.tmp" in the folder of the file and becomes the file itself: it
+/// begins with a gap for the header, and line ends fill what the header leaves of it. It is copied nevertheless when the
+/// header grows out of the gap.
 ///
 /// Your program's reference keeps the document alive; once it is released, everything that belonged to it refuses
 /// with error 91. A document that is released without Finish leaves its temporary file behind, with the lines
-/// that were written so far, unless DiscardOnRelease is set. One document is for one thread; different documents can be used in different
-/// threads at the same time.
+/// that were written so far, unless DiscardOnRelease is set. One document is for one thread; different documents can be
+/// used in different threads at the same time.
 class DRAFTWICK_API Document final : public detail::Content {
 public:
     /// A new document with the system's services.
@@ -60,7 +65,7 @@ public:
     /// the process ends before that, whenever it is, an old file of the name is what it was; temporary files may be
     /// left, and for a file without a Filename an empty one. The new file replaces the old one: it has the
     /// permissions of new files, a symbolic link becomes a file, other hard links keep what they had. A device or a
-    /// pipe is written to as it is. Nothing is promised about a system that stops: no file is forced to the disk.
+    /// pipe is written to as it is. What a system keeps that stops is said by Durable.
     void Finish();
 
     /// Takes the bytes of a file, one piece after the other. It fails by an exception, which FinishTo passes on.
@@ -76,6 +81,10 @@ public:
     /// (dwErrTargetEmitted, "Document"). A finished document stays what it is, and a second call does nothing.
     /// FileError when the file cannot be deleted; the document is given up nevertheless.
     void Discard();
+    /// Whether Finish forces the file and its folder to the disk before it returns, so that both outlast a system that
+    /// stops. Default false: the system writes when it sees fit.
+    bool Durable() const { return settings_.durable; }
+    void SetDurable(bool on) { Change(settings_.durable, on); }
     /// Whether a document that is released unfinished is given up, as by Discard; else its temporary file stays, with
     /// all that was written. Default false. Can be set until the document is finished.
     bool DiscardOnRelease() const { return settings_.discardOnRelease; }
@@ -108,7 +117,7 @@ public:
     /// characters. Error 5 in Finish for a name of less than four characters.
     const std::string& Filename() const { return settings_.filename; }
     void SetFilename(std::string_view name) { SetPath(settings_.filename, name); }
-    /// The folder of the temporary file; empty (default) for the system's.
+    /// The folder of the temporary file; empty (default) for the system's, or in the standard spelling the file's own.
     const std::string& TempPath() const { return settings_.tempPath; }
     void SetTempPath(std::string_view folder) { SetPath(settings_.tempPath, folder); }
 

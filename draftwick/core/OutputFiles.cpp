@@ -1,5 +1,6 @@
 #include <draftwick/base/Error.h>
 #include <draftwick/base/internal/Required.h>
+#include <draftwick/core/internal/OnePassFile.h>
 #include <draftwick/core/internal/OutputFiles.h>
 #include <draftwick/core/internal/Writers.h>
 #include <draftwick/model/internal/Session.h>
@@ -28,13 +29,6 @@ std::size_t FindExtension(const std::string& name) {
         } while (at > 0 && (static_cast<unsigned char>(name[at]) & 0xC0) == 0x80);
     }
     return name[at] == '.' ? at : name.size();
-}
-
-std::unique_ptr<platform::File> Open(platform::FileSystem& files, const std::string& name) {
-    std::error_code error;
-    auto file = files.OpenForReading(name, error);
-    if (file == nullptr) RaiseFileError(error, "read", name);
-    return file;
 }
 
 std::string TempFolder(const Session& session) {
@@ -85,19 +79,6 @@ std::string GiveNewName(platform::FileSystem& files, const std::string& file, co
     return taken.name;
 }
 
-/// Lets the output go to another file as long as it lives.
-class Redirection {
-public:
-    Redirection(Output& output, BlockWriter* stream) : output_(output), before_(output.SetStream(stream)) {}
-    ~Redirection() { output_.SetStream(before_); }
-    Redirection(const Redirection&) = delete;
-    Redirection& operator=(const Redirection&) = delete;
-
-private:
-    Output& output_;
-    BlockWriter* before_;
-};
-
 /// A sink as a file. What the sink throws is kept, and from then on it is left in peace.
 class SinkFile final : public platform::File {
 public:
@@ -136,8 +117,9 @@ private:
 }  // namespace
 
 OutputFiles::OutputFiles() = default;
+OutputFiles::~OutputFiles() = default;
 
-OutputFiles::~OutputFiles() {
+void OutputFiles::LetGo() noexcept {
     try {
         if (body_ != nullptr) body_->Close();
     } catch (...) {  // nobody is left to hear of it
@@ -148,45 +130,72 @@ void OutputFiles::OpenBody(Session& session) {
     if (session.settings.bodyInMemory) {
         memory_ = std::make_unique<FileInMemory>();
         std::error_code none;
-        const std::string name = "(memory)";
-        body_ =
-            std::make_unique<BlockWriter>(memory_->Create(name, platform::Creation::Exclusive, none), name);
-        bodyFiles_ = memory_.get();
-        bodyFileName_ = name;
-    } else {
+        UniqueFile body{"(memory)", memory_->Create({}, platform::Creation::Exclusive, none)};
+        SetBody(*memory_, body, body.name);
+    } else if (!OpenOnePass(session)) {
         platform::FileSystem& files = Required(session.platform.files, "files");
         const std::string& chosen = session.settings.tempPath;
         UniqueFile body = CreateUniqueFile(files, chosen.empty() ? TempFolder(session) : chosen, "~dw",
                                            ".tmp", platform::Creation::ExclusivePrivate);
-        try {
-            std::string fullName = files.FullName(body.name);
-            body_ = std::make_unique<BlockWriter>(std::move(body.file), body.name);
-            bodyFileName_ = std::move(fullName);
-        } catch (...) {
-            body.file.reset();
-            std::error_code ignored;
-            files.Delete(body.name, ignored);
-            throw;
-        }
-        bodyFiles_ = &files;
+        SetBody(files, body, body.name);
     }
     session.writer.output.SetStream(body_.get());
 }
 
+/// The output's own temporary file for the body, where that can become the output. A folder that is not there, or not
+/// yet, is reported by Finish, as always.
+bool OutputFiles::OpenOnePass(Session& session) {
+    const DocumentSettings& settings = session.settings;
+    if (settings.spelling != dwSpellingStandard || settings.filename.empty() || !settings.tempPath.empty())
+        return false;
+    platform::FileSystem& files = Required(session.platform.files, "files");
+    if (!files.CanReplace(settings.filename)) return false;
+    const std::string folder = FolderOf(files, settings.filename);
+    auto onePass = std::make_unique<OnePassFile>([this, &session] { return Header(session); }, gap_);
+    try {
+        UniqueFile file =
+            CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);
+        onePass->Open(std::move(file.file));
+        OnePassFile* const opened = onePass.get();
+        file.file = std::move(onePass);
+        SetBody(files, file, settings.filename);
+        onePass_ = opened;
+        return true;
+    } catch (const std::system_error&) {
+        return false;
+    }
+}
+
+/// Failures are reported with the name that the host knows.
+void OutputFiles::SetBody(platform::FileSystem& files, UniqueFile& file, const std::string& knownName) {
+    try {
+        std::string fullName = files.FullName(file.name);
+        body_ = std::make_unique<BlockWriter>(std::move(file.file), knownName);
+        bodyFileName_ = std::move(fullName);
+    } catch (...) {
+        file.file.reset();
+        std::error_code ignored;
+        files.Delete(file.name, ignored);
+        throw;
+    }
+    bodyFiles_ = &files;
+}
+
 void OutputFiles::EndBody(Session& session) {
-    session.writer.output.Checkpoint();
+    body_->Checkpoint();
     if (!ended_) {
         session.writer.CloseGroup();
         session.writer.output.FlushLine();
         ended_ = true;
     }
-    body_->Close();
     session.writer.output.SetStream(nullptr);
+    if (onePass_ == nullptr && body_->Written() != 0) body_->Close();
 }
 
 void OutputFiles::DeleteBody() {
+    body_->CloseUnwritten();
     std::error_code error;
-    bodyFiles_->Delete(bodyFileName_, error);
+    if (!bodyFileName_.empty()) bodyFiles_->Delete(bodyFileName_, error);
     if (error && error != std::errc::no_such_file_or_directory)
         RaiseFileError(error, "delete", bodyFileName_);
 }
@@ -202,31 +211,28 @@ std::error_code OutputFiles::Discard() noexcept {
 
 void OutputFiles::AssembleOutputFile(Session& session) {
     EndBody(session);
-    if (actualFileName_.empty()) {
-        std::string name = CreateOutputFile(session);
-        fullFileName_ = Required(session.platform.files, "files").FullName(name);
-        actualFileName_ = std::move(name);
+    platform::FileSystem& files = Required(session.platform.files, "files");
+    if (actualFileName_.empty()) actualFileName_ = CreateOutputFile(session);
+    if (fullFileName_.empty()) fullFileName_ = files.FullName(actualFileName_);
+    if (session.settings.durable && files.CanReplace(actualFileName_)) {
+        const std::string folder = FolderOf(files, fullFileName_);
+        std::error_code error;
+        files.SyncFolder(folder, error);
+        if (error) RaiseFileError(error, "write", folder);
     }
     DeleteBody();
 }
 
 void OutputFiles::AssembleInto(Session& session, const Sink& sink) {
     EndBody(session);
-    RegisterHeaderColors(session.writer, session.settings);
+    if (onePass_ != nullptr && body_->Written() != 0) body_->Close();
+    onePass_ = nullptr;
     // All of the header first: a host's code must not run while its tables are walked.
-    FileInMemory header;
-    std::error_code none;
-    BlockWriter memory(header.Create({}, platform::Creation::Exclusive, none), "(memory)");
-    WriteHeader(session, memory);
-    memory.Close();
+    const std::string header = Header(session);
     std::exception_ptr thrown;
     try {
-        const std::unique_ptr<platform::File> body = Open(*bodyFiles_, bodyFileName_);
-        BlockWriter output(std::make_unique<SinkFile>(sink, thrown), "(stream)");
-        output.Append(header.Bytes().data(), header.Bytes().size());
-        output.Checkpoint();
-        output.AppendFile(*body, bodyFileName_, body_->Written());
-        output.Close();
+        const std::unique_ptr<platform::File> body = ReopenBody();
+        WriteOutput(header, body.get(), {std::make_unique<SinkFile>(sink, thrown), "(stream)"}, false);
     } catch (...) {
         if (thrown != nullptr) std::rethrow_exception(thrown);
         throw;
@@ -238,14 +244,20 @@ void OutputFiles::AssembleInto(Session& session, const Sink& sink) {
 std::string OutputFiles::CreateOutputFile(Session& session) {
     platform::FileSystem& files = Required(session.platform.files, "files");
     const std::string& name = session.settings.filename;
+    const bool durable = session.settings.durable;
     const std::size_t extension = name.empty() ? 0 : FindExtension(name);
-    const std::unique_ptr<platform::File> body = Open(*bodyFiles_, bodyFileName_);
-    RegisterHeaderColors(session.writer, session.settings);
+    const std::string header = Header(session);
+    if (CompleteOnePass(files, header, name, durable)) {
+        std::string given = GiveName(files, bodyFileName_, name, extension);
+        bodyFileName_.clear();
+        return given;
+    }
+    const std::unique_ptr<platform::File> body = ReopenBody();
     if (!name.empty() && !files.CanReplace(name)) {
         std::error_code error;
         auto file = files.Create(name, platform::Creation::Overwrite, error);
         if (file == nullptr) RaiseFileError(error, "create", name);
-        WriteOutput(session, *body, {std::move(file), name});
+        WriteOutput(header, body.get(), {std::move(file), name}, false);
         return name;
     }
     // The folder of a file that has no name yet is the environment's, not TempPath.
@@ -253,7 +265,7 @@ std::string OutputFiles::CreateOutputFile(Session& session) {
     UniqueFile file = CreateTemporary(files, folder, name);
     try {
         // The host knows the file by the name that it gave.
-        WriteOutput(session, *body, {std::move(file.file), name.empty() ? file.name : name});
+        WriteOutput(header, body.get(), {std::move(file.file), name.empty() ? file.name : name}, durable);
         return name.empty() ? GiveNewName(files, file.name, folder)
                             : GiveName(files, file.name, name, extension);
     } catch (...) {
@@ -263,19 +275,47 @@ std::string OutputFiles::CreateOutputFile(Session& session) {
     }
 }
 
-void OutputFiles::WriteHeader(Session& session, BlockWriter& output) {
-    const Redirection redirection(session.writer.output, &output);
-    const std::uint64_t before = session.writer.output.Lost();
-    EmitHeader(session.writer, session.settings);
-    lostInHeader_ = session.writer.output.Lost() - before;
-    session.writer.output.SetLost(before);  // the header can be written again
+/// Makes the body's file the whole output, if it is one that can be. That is tried once: after a failure, the body is
+/// copied.
+bool OutputFiles::CompleteOnePass(platform::FileSystem& files, const std::string& header,
+                                  const std::string& name, bool durable) {
+    if (onePass_ == nullptr) return false;
+    OnePassFile& file = *std::exchange(onePass_, nullptr);
+    const bool fits = !name.empty() && FolderOf(files, name) == FolderOf(files, bodyFileName_)
+                      && files.CanReplace(name) && file.SetHeader(header);
+    if (fits || body_->Written() != 0) body_->Close(fits && durable);
+    return fits;
 }
 
-void OutputFiles::WriteOutput(Session& session, platform::File& body, BlockWriter output) {
-    WriteHeader(session, output);
-    output.Checkpoint();
-    output.AppendFile(body, bodyFileName_, body_->Written());
-    output.Close();
+/// Empty when the body is in memory still.
+std::unique_ptr<platform::File> OutputFiles::ReopenBody() const {
+    if (body_->Written() == 0) return nullptr;
+    std::error_code error;
+    auto file = bodyFiles_->OpenForReading(bodyFileName_, error);
+    if (file == nullptr) RaiseFileError(error, "read", bodyFileName_);
+    return file;
+}
+
+/// Everything that stands before the body.
+std::string OutputFiles::Header(const Session& session) {
+    RtfWriter writer = session.writer.ForHeader();
+    RegisterHeaderColors(writer, session.settings);
+    writer.output.Keep();
+    EmitHeader(writer, session.settings);
+    lostInHeader_ = writer.output.Lost();
+    return writer.output.TakeKept();
+}
+
+void OutputFiles::WriteOutput(const std::string& header, platform::File* body, BlockWriter output,
+                              bool durable) {
+    output.Append(header.data(), header.size());
+    if (body != nullptr) {
+        output.Checkpoint();
+        output.AppendFile(*body, bodyFileName_, gap_, body_->Written());
+    } else {
+        output.Append(body_->Kept().data(), body_->Kept().size());
+    }
+    output.Close(durable);
 }
 
 }  // namespace draftwick

@@ -79,9 +79,12 @@ void EmitFontFormat(RtfWriter& writer, const V& format, bool withPlain, const V*
     }
 }
 
-void EmitFontFormatChanges(RtfWriter& writer, const V& format, const V& reference, const V* style) {
+void EmitFontFormatChanges(RtfWriter& writer, const V& format, const V* reference,
+                           const DocumentSettings& document, const V* style) {
+    static const V Default;
+    const V& from = reference != nullptr ? *reference : Default;
     const auto differs = [&](auto field) {
-        return format.*field != reference.*field || (style != nullptr && format.*field != style->*field);
+        return format.*field != from.*field || (style != nullptr && format.*field != style->*field);
     };
     const auto flag = [&](const Spelled& word, bool V::*field) {
         const bool written = differs(field);
@@ -97,7 +100,9 @@ void EmitFontFormatChanges(RtfWriter& writer, const V& format, const V& referenc
     } else if (plain("sub", &V::subscript)) {
         WriteSubscript(writer, format);
     }
-    if (differs(&V::font) && format.font) writer.Word("f", format.font.Position());
+    const auto font = reference != nullptr ? reference->font : document.defaultFont;
+    if (format.font && (format.font != font || (style != nullptr && format.font != style->font)))
+        writer.Word("f", format.font.Position());
     if (differs(&V::size)) writer.Word("fs", format.size.Written());
     plain("i", &V::italic);
     plain("outl", &V::outline);

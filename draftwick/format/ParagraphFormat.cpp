@@ -6,7 +6,8 @@
 namespace draftwick {
 
 ParagraphFormat::ParagraphFormat(Owner owner) : Part(owner) {
-    values_.widowOrphanControl = Session().settings.widowOrphanControl;
+    // It can be read for the first time when the document is gone.
+    values_.widowOrphanControl = SharedSession()->settings.widowOrphanControl;
 }
 
 std::string ParagraphFormat::NameOfList(Ref<Lists> list) const {

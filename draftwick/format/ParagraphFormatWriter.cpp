@@ -91,4 +91,10 @@ void EmitParagraphFormat(RtfWriter& writer, const V& format, const DocumentSetti
     }
 }
 
+V DefaultParagraphFormat(const DocumentSettings& document) {
+    V values;
+    values.widowOrphanControl = document.widowOrphanControl;
+    return values;
+}
+
 }  // namespace draftwick

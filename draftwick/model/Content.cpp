@@ -5,8 +5,6 @@
 
 namespace draftwick {
 
-RtfWriter& Content::Writer() const { return Session().writer; }
-
 void Content::CheckNotEmitted() const {
     if (emitted_) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
 }
@@ -42,11 +40,10 @@ void Content::Withdraw() {
     emitted_ = finished_ = true;
 }
 
-void Content::CheckDepth(int levels) const {
-    if (depth_ + levels > MaxDepth)
-        RaiseRuntimeError(dwRunOutOfStackSpace, "the objects lie too deep in each other",
-                          "a document takes " + std::to_string(MaxDepth)
-                              + " objects in each other; close some before adding more");
+void Content::RefuseDepth() const {
+    RaiseRuntimeError(dwRunOutOfStackSpace, "the objects lie too deep in each other",
+                      "a document takes " + std::to_string(MaxDepth)
+                          + " objects in each other; close some before adding more");
 }
 
 void Content::PrepareAdd(const Class& (*child)()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <draftwick/model/Object.h>
+#include <draftwick/model/Recycled.h>
 
 #include <memory>
 #include <utility>
@@ -31,7 +32,7 @@ protected:
     /// dwErrTargetEmitted with the class's name once the object is emitted.
     void CheckNotEmitted() const override;
     /// Where the object is written. Error 91 when the document is gone.
-    RtfWriter& Writer() const;
+    inline RtfWriter& Writer() const;  // in model/internal/Session.h
     /// Writes the object's own start. Judges everything that can fail before the first byte.
     virtual void WriteStart() = 0;
     /// Writes what ends the object, after its last child.
@@ -62,8 +63,12 @@ protected:
         Emit();
         return Hold(slot, std::forward<Arguments>(arguments)...);
     }
+    /// What an Add does before there is a child of that class.
+    void PrepareAdd(const Class& (*child)());
     /// Refuses an addition that would bring objects that many levels deeper than this one.
-    void CheckDepth(int levels) const;
+    void CheckDepth(int levels) const {
+        if (depth_ + levels > MaxDepth) RefuseDepth();
+    }
 
 private:
     template <class HolderType, class Base>
@@ -71,13 +76,13 @@ private:
 
     template <class Child, class... Arguments>
     std::shared_ptr<Child> Hold(std::shared_ptr<Child>& slot, Arguments&&... arguments) {
-        slot = std::make_shared<Child>(Node::OriginOfChild(), std::forward<Arguments>(arguments)...);
+        slot = MakeRecycled<Child>(Node::OriginOfChild(), std::forward<Arguments>(arguments)...);
         open_ = slot.get();
         open_->holder_ = this;
         open_->depth_ = depth_ + 1;
         return slot;
     }
-    void PrepareAdd(const Class& (*child)());
+    [[noreturn]] void RefuseDepth() const;
 
     Content* holder_ = nullptr;
     Content* open_ = nullptr;  // the child that is not finished yet; its slot keeps it

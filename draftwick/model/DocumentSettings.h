@@ -117,6 +117,7 @@ struct DocumentSettings {
     std::string tempPath;
     bool bodyInMemory = false;
     bool discardOnRelease = false;
+    bool durable = false;
     rule::Choice<"FootnoteFormat", dwFFDecimal, dwFFRomanUpper> footnoteFormat{dwFFDecimal};
     rule::Choice<"EndnoteFormat", dwFFDecimal, dwFFRomanUpper> endnoteFormat{dwFFDecimal};
     rule::Choice<"FootnoteLocation", dwFLBeneathText, dwFLBottomOfPage> footnoteLocation{dwFLBottomOfPage};

@@ -6,13 +6,6 @@
 
 namespace draftwick {
 
-NoRef::NoRef(const std::shared_ptr<Object>& object)
-    : object_(object), class_(object == nullptr ? nullptr : &object->Description()) {}
-
-// An object is changed through references to it, whoever asks for one.
-NoRef::NoRef(const Node& object)
-    : object_(const_cast<Node&>(object).weak_from_this()), class_(&object.Description()) {}
-
 std::shared_ptr<Object> Object::DocumentObject() const {
     return session_ == nullptr ? nullptr : session_->documentLink.lock();
 }
@@ -22,15 +15,12 @@ std::shared_ptr<draftwick::Document> Object::Document() const {
     return link == nullptr ? nullptr : std::shared_ptr<draftwick::Document>(link, session_->document);
 }
 
-detail::Session& Object::Session() const {
+void Object::RefuseWithoutSession() const {
     if (session_ == nullptr || session_->document == nullptr) {
         RaiseRuntimeError(dwRunObjectGone, {},
                           "keep the pointer to the document as long as its objects are used");
     }
-    if (session_->discarded) {
-        RaiseError(dwErrTargetEmitted, {"Document"}, "the document was given up by Discard; make a new one");
-    }
-    return *session_;
+    RaiseError(dwErrTargetEmitted, {"Document"}, "the document was given up by Discard; make a new one");
 }
 
 dwScaleMode Object::OpenForChange(const char* setter) const {
@@ -56,17 +46,12 @@ void Object::Change(std::string& field, std::string_view value, const char* sett
 
 double Object::Read(Length length) const { return FromTwips(length.Twips(), Session().settings.scaleMode); }
 
-std::shared_ptr<Object> Node::RequireParent() const {
-    std::shared_ptr<Object> parent = Parent();
-    if (parent == nullptr) {
-        Session();
-        const std::string name{parent_.ClassOf()->name};
-        RaiseError(dwErrTargetEmitted, {name}, "the " + name + " is gone; keep the pointer to it");
-    }
-    return parent;
+void Node::CheckParent(const char* className) const {
+    if (const std::shared_ptr<Object> parent = Parent()) return parent->CheckNotEmitted();
+    Session();
+    const std::string name{className};
+    RaiseError(dwErrTargetEmitted, {name}, "the " + name + " is gone; keep the pointer to it");
 }
-
-void Node::CheckNotEmitted() const { RequireParent()->CheckNotEmitted(); }
 
 /// Empty for an object that is not held by any shared pointer.
 std::shared_ptr<Object> Node::Self() const { return const_cast<Node*>(this)->weak_from_this().lock(); }

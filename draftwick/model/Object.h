@@ -25,33 +25,34 @@ class Session;
 
 /// A link to an object that it does not own: it stores the identity and gives a new owning reference on request,
 /// or nothing once the object is gone.
-class DRAFTWICK_API NoRef {
+class NoRef {
 public:
     NoRef() = default;
-    explicit NoRef(const std::shared_ptr<Object>& object);
-    explicit NoRef(const Node& object);
+    explicit NoRef(std::weak_ptr<Object> object) noexcept : object_(std::move(object)) {}
 
     /// The object; empty once it is gone.
     std::shared_ptr<Object> Resolve() const { return object_.lock(); }
-    /// The class of the object, also when the object is gone.
-    const Class* ClassOf() const noexcept { return class_; }
 
 private:
     std::weak_ptr<Object> object_;
-    const Class* class_ = nullptr;
 };
 
-/// What a new object of its own is told at its creation. Only the library makes one, for the length of that call.
+/// What a new object of its own is told at its creation: the session, and the object that it belongs to or that belongs
+/// to the same one. Only the library makes one, for the length of that call.
 class Origin {
     friend class draftwick::Document;
     friend class Node;
     friend class Part;
 
-    explicit Origin(const std::shared_ptr<Session>& session, NoRef parent = {})
-        : session_(session), parent_(std::move(parent)) {}
+    explicit Origin(const std::shared_ptr<Session>& session, const Node* parent = nullptr,
+                    const NoRef* sibling = nullptr)
+        : session_(session), parent_(parent), siblings_(sibling) {}
+
+    inline NoRef Parent() const;
 
     const std::shared_ptr<Session>& session_;
-    NoRef parent_;
+    const Node* parent_;
+    const NoRef* siblings_;
 };
 
 /// What a new part of an object is told at its creation. Only an object makes one.
@@ -96,8 +97,8 @@ protected:
     /// Raises dwErrTargetEmitted once the object is written and can no longer change.
     virtual void CheckNotEmitted() const = 0;
     /// What the objects of one document share. Error 91 when the document is gone, dwErrTargetEmitted ("Document") when
-    /// it was given up.
-    detail::Session& Session() const;
+    /// it was given up. In line, in model/internal/Session.h.
+    inline detail::Session& Session() const;
     virtual const std::shared_ptr<detail::Session>& SharedSession() const noexcept = 0;
     /// What a new object that belongs to this one is told.
     virtual detail::Origin OriginOfChild() const = 0;
@@ -146,6 +147,8 @@ private:
     friend class detail::Node;
     friend class detail::Part;
 
+    [[noreturn]] void RefuseWithoutSession() const;
+
     detail::Session* session_;
 };
 
@@ -155,7 +158,7 @@ namespace detail {
 class DRAFTWICK_API Node : public Object, public std::enable_shared_from_this<Object> {
 public:
     explicit Node(const Origin& origin)
-        : Object(origin.session_.get()), parent_(origin.parent_), keptSession_(origin.session_) {}
+        : Object(origin.session_.get()), parent_(origin.Parent()), keptSession_(origin.session_) {}
 
     std::shared_ptr<Object> Parent() const override { return parent_.Resolve(); }
     std::shared_ptr<Object> Self() const override;
@@ -164,20 +167,28 @@ protected:
     /// An object that needs no document.
     Node() : Object(nullptr) {}
 
-    /// Refused when the parent refuses, and when the parent is gone.
-    void CheckNotEmitted() const override;
-    /// The parent. When it is gone: error 91 if the document is gone too, else dwErrTargetEmitted with the name of
-    /// the parent's class.
-    std::shared_ptr<Object> RequireParent() const;
+    /// Refused when the parent refuses, which is the document where a class says nothing else.
+    void CheckNotEmitted() const override { CheckParent("Document"); }
+    /// As the parent does. When that is gone: error 91 if the document is gone too, else dwErrTargetEmitted with the name
+    /// of the parent's class.
+    void CheckParent(const char* className) const;
     const std::shared_ptr<detail::Session>& SharedSession() const noexcept override { return keptSession_; }
-    Origin OriginOfChild() const override { return Origin(keptSession_, NoRef(*this)); }
+    Origin OriginOfChild() const override { return Origin(keptSession_, this); }
     /// What an object is told that belongs to the same parent: a font belongs to the document.
-    Origin OriginOfSibling() const { return Origin(keptSession_, parent_); }
+    Origin OriginOfSibling() const { return Origin(keptSession_, nullptr, &parent_); }
 
 private:
+    friend class Origin;
+
     NoRef parent_;
     std::shared_ptr<detail::Session> keptSession_;
 };
+
+// An object is changed through references to it, whoever asks for one.
+inline NoRef Origin::Parent() const {
+    if (parent_ != nullptr) return NoRef(const_cast<Node*>(parent_)->weak_from_this());
+    return siblings_ != nullptr ? *siblings_ : NoRef();
+}
 
 /// A part of another object: whoever holds it keeps the whole alive. It refuses when the whole refuses.
 class DRAFTWICK_API Part : public Object {
@@ -191,7 +202,7 @@ protected:
     void CheckNotEmitted() const override { whole_->CheckNotEmitted(); }
     const std::shared_ptr<detail::Session>& SharedSession() const noexcept override;
     /// An object in a collection belongs to the collection's owner.
-    Origin OriginOfChild() const override { return Origin(SharedSession(), NoRef(Parent())); }
+    Origin OriginOfChild() const override { return whole_->OriginOfChild(); }
     /// What the parts in a collection of parts are told: they belong to the collection's owner.
     Owner WholeAsOwner() const noexcept { return Owner(*whole_); }
 

@@ -26,6 +26,12 @@ public:
 
     /// Ends the use of the file and reports what only shows then. A second call does nothing.
     virtual void Close(std::error_code& error) = 0;
+
+    /// Goes on writing so many bytes behind the beginning, over what is there. A file that cannot
+    /// (std::errc::not_supported, the default) is written in two passes.
+    virtual void Seek(std::uint64_t position, std::error_code& error);
+    /// Forces what was written to the disk. std::errc::not_supported by default.
+    virtual void Sync(std::error_code& error);
 };
 
 /// How Create treats a file that is already there, and who may read a new one.
@@ -57,6 +63,9 @@ public:
     /// Gives a file another name in its folder. A regular file of that name is replaced in one step: whoever opens
     /// it, at whatever time, gets the old file or the new one.
     virtual void Rename(const std::string& from, const std::string& to, std::error_code& error) = 0;
+
+    /// Forces the names of the files in a folder to the disk. std::errc::not_supported by default.
+    virtual void SyncFolder(const std::string& folder, std::error_code& error);
 
     /// The name by which any program finds the file: a name that is relative to the current folder gets that folder
     /// in front of it. Whether the file exists does not matter.

@@ -46,7 +46,7 @@ void BlockWriter::AppendLarge(const char* bytes, std::size_t size) {
 }
 
 void BlockWriter::AppendFile(platform::File& source, const std::string& sourceName,
-                             std::uint64_t expectedSize) {
+                             std::uint64_t skipped, std::uint64_t expectedSize) {
     std::uint64_t total = 0;
     for (;;) {
         if (used_ == capacity_) {
@@ -57,8 +57,11 @@ void BlockWriter::AppendFile(platform::File& source, const std::string& sourceNa
         const std::size_t size = source.Read(block_.get() + used_, capacity_ - used_, error);
         if (error) RaiseFileError(error, "read", sourceName);
         if (size == 0) break;
-        used_ += size;
-        total += size;
+        const auto passed = static_cast<std::size_t>(std::min<std::uint64_t>(skipped, size));
+        std::memmove(block_.get() + used_, block_.get() + used_ + passed, size - passed);
+        skipped -= passed;
+        used_ += size - passed;
+        total += size - passed;
     }
     if (total != expectedSize) {
         RaiseFileError(std::make_error_code(std::errc::io_error), "read all of", sourceName);
@@ -85,11 +88,13 @@ void BlockWriter::RetryAndReport() {
     Report();
 }
 
-void BlockWriter::Close() {
+void BlockWriter::Close(bool durable) {
     if (file_ == nullptr) return;
     Flush();
     Report();
     std::error_code error;
+    if (durable) file_->Sync(error);
+    if (error) RaiseFileError(error, "write", name_);
     file_->Close(error);
     file_.reset();
     if (error) RaiseFileError(error, "close", name_);

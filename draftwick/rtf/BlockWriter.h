@@ -26,6 +26,8 @@ public:
     const std::string& Name() const noexcept { return name_; }
     /// How many bytes the file has taken.
     std::uint64_t Written() const noexcept { return written_; }
+    /// What the file has not taken yet.
+    std::string_view Kept() const noexcept { return {block_.get(), used_}; }
 
     void Append(const char* bytes, std::size_t size) {
         if (size > capacity_ - used_) {
@@ -36,17 +38,21 @@ public:
         used_ += size;
     }
 
-    /// Appends all that can be read from another file, through this one's block. Failures are reported at once, and
-    /// so is a file of another size.
-    void AppendFile(platform::File& source, const std::string& sourceName, std::uint64_t expectedSize);
+    /// Appends all that can be read from another file behind so many bytes, through this one's block. Failures are
+    /// reported at once, and so is a file of another size.
+    void AppendFile(platform::File& source, const std::string& sourceName, std::uint64_t skipped,
+                    std::uint64_t expectedSize);
 
     /// Reports the failure of a write since the last Checkpoint, or one that still goes on: FileError, or std::bad_alloc
     /// for a file that memory is too small for.
     void Checkpoint() {
         if (failure_ || used_ > BlockSize) RetryAndReport();
     }
-    /// Writes what is left and closes the file. After a failure the file is still open and nothing is lost.
-    void Close();
+    /// Writes what is left and closes the file, on the disk if `durable`. After a failure to write the file is still
+    /// open and nothing is lost.
+    void Close(bool durable = false);
+    /// Closes the file without what is left, which stays.
+    void CloseUnwritten() noexcept { file_.reset(); }
 
 private:
     static constexpr std::size_t BlockSize = std::size_t{64} * 1024;

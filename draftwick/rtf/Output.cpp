@@ -46,10 +46,26 @@ char* PutEscape(char* to, char32_t character) {
 
 BlockWriter* Output::SetStream(BlockWriter* stream) noexcept { return std::exchange(stream_, stream); }
 
-void Output::WriteText(std::string_view text) {
+void Output::WriteControlWords(std::string_view words) {
+    while (!words.empty()) {
+        // Up to the first word that makes the line a long one.
+        const std::size_t end = std::min(words.find('\\', LongLine - length_), words.size());
+        std::memmove(line_ + length_, words.data(), end);
+        length_ += end;
+        afterControlWord_ = true;
+        EndAppend();
+        words.remove_prefix(end);
+    }
+}
+
+void Output::WriteText(std::string_view text, Letters letters) {
     if (afterControlWord_) line_[length_++] = ' ';
-    AppendEncoded(text);
-    FlushLongLine();
+    if (letters == Letters::Ascii) {
+        AppendAscii(text);
+    } else {
+        AppendEncoded(text);
+    }
+    if (spilled_ || length_ >= LongLine) FlushLongLine();
     afterControlWord_ = false;
 }
 
@@ -65,6 +81,7 @@ void Output::FlushLine() {
         Send("\r\n", 2);
     }
     length_ = 0;
+    ++lines_;
 }
 
 void Output::Keep() {
@@ -101,28 +118,42 @@ void Output::AppendNumber(std::int32_t number) {
     EndAppend();
 }
 
-void Output::AppendEncoded(std::string_view text) {
-    static_assert(platform::LongestAnsiCharacter <= LongestEscape);
-    std::size_t at = 0;
-    while (at < text.size()) {
-        if (Room - length_ < 8) MakeRoom();
-        const std::uint64_t bytes = NextBytes(text, at);
-        PutBytes(bytes, line_ + length_);
-        const std::size_t ascii = std::min(CountBytes(bytes), text.size() - at);
-        length_ += ascii;
-        at += ascii;
-        if (ascii == 8 || at == text.size()) continue;
-        if (Room - length_ < LongestEscape) MakeRoom();
-        char* const to = line_ + length_;
-        const char32_t character = DecodeUtf8(text, at);
-        if (standard_) {
-            length_ += static_cast<std::size_t>(PutEscape(to, character) - to);
-        } else {
-            const std::size_t size = platform::EncodeAnsi(character, to);
-            if (size == 1 && *to == '?' && stream_ != nullptr) ++lost_;
-            length_ += size;
-        }
+void Output::AppendAscii(std::string_view text) {
+    while (!text.empty()) {
+        if (length_ > Room / 2) MakeRoom();
+        const std::size_t size = std::min(text.size(), Room - length_);
+        std::memmove(line_ + length_, text.data(), size);  // memcpy of some bytes is slower where the compiler has it in line
+        length_ += size;
+        text.remove_prefix(size);
     }
+}
+
+void Output::AppendEncoded(std::string_view text) {
+    // In pieces that have room, whatever their characters become.
+    constexpr std::size_t Piece = 64;
+    constexpr std::size_t MostPerByte = std::max<std::size_t>(platform::LongestAnsiCharacter, LongestEscape / 4);
+    static_assert(Piece * MostPerByte + LongestEscape <= Room / 2);
+    for (std::size_t at = 0; at < text.size();) {
+        if (length_ > Room / 2) MakeRoom();
+        char* to = line_ + length_;
+        for (const std::size_t end = std::min(at + Piece, text.size()); at < end;) {
+            const std::uint64_t bytes = NextBytes(text, at);
+            PutBytes(bytes, to);
+            const std::size_t ascii = CountBytes(bytes);
+            to += ascii;
+            at += ascii;
+            if (ascii < 8) to = PutEncoded(DecodeUtf8(text, at), to);
+        }
+        if (at > text.size()) to -= at - text.size();  // behind the text there were zeros
+        length_ = static_cast<std::size_t>(to - line_);
+    }
+}
+
+char* Output::PutEncoded(char32_t character, char* to) {
+    if (standard_) return PutEscape(to, character);
+    const std::size_t size = platform::EncodeAnsi(character, to);
+    if (size == 1 && *to == '?' && (stream_ != nullptr || !kept_.empty())) ++lost_;
+    return to + size;
 }
 
 /// Sends the beginning of a line that is going to be a long one. A CR at the end waits for its LF.
@@ -137,11 +168,11 @@ void Output::MakeRoom() {
 }
 
 void Output::FlushLongLine() {
-    if (!spilled_ && length_ < LongLine) return;
     DropLineBreaks();
     Send(line_, length_);
     Send("\r\n", 2);
     length_ = 0;
+    ++lines_;
     spilled_ = false;
     afterControlWord_ = false;
 }

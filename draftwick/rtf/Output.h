@@ -1,6 +1,7 @@
 #pragma once
 
 #include <draftwick/rtf/BlockWriter.h>
+#include <draftwick/text/Scripts.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -38,8 +39,21 @@ public:
         BeginControlWord(word);
         AppendNumber(number);
     }
+    /// Control words that were written before, each as an append of its own.
+    void WriteControlWords(std::string_view words);
+    /// A place on a line.
+    struct Place {
+        std::uint64_t line;
+        std::size_t position;
+    };
+    Place Here() const noexcept { return {lines_, length_}; }
+    /// What was written since then; empty when a line ended in between.
+    std::string_view WordsSince(Place start) const noexcept {
+        if (start.line != lines_) return {};
+        return {line_ + start.position, length_ - start.position};
+    }
     /// UTF-8 text that is already escaped, after one space if a control word comes before it.
-    void WriteText(std::string_view text);
+    void WriteText(std::string_view text, Letters letters = Letters::Any);
     void WriteGroupStart() { WriteBrace('{'); }
     /// "{\*". Whether a control word came last stays as it was.
     void WriteDestinationStart();
@@ -57,7 +71,6 @@ public:
     }
     /// How many characters the file could not hold: "?" stands in their place.
     std::uint64_t Lost() const noexcept { return lost_; }
-    void SetLost(std::uint64_t lost) noexcept { lost_ = lost; }
 
 private:
     // Between two appends the line holds less than LongLine characters, and no control word is longer than a few
@@ -77,7 +90,9 @@ private:
     void EndAppend() {
         if (length_ >= LongLine) FlushLongLine();
     }
+    void AppendAscii(std::string_view text);
     void AppendEncoded(std::string_view text);
+    char* PutEncoded(char32_t character, char* to);
     void Send(const char* bytes, std::size_t size);
     void MakeRoom();
     void FlushLongLine();
@@ -90,6 +105,7 @@ private:
     std::vector<std::string> kept_;
     std::size_t length_ = 0;
     std::uint64_t lost_ = 0;
+    std::uint64_t lines_ = 0;  // that ended
     bool afterControlWord_ = false;
     bool standard_ = false;
     bool spilled_ = false;  // the line is longer than the buffer: its beginning is on its way already

@@ -6,6 +6,8 @@
 #include <draftwick/rtf/ListNumbers.h>
 #include <draftwick/rtf/Output.h>
 #include <draftwick/rtf/Words.h>
+#include <draftwick/text/Escape.h>
+#include <draftwick/text/Scripts.h>
 
 #include <cstdint>
 #include <string>
@@ -24,11 +26,16 @@ struct Collections;
 /// call says which.
 class RtfWriter {
 public:
+    /// Words that are written again and again, once they are known.
+    using WordsByIndex = std::vector<std::string>;
+
     Output output;
     ColorTable colors;
     LayoutState layout;
     ListNumbers lists;
     const Collections* names = nullptr;
+    WordsByIndex plainParagraphs;  ///< of paragraphs without a format of their own
+    WordsByIndex styledRuns;       ///< of runs that have nothing but a text style, by its index
     bool hasFrame = false;  ///< a paragraph was written that stands in a frame
 
     /// From now on all is spelled as RTF 1.9.1 has it. Before the first word.
@@ -36,6 +43,16 @@ public:
         output.UseStandardSpelling();
         colors.ReserveFirst();
         lists.CountDown();
+    }
+    /// Another one for the header, which goes nowhere yet: it knows what this one has noted, and changes nothing of it.
+    RtfWriter ForHeader() const {
+        RtfWriter writer;
+        if (Standard()) writer.output.UseStandardSpelling();
+        writer.colors = colors;
+        writer.lists = lists;
+        writer.names = names;
+        writer.hasFrame = hasFrame;
+        return writer;
     }
     /// Where the spellings differ in more than a word.
     bool Standard() const noexcept { return output.Standard(); }
@@ -77,6 +94,15 @@ public:
         }
     }
     void Toggle(std::string_view word, bool on) { Toggle(Spelled{word, word}, on); }
+    /// What `write` writes, which is control words and the same each time: from the second time on it is copied.
+    template <class Write>
+    void RepeatWords(WordsByIndex& known, std::size_t index, Write&& write) {
+        if (index < known.size() && !known[index].empty()) return output.WriteControlWords(known[index]);
+        if (index >= known.size()) known.resize(index + 1);
+        const Output::Place start = output.Here();
+        std::forward<Write>(write)();
+        known[index] = output.WordsSince(start);
+    }
     /// "\word" with the index of a colour, which is registered if it is new.
     void Color(const Spelled& word, std::int32_t color) {
         if (!Of(word).empty()) Word(Of(word), colors.GetColorIndex(color));
@@ -91,6 +117,15 @@ public:
     void Name(std::string_view name);
     /// Likewise with the semicolon that ends it in a table.
     void Entry(std::string_view name);
+    /// Calls with the text in its RTF form and what characters that has.
+    template <class Use>
+    void WithEscaped(std::string_view text, Use&& use) {
+        escaped_.clear();
+        const Letters letters =
+            AppendEscaped(escaped_, text, Standard() ? Escaping::Lines : Escaping::Classic);
+        std::forward<Use>(use)(std::string_view{escaped_}, letters);
+        if (escaped_.capacity() > MostEscapedKept) std::string{}.swap(escaped_);
+    }
     /// UTF-8 text as it is: RTF already.
     void Raw(std::string_view text) { output.WriteText(text); }
 
@@ -166,6 +201,9 @@ public:
     }
 
 private:
+    static constexpr std::size_t MostEscapedKept = 16 * 1024;
+
+    std::string escaped_;  // its memory serves one text after the other
     std::vector<RowState> outerRows_;
     std::vector<LayoutState> outerStories_;
 };

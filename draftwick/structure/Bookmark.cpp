@@ -1,4 +1,5 @@
 #include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Bookmark.h>
 #include <draftwick/structure/internal/Writers.h>
 #include <draftwick/text/Utf8.h>

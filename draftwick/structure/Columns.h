@@ -27,6 +27,9 @@ public:
     static const Class& Describe();
     const Class& Description() const override { return Describe(); }
 
+protected:
+    void CheckNotEmitted() const override { CheckParent("Section"); }
+
 private:
     friend struct detail::Access;
 

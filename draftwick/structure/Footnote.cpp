@@ -1,6 +1,7 @@
 #include <draftwick/content/Paragraph.h>
 #include <draftwick/content/internal/Members.h>
 #include <draftwick/model/internal/ClassTable.h>
+#include <draftwick/model/internal/Session.h>
 #include <draftwick/structure/Footnote.h>
 #include <draftwick/structure/internal/Writers.h>
 

@@ -31,9 +31,14 @@ char32_t Fold(char32_t character) {
 }  // namespace
 
 std::string FoldCase(std::string_view utf8) {
-    std::string folded;
-    folded.reserve(utf8.size());
-    for (std::size_t position = 0; position < utf8.size();) {
+    std::string folded{utf8};
+    std::size_t position = 0;
+    for (; position < folded.size() && static_cast<unsigned char>(folded[position]) < 0x80; ++position) {
+        char& c = folded[position];
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
+    }
+    folded.resize(position);
+    while (position < utf8.size()) {
         const char c = utf8[position];
         if (static_cast<unsigned char>(c) < 0x80) {
             folded.push_back(c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c);

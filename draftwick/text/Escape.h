@@ -1,5 +1,7 @@
 #pragma once
 
+#include <draftwick/text/Scripts.h>
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -15,8 +17,8 @@ enum class Escaping {
 
 /// Appends the host's text in its RTF form to `to`: "\", "{" and "}" get a backslash, a tab becomes "\tab ", malformed
 /// UTF-8 becomes U+FFFD. Nothing else but line breaks changes: other control characters and characters above 127 pass
-/// through. Whether there is a character that text/Scripts.h tells more of than Western ones.
-bool AppendEscaped(std::string& to, std::string_view text, Escaping how = Escaping::Classic);
+/// through. Tells what characters there are.
+Letters AppendEscaped(std::string& to, std::string_view text, Escaping how = Escaping::Classic);
 std::string EscapeText(std::string_view text, Escaping how = Escaping::Classic);
 
 /// The RTF escape of one byte: \' and upper-case hexadecimal without a leading zero. Error 6 outside of a byte.

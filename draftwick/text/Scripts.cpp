@@ -74,10 +74,10 @@ std::size_t FindDirection(std::string_view text, Scripts& scripts) {
 
 }  // namespace
 
-Scripts ScriptsOf(std::string_view text, bool onlyDirection) {
+Scripts ScriptsOf(std::string_view text, Letters letters) {
     Scripts scripts;
     std::size_t at = FindDirection(text, scripts);
-    if (onlyDirection || at >= text.size()) return scripts;
+    if (letters != Letters::Any || at >= text.size()) return scripts;
     while ((at = SkipAscii(text, at)) < text.size()) Note(DecodeUtf8(text, at), scripts);
     return scripts;
 }

@@ -13,6 +13,15 @@ struct Scripts {
     bool rightToLeft = false;  ///< has Hebrew, Arabic or another script that runs to the left
     bool complex = false;      ///< has Devanagari, Thai or another script of India and South-East Asia
     bool eastAsian = false;    ///< has Chinese, Japanese or Korean
+
+    bool Any() const noexcept { return rightToLeft || complex || eastAsian; }
+};
+
+/// What the characters of a text are, at most.
+enum class Letters : unsigned char {
+    Ascii,
+    Western,  ///< none that needs more than left-to-right text of one script does
+    Any,
 };
 
 /// Whether a character that begins with this byte in UTF-8 can be of a script that runs to the left, or East Asian: those
@@ -23,7 +32,7 @@ constexpr bool MayNeedScripts(char first) noexcept {
 }
 
 /// Of a text in its RTF form, whose control words do not count. By blocks of Unicode, not by the properties of each
-/// character: what is no letter may count as one. With `onlyDirection` the text is known to be Western.
-Scripts ScriptsOf(std::string_view text, bool onlyDirection = false);
+/// character: what is no letter may count as one.
+Scripts ScriptsOf(std::string_view text, Letters letters = Letters::Any);
 
 }  // namespace draftwick

@@ -5,6 +5,13 @@
 
 namespace draftwick {
 
+std::uint64_t LastBytes(std::string_view text, std::size_t count) noexcept {
+    if (text.size() >= 8) return EightBytes(text.data() + text.size() - 8) >> (8 * (8 - count));
+    std::uint64_t bytes = 0;
+    for (std::size_t i = text.size(); count-- > 0;) bytes = bytes << 8 | static_cast<unsigned char>(text[--i]);
+    return bytes;
+}
+
 std::size_t SkipAscii(std::string_view text, std::size_t position) {
     while (position < text.size()) {
         const std::size_t ascii = CountBytes(NextBytes(text, position));
@@ -82,23 +89,7 @@ std::size_t ValidLength(std::string_view text) {
 
 }  // namespace
 
-char32_t DecodeUtf8(std::string_view text, std::size_t& position) {
-    // Nearly all characters that are not ASCII have two bytes, from C2 on, or three.
-    const std::uint64_t bytes = NextBytes(text, position);
-    const auto bits = [bytes](int byte, unsigned mask) {
-        return static_cast<char32_t>(bytes >> 8 * byte) & mask;
-    };
-    if ((bytes & 0xC0E0) == 0x80C0 && bits(0, 0x1E) != 0) {
-        position += 2;
-        return bits(0, 0x1F) << 6 | bits(1, 0x3F);
-    }
-    if ((bytes & 0xC0C0F0) == 0x8080E0) {
-        const char32_t character = bits(0, 0x0F) << 12 | bits(1, 0x3F) << 6 | bits(2, 0x3F);
-        if (character >= 0x800 && (character < 0xD800 || character > 0xDFFF)) {
-            position += 3;
-            return character;
-        }
-    }
+char32_t DecodeAnyUtf8(std::string_view text, std::size_t& position) noexcept {
     return Decode(text, position).character;
 }
 

@@ -6,6 +6,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -18,7 +19,7 @@ inline constexpr char32_t ReplacementCharacter = U'\uFFFD';
 /// behind it. UTF-8 is read strictly: overlong forms, surrogates, values above U+10FFFF, stray continuation
 /// bytes and sequences that are cut short are malformed. Each longest piece of the text that begins like a
 /// character and is none counts as one U+FFFD, as The Unicode Standard recommends in section 3.9.
-DRAFTWICK_API char32_t DecodeUtf8(std::string_view text, std::size_t& position);
+inline char32_t DecodeUtf8(std::string_view text, std::size_t& position) noexcept;
 
 /// Appends the character in UTF-8; U+FFFD for a surrogate or a value above U+10FFFF.
 DRAFTWICK_API void AppendUtf8(std::string& text, char32_t character);
@@ -30,27 +31,54 @@ DRAFTWICK_API std::size_t SkipAscii(std::string_view text, std::size_t position)
 
 /// The number of which each byte is the given one.
 constexpr std::uint64_t InEachByte(std::uint64_t byte) noexcept { return byte * 0x0101010101010101; }
-inline std::uint64_t EightBytes(const char* text) noexcept {
-    const auto at = [text](int i) { return std::uint64_t{static_cast<unsigned char>(text[i])} << (8 * i); };
-    return at(0) | at(1) | at(2) | at(3) | at(4) | at(5) | at(6) | at(7);
+inline std::uint64_t LowestFirst(std::uint64_t bytes) noexcept {
+    if constexpr (std::endian::native == std::endian::little) return bytes;
+    std::uint64_t turned = 0;
+    for (int i = 0; i < 8; ++i) turned = turned << 8 | (bytes >> (8 * i) & 0xFF);
+    return turned;
 }
+inline std::uint64_t EightBytes(const char* text) noexcept {
+    std::uint64_t bytes;
+    std::memcpy(&bytes, text, sizeof bytes);
+    return LowestFirst(bytes);
+}
+/// The last bytes of a text, less than eight.
+DRAFTWICK_API std::uint64_t LastBytes(std::string_view text, std::size_t count) noexcept;
 /// The eight bytes at a position, which must be less than the length of the text. Behind its end there are zeros.
 inline std::uint64_t NextBytes(std::string_view text, std::size_t position) noexcept {
     const std::size_t left = text.size() - position;
-    if (left >= 8) return EightBytes(text.data() + position);
-    if (text.size() >= 8) return EightBytes(text.data() + text.size() - 8) >> (8 * (8 - left));
-    std::uint64_t bytes = 0;
-    for (std::size_t i = text.size(); i-- > position;)
-        bytes = bytes << 8 | static_cast<unsigned char>(text[i]);
-    return bytes;
+    return left >= 8 ? EightBytes(text.data() + position) : LastBytes(text, left);
 }
 inline void PutBytes(std::uint64_t bytes, char* to) noexcept {
-    const auto put = [&](int i) { to[i] = static_cast<char>(bytes >> (8 * i)); };
-    put(0), put(1), put(2), put(3), put(4), put(5), put(6), put(7);
+    bytes = LowestFirst(bytes);
+    std::memcpy(to, &bytes, sizeof bytes);
 }
 /// How many bytes come before the first one whose highest bit is set.
 inline std::size_t CountBytes(std::uint64_t bytes) noexcept {
     return static_cast<std::size_t>(std::countr_zero(bytes & InEachByte(0x80))) / 8;
+}
+
+/// DecodeUtf8 for every character, the rare and the malformed ones, too.
+DRAFTWICK_API char32_t DecodeAnyUtf8(std::string_view text, std::size_t& position) noexcept;
+
+inline char32_t DecodeUtf8(std::string_view text, std::size_t& position) noexcept {
+    // Nearly all characters that are not ASCII have two bytes, from C2 on, or three.
+    const std::uint64_t bytes = NextBytes(text, position);
+    const auto bits = [bytes](int byte, unsigned mask) {
+        return static_cast<char32_t>(bytes >> 8 * byte) & mask;
+    };
+    if ((bytes & 0xC0E0) == 0x80C0 && bits(0, 0x1E) != 0) {
+        position += 2;
+        return bits(0, 0x1F) << 6 | bits(1, 0x3F);
+    }
+    if ((bytes & 0xC0C0F0) == 0x8080E0) {
+        const char32_t character = bits(0, 0x0F) << 12 | bits(1, 0x3F) << 6 | bits(2, 0x3F);
+        if (character >= 0x800 && (character < 0xD800 || character > 0xDFFF)) {
+            position += 3;
+            return character;
+        }
+    }
+    return DecodeAnyUtf8(text, position);
 }
 
 DRAFTWICK_API bool IsValidUtf8(std::string_view text);

@@ -7,7 +7,9 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <locale>
 #include <optional>
+#include <sstream>
 
 namespace draftwick {
 
@@ -27,10 +29,12 @@ std::string_view Trimmed(std::string_view text) {
 /// The finite number that a whole text stands for.
 std::optional<double> ParseNumber(std::string_view text) {
     text = Trimmed(text);
-    if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+    if (text.find_first_not_of("0123456789+-.eE") != text.npos) return {};
+    // libc++ before 20 has no std::from_chars for it.
+    std::istringstream stream{std::string{text}};
+    stream.imbue(std::locale::classic());
     double number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size() || !std::isfinite(number)) return {};
+    if (!(stream >> number) || stream.peek() != std::istringstream::traits_type::eof()) return {};
     return number;
 }
 

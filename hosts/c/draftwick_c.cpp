@@ -1,10 +1,10 @@
 #include <hosts/c/include/draftwick/draftwick_c.h>
 
 #include <hosts/model/Json.h>
-#include <hosts/model/Names.h>
 
 #include <draftwick/draftwick.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <map>
@@ -13,7 +13,6 @@
 #include <string>
 #include <system_error>
 #include <type_traits>
-#include <vector>
 
 using namespace draftwick;
 
@@ -23,15 +22,13 @@ struct dw_object {
 
 namespace {
 
-struct LastError {
+thread_local struct {
     dw_error error{0, "", "", "", ""};
     std::string text, source, advice, file;
-};
-thread_local LastError lastError;
+} last;
 
 dw_status Keep(dw_status status, std::int32_t number, std::string_view text, std::string_view source = {},
                std::string_view advice = {}, std::string_view file = {}) noexcept {
-    LastError& last = lastError;
     last.error = {number, "", "", "", ""};
     try {
         last.text = text, last.source = source, last.advice = advice, last.file = file;
@@ -93,45 +90,24 @@ Variant Receive(const dw_value& value) {
 /// Nothing is given away before all of it is there.
 dw_value Send(Variant&& from) {
     dw_value to{};
-    std::visit(
-        [&to](auto& plain) {
-            using Plain = std::decay_t<decltype(plain)>;
-            if constexpr (std::is_same_v<Plain, bool>) {
-                to.kind = DW_BOOLEAN;
-                to.as.boolean = plain ? 1 : 0;
-            } else if constexpr (std::is_same_v<Plain, std::int32_t>) {
-                to.kind = DW_NUMBER;
-                to.as.number = plain;
-            } else if constexpr (std::is_same_v<Plain, double>) {
-                to.kind = DW_REAL;
-                to.as.real = plain;
-            } else if constexpr (std::is_same_v<Plain, std::string>) {
-                char* copy = new char[plain.size() + 1];
-                std::memcpy(copy, plain.c_str(), plain.size() + 1);
-                to.kind = DW_TEXT;
-                to.as.text = {copy, plain.size()};
-            } else if constexpr (std::is_same_v<Plain, Date>) {
-                to.kind = DW_DATE;
-                to.as.date = {plain.year, plain.month, plain.day, plain.hour, plain.minute, plain.second};
-            } else if constexpr (!std::is_same_v<Plain, std::monostate>) {
-                to.kind = DW_OBJECT;
-                to.as.object = new dw_object{std::move(plain)};
-            }
-        },
-        from);
-    return to;
-}
-
-Variant CallWith(Object& object, std::string_view method, const dw_value* arguments, size_t count) {
-    constexpr std::size_t Usual = 4;
-    if (count <= Usual) {
-        std::array<Variant, Usual> values;
-        for (std::size_t i = 0; i < count; ++i) values[i] = Receive((&Given(arguments))[i]);
-        return Call(object, method, std::span<const Variant>{values.data(), count});
+    if (const auto* on = std::get_if<bool>(&from)) to.as.boolean = *on ? 1 : 0;
+    if (const auto* number = std::get_if<std::int32_t>(&from)) to.as.number = *number;
+    if (const auto* real = std::get_if<double>(&from)) to.as.real = *real;
+    if (const auto* text = std::get_if<std::string>(&from)) {
+        char* copy = new char[text->size() + 1];
+        std::memcpy(copy, text->c_str(), text->size() + 1);
+        to.as.text = {copy, text->size()};
     }
-    std::vector<Variant> values;
-    for (std::size_t i = 0; i < count; ++i) values.push_back(Receive((&Given(arguments))[i]));
-    return Call(object, method, values);
+    if (const auto* date = std::get_if<Date>(&from))
+        to.as.date = {date->year, date->month, date->day, date->hour, date->minute, date->second};
+    if (auto* object = std::get_if<std::shared_ptr<Object>>(&from))
+        to.as.object = new dw_object{std::move(*object)};
+    // The kinds are the alternatives of a Variant, in its order.
+    static_assert(
+        std::is_same_v<std::variant_alternative_t<DW_TEXT, Variant>,
+                       std::string> && std::is_same_v<std::variant_alternative_t<DW_DATE, Variant>, Date>);
+    to.kind = static_cast<std::int32_t>(from.index());
+    return to;
 }
 
 }  // namespace
@@ -146,10 +122,11 @@ const char* dw_describe(void) {
 dw_status dw_create(const char* class_name, dw_object** object) {
     return Guarded([&] {
         Given(object) = nullptr;
-        const Class* found = hosts::FindClass(Name(class_name));
-        if (found == nullptr || found->create == nullptr)
-            detail::RaiseRuntimeError(dwRunCannotCreateObject, class_name);
-        *object = new dw_object{found->create()};
+        const std::string_view wanted = Name(class_name);
+        for (const Class* one : Classes()) {
+            if (one->name == wanted && one->create != nullptr) *object = new dw_object{one->create()};
+        }
+        if (*object == nullptr) detail::RaiseRuntimeError(dwRunCannotCreateObject, class_name);
     });
 }
 
@@ -189,7 +166,10 @@ dw_status dw_call(dw_object* object, const char* method, const dw_value* argumen
                   dw_value* result) {
     return Guarded([&] {
         if (result != nullptr) *result = {};
-        Variant given = CallWith(*Given(object).object, Name(method), arguments, count);
+        std::array<Variant, 8> values;  // more than any member takes: the library refuses what is too much
+        count = std::min(count, values.size());
+        for (std::size_t i = 0; i < count; ++i) values[i] = Receive((&Given(arguments))[i]);
+        Variant given = Call(*Given(object).object, Name(method), std::span{values.data(), count});
         if (result != nullptr) *result = Send(std::move(given));
     });
 }
@@ -212,4 +192,4 @@ void dw_clear(dw_value* value) {
     *value = {};
 }
 
-const dw_error* dw_last_error(void) { return &lastError.error; }
+const dw_error* dw_last_error(void) { return &last.error; }

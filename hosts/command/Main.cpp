@@ -1,3 +1,4 @@
+#include "hosts/command/Clean.h"
 #include "hosts/command/Json.h"
 #include "hosts/command/JsonDocument.h"
 #include "hosts/command/Merge.h"
@@ -65,6 +66,7 @@ int Run(int argc, char** argv) {
         const Options options = ReadOptions(argc, argv);
         switch (options.task) {
         case Options::Task::Help: std::cout << HelpText(); break;
+        case Options::Task::Clean: Clean(options.input); break;
         case Options::Task::Schema: std::cout << JsonSchema(); break;
         case Options::Task::Version:
             std::cout << "draftwick " << VersionMajor << '.' << VersionMinor << '.' << VersionRevision

@@ -20,6 +20,7 @@ enum Code : int {
     SpellingCode,
     GoOnCode,
     SchemaCode,
+    CleanCode,
     QuietCode,
     VersionCode
 };
@@ -36,6 +37,7 @@ const option longOptions[] = {{"output", required_argument, nullptr, 'o'},
                               {"jobs", required_argument, nullptr, 'j'},
                               {"quiet", no_argument, nullptr, QuietCode},
                               {"schema", no_argument, nullptr, SchemaCode},
+                              {"clean", required_argument, nullptr, CleanCode},
                               {"help", no_argument, nullptr, 'h'},
                               {"version", no_argument, nullptr, VersionCode},
                               {nullptr, 0, nullptr, 0}};
@@ -93,6 +95,10 @@ Options ReadOptions(int argc, char** argv) {
             break;
         }
         case SchemaCode: options.task = Options::Task::Schema; return options;
+        case CleanCode:
+            options.task = Options::Task::Clean;
+            options.input = value;
+            return options;
         case 'h': options.task = Options::Task::Help; return options;
         case VersionCode: options.task = Options::Task::Version; return options;
         case ':': throw UsageError(asked + " wants a value");
@@ -132,6 +138,8 @@ Writes Markdown, or a document in JSON, as RTF that word processors open.
       --quiet           no progress
       --spelling NAME   standard (default), or classic for readers that need it
       --schema          print the JSON Schema of documents in JSON
+      --clean FOLDER    delete what killed processes left there of documents, and nobody
+                        has written to for a day: ~dw1.tmp, ~dwout1.tmp, ~DWGC1.tmp ...
   -h, --help            print this
       --version         print the version
 

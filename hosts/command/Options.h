@@ -11,9 +11,9 @@ namespace draftwick::command {
 
 /// What the command line asks for.
 struct Options {
-    enum class Task { Write, Schema, Help, Version };
+    enum class Task { Write, Clean, Schema, Help, Version };
     Task task = Task::Write;
-    std::string input;   ///< "-": standard input
+    std::string input;   ///< "-": standard input; the folder to be cleaned
     std::string output;  ///< "-": standard output; with {column}: a name for each row
     std::string data;    ///< rows; empty: none
     std::vector<std::string> styles;

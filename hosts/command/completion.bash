@@ -16,7 +16,7 @@ _draftwick() {
     *)
         if [[ $current == -* ]]; then
             mapfile -t COMPREPLY < <(compgen -W "--output --style --page --set --toc --number-sections --data --continue \
-                --jobs --quiet --spelling --schema --help --version" -- "$current")
+                --jobs --quiet --spelling --schema --clean --help --version" -- "$current")
         else
             mapfile -t COMPREPLY < <(compgen -f -- "$current")
         fi

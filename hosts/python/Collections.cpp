@@ -1,21 +1,19 @@
-#include <hosts/python/Errors.h>
-#include <hosts/python/Types.h>
-#include <hosts/python/Values.h>
+#include <hosts/python/Extension.h>
 
 /// Collections as Python has them: by position from 0, by name or by the value of an enumeration.
 namespace draftwick::python {
 
 namespace {
 
-const PythonMethod& ItemsOf(PyObject* self) {
+const Member<ClassMethod>& ItemsOf(PyObject* self) {
     return *Module().classes.at(&AsWrapper(self).object->Description()).items;
 }
 
 std::int32_t CountOf(PyObject* self) { return std::get<std::int32_t>(Get(Use(self), "Count")); }
 
 PyObject* Item(PyObject* self, Variant index) {
-    const PythonMethod& items = ItemsOf(self);
-    return ToPython(items.row->call(Use(self), {&index, 1}), items.result, AsWrapper(self).keeper);
+    const auto& items = ItemsOf(self);
+    return ToPython(items.row->call(Use(self), {&index, 1}), items.type, AsWrapper(self).keeper);
 }
 
 /// The position from 1 of one from 0, or from the end.
@@ -23,8 +21,7 @@ std::int32_t PositionFrom(PyObject* self, std::int32_t index) {
     const std::int32_t count = CountOf(self);
     const std::int32_t position = index < 0 ? index + count : index;
     if (position >= 0 && position < count) return position + 1;
-    RaisePython(PyExc_IndexError,
-                "there is no item " + std::to_string(index) + " among " + std::to_string(count));
+    RaisePython(PyExc_IndexError, "there is no item %d among %d", index, count);
 }
 
 Py_ssize_t Length(PyObject* self) {
@@ -33,10 +30,10 @@ Py_ssize_t Length(PyObject* self) {
 
 PyObject* Subscript(PyObject* self, PyObject* key) {
     return Guarded([&] {
-        if (reinterpret_cast<PyObject*>(Py_TYPE(key)) == reinterpret_cast<PyObject*>(&PySlice_Type))
+        if (Py_IS_TYPE(key, &PySlice_Type))
             RaisePython(PyExc_TypeError, "a collection has no slices: take list(collection)[...]");
         const draftwick::Type& wanted = *ItemsOf(self).row->arguments[0].type;
-        Variant index = FromPython(key, &wanted, Use(self));
+        Variant index = FromPython(key, wanted, Use(self));
         auto* position = std::get_if<std::int32_t>(&index);
         if (position == nullptr && !(std::holds_alternative<std::string>(index) && wanted.kind == Kind::Key))
             RaisePython(PyExc_TypeError,
@@ -79,11 +76,11 @@ int Contains(PyObject* self, PyObject* wanted) {
 
 }  // namespace
 
-void AddItems(const PythonClass&, std::vector<PyType_Slot>& slots) {
-    slots.push_back({Py_mp_length, Slot(Length)});
-    slots.push_back({Py_mp_subscript, Slot(Subscript)});
-    slots.push_back({Py_tp_iter, Slot(Iterate)});
-    slots.push_back({Py_sq_contains, Slot(Contains)});
+std::vector<PyType_Slot> ItemSlots() {
+    return {{Py_mp_length, Slot(Length)},
+            {Py_mp_subscript, Slot(Subscript)},
+            {Py_tp_iter, Slot(Iterate)},
+            {Py_sq_contains, Slot(Contains)}};
 }
 
 }  // namespace draftwick::python

@@ -1,7 +1,4 @@
-#include <hosts/python/Errors.h>
-#include <hosts/python/Names.h>
-#include <hosts/python/Types.h>
-#include <hosts/python/Values.h>
+#include <hosts/python/Extension.h>
 
 #include <algorithm>
 #include <array>
@@ -12,142 +9,93 @@ namespace draftwick::python {
 
 namespace {
 
-/// What a property with an argument gives: shape.adjust_values[1] = 5400.
-struct Indexed {
-    PyObject_HEAD PyObject* owner;
-    const PythonProperty* property;
-};
-Indexed& AsIndexed(PyObject* object) { return *reinterpret_cast<Indexed*>(object); }
-
 PyObject* GetAttribute(PyObject* self, void* closure) {
     return Guarded([&] {
-        const auto& property = *static_cast<const PythonProperty*>(closure);
+        const auto& property = *static_cast<const Member<ClassProperty>*>(closure);
         return ToPython(property.row->get(Use(self), {}), property.type, AsWrapper(self).keeper);
     });
 }
 
 int SetAttribute(PyObject* self, PyObject* value, void* closure) {
     return Guarded(-1, [&] {
-        const auto& property = *static_cast<const PythonProperty*>(closure);
-        if (value == nullptr) RaisePython(PyExc_AttributeError, property.name + " cannot be deleted");
-        const Variant plain = FromPython(value, property.row->type, Use(self));
+        const auto& property = *static_cast<const Member<ClassProperty>*>(closure);
+        if (value == nullptr) RaisePython(PyExc_AttributeError, "%s cannot be deleted", property.name);
+        const Variant plain = FromPython(value, *property.row->type, Use(self));
         property.row->set(Use(self), {&plain, 1});
         return 0;
     });
 }
 
+/// What a property with an argument gives: shape.adjust_values[1] = 5400.
 PyObject* GetIndexed(PyObject* self, void* closure) {
     return Guarded([&] {
-        PyObject* made = Checked(PyType_GenericAlloc(Module().indexed, 0));
-        AsIndexed(made).owner = Py_NewRef(self);
-        AsIndexed(made).property = static_cast<const PythonProperty*>(closure);
-        return made;
+        const std::string name{static_cast<const Member<ClassProperty>*>(closure)->row->name};
+        return Checked(PyObject_CallFunction(Module().indexed, "Os", self, name.c_str()));
     });
 }
 
-PyObject* GetAt(PyObject* self, PyObject* key) {
-    return Guarded([&] {
-        const PythonProperty& property = *AsIndexed(self).property;
-        PyObject* owner = AsIndexed(self).owner;
-        const Variant index = FromPython(key, property.row->arguments[0].type, Use(owner));
-        return ToPython(property.row->get(Use(owner), {&index, 1}), property.type, AsWrapper(owner).keeper);
-    });
+/// What a call gives that is no argument of the method is set on what it gives: add_cell(width=2). Refused before anything
+/// is added.
+void KeepSetting(const Member<ClassMethod>& method, Owned& settings, PyObject* name, PyObject* value) {
+    auto* const type = reinterpret_cast<PyObject*>(method.type == nullptr ? nullptr : method.type->objects);
+    if (type == nullptr || PyObject_HasAttr(type, name) == 0)
+        RaisePython(PyExc_TypeError, "%s() got an unexpected keyword argument '%U'", method.name, name);
+    if (settings.get() == nullptr) settings = Take(PyDict_New());
+    Check(PyDict_SetItem(settings.get(), name, value));
 }
 
-int SetAt(PyObject* self, PyObject* key, PyObject* value) {
-    return Guarded(-1, [&] {
-        const PythonProperty& property = *AsIndexed(self).property;
-        PyObject* owner = AsIndexed(self).owner;
-        if (value == nullptr || property.row->set == nullptr)
-            RaisePython(PyExc_TypeError, property.name + " has no items that can be set or deleted so");
-        const std::array<Variant, 2> values{FromPython(key, property.row->arguments[0].type, Use(owner)),
-                                            FromPython(value, property.row->type, Use(owner))};
-        property.row->set(Use(owner), values);
-        return 0;
-    });
+void SetAttributes(PyObject* object, PyObject* settings) {
+    Py_ssize_t at = 0;
+    PyObject *name = nullptr, *value = nullptr;
+    while (PyDict_Next(settings, &at, &name, &value) != 0) Check(PyObject_SetAttr(object, name, value));
 }
 
-void DeallocateIndexed(PyObject* self) {
-    PyTypeObject* type = Py_TYPE(self);
-    Py_DECREF(AsIndexed(self).owner);
-    reinterpret_cast<freefunc>(PyType_GetSlot(type, Py_tp_free))(self);
-    Py_DECREF(reinterpret_cast<PyObject*>(type));
-}
+bool IsSame(PyObject* one, PyObject* other) { return one == other || PyUnicode_Compare(one, other) == 0; }
 
-}  // namespace
-
-PyTypeObject* MakeIndexedType() {
-    return MakeType("IndexedProperty", sizeof(Indexed), Py_TPFLAGS_DISALLOW_INSTANTIATION,
-                    {{Py_tp_dealloc, Slot(DeallocateIndexed)},
-                     {Py_mp_subscript, Slot(GetAt)},
-                     {Py_mp_ass_subscript, Slot(SetAt)},
-                     {Py_tp_doc, const_cast<char*>("A property with several values, by their numbers.")}});
-}
-
-namespace {
-
-bool IsName(PyObject* name, const Owned& interned) {
-    return name == interned.get() || PyUnicode_Compare(name, interned.get()) == 0;
-}
-
-/// What a call gives that is no argument of the method is set on what it gives: add_cell(width=2).
-PyObject* Settings(const PythonMethod& method, PyObject* settings, PyObject* name, PyObject* value) {
-    // Refused before anything is added.
-    PyTypeObject* type = method.result == nullptr ? nullptr : method.result->objects;
-    if (type == nullptr || PyObject_HasAttr(reinterpret_cast<PyObject*>(type), name) == 0)
-        RaisePython(PyExc_TypeError,
-                    method.name + "() got an unexpected keyword argument '" + TextOf(name) + "'");
-    if (settings == nullptr) settings = Checked(PyDict_New());
-    Check(PyDict_SetItem(settings, name, value));
-    return settings;
-}
+/// Most methods have few arguments, and room for more would take a tenth of a call.
+constexpr std::size_t FewArguments = 2, MostArguments = 6;
 
 template <std::size_t Most>
-PyObject* CallWith(const PythonMethod& method, PyObject* self, PyObject* const* given, Py_ssize_t positional,
-                   PyObject* keywords) {
+PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject* const* given,
+                     std::size_t positional, PyObject* keywords) {
     Object& object = Use(self);
-    const std::size_t count = method.arguments.size();
-    std::array<Variant, Most> values;
-    std::array<bool, Most> has{};
-    if (static_cast<std::size_t>(positional) > count) {
-        RaisePython(PyExc_TypeError, method.name + "() takes at most " + std::to_string(count)
-                                         + " arguments, not " + std::to_string(positional));
-    }
-    for (std::size_t i = 0; i < static_cast<std::size_t>(positional); ++i) {
-        values[i] = FromPython(given[i], method.arguments[i].row->type, object);
-        has[i] = true;
-    }
+    const auto& arguments = method.row->arguments;
+    if (positional > arguments.size())
+        RaisePython(PyExc_TypeError, "%s() takes at most %zu arguments, not %zu", method.name,
+                    arguments.size(), positional);
+    std::array<PyObject*, Most> found{};
+    std::copy_n(given, positional, found.begin());
     Owned settings;
     const Py_ssize_t named = keywords == nullptr ? 0 : PyTuple_Size(keywords);
     for (Py_ssize_t i = 0; i < named; ++i) {
-        PyObject* name = PyTuple_GetItem(keywords, i);
-        PyObject* value = given[positional + i];
+        PyObject* const name = PyTuple_GetItem(keywords, i);
+        PyObject* const value = given[positional + static_cast<std::size_t>(i)];
         std::size_t at = 0;
-        while (at < count && !IsName(name, method.arguments[at].name)) ++at;
-        if (at == count) {
-            settings = Owned(Settings(method, settings.release(), name, value));
+        while (at < arguments.size()
+               && !IsSame(PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at)), name))
+            ++at;
+        if (at == arguments.size()) {
+            KeepSetting(method, settings, name, value);
         } else {
-            if (has[at]) RaisePython(PyExc_TypeError, method.name + "() got '" + TextOf(name) + "' twice");
-            values[at] = FromPython(value, method.arguments[at].row->type, object);
-            has[at] = true;
+            if (found[at] != nullptr) RaisePython(PyExc_TypeError, "%s() got '%U' twice", method.name, name);
+            found[at] = value;
         }
     }
-    for (std::size_t at = 0; at < count; ++at) {
-        const PythonArgument& argument = method.arguments[at];
-        if (has[at]) continue;
-        if (!argument.row->initial)
-            RaisePython(PyExc_TypeError,
-                        method.name + "() misses the argument '" + TextOf(argument.name.get()) + "'");
-        values[at] = *argument.row->initial;
+    std::array<Variant, Most> values;
+    for (std::size_t at = 0; at < arguments.size(); ++at) {
+        if (found[at] != nullptr)
+            values[at] = FromPython(found[at], *arguments[at].type, object);
+        else if (arguments[at].initial)
+            values[at] = *arguments[at].initial;
+        else
+            RaisePython(PyExc_TypeError, "%s() misses the argument '%U'", method.name,
+                        PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at)));
     }
-    Owned result(
-        ToPython(method.row->call(Use(self), {values.data(), count}), method.result, AsWrapper(self).keeper));
+    Owned result(ToPython(method.row->call(Use(self), {values.data(), arguments.size()}), method.type,
+                          AsWrapper(self).keeper));
     if (settings.get() != nullptr) SetAttributes(result.get(), settings.get());
     return result.release();
 }
-
-constexpr std::size_t FewArguments = 2;
-constexpr std::size_t MostArguments = 6;
 
 /// CPython's method descriptors tell a function nothing about itself, so there is one function for each place in a class
 /// table; the class is that of the object.
@@ -155,11 +103,11 @@ constexpr std::size_t MostMethods = 16;
 template <std::size_t Place>
 PyObject* MethodAt(PyObject* self, PyObject* const* given, Py_ssize_t positional, PyObject* keywords) {
     return Guarded([&] {
-        const auto& description = AsWrapper(self).object->Description();
-        const PythonMethod& method = Module().classes.find(&description)->second.methods[Place];
-        return method.arguments.size() <= FewArguments
-                   ? CallWith<FewArguments>(method, self, given, positional, keywords)
-                   : CallWith<MostArguments>(method, self, given, positional, keywords);
+        const auto& one = Module().classes.find(&AsWrapper(self).object->Description())->second;
+        const auto& method = one.methods[Place];
+        const auto call = method.row->arguments.size() <= FewArguments ? CallMethod<FewArguments>
+                                                                       : CallMethod<MostArguments>;
+        return call(method, self, given, static_cast<std::size_t>(positional), keywords);
     });
 }
 using FastMethod = PyObject* (*)(PyObject*, PyObject* const*, Py_ssize_t, PyObject*);
@@ -169,77 +117,64 @@ constexpr std::array<FastMethod, sizeof...(Place)> AllMethods(std::index_sequenc
 }
 constexpr auto Methods = AllMethods(std::make_index_sequence<MostMethods>{});
 
+}  // namespace
+
 PythonType* TypeOf(const draftwick::Type* type) {
     if (type == nullptr) return nullptr;
     PythonType& made = Module().types[type];
-    made.type = type;
+    made.row = type;
     return &made;
 }
 
-std::vector<PythonArgument> ArgumentsOf(const std::vector<Argument>& rows) {
-    if (rows.size() > MostArguments) throw std::length_error("a method has too many arguments");
-    std::vector<PythonArgument> arguments;
-    for (const Argument& row : rows) {
-        arguments.push_back(
-            {&row, TypeOf(row.type), Take(PyUnicode_InternFromString(MemberName(row.name).c_str()))});
-    }
-    return arguments;
-}
-
-/// What inspect.signature reads, before the comment.
-std::string Documentation(const PythonClass& owner, const PythonMethod& method) {
-    std::string text = method.name + "($self";
-    for (const PythonArgument& argument : method.arguments) {
-        text += ", " + TextOf(argument.name.get());
-        // inspect knows no constants of enumerations here.
-        if (argument.row->initial) {
-            const auto* number = std::get_if<std::int32_t>(&*argument.row->initial);
-            text +=
-                "="
-                + (number != nullptr ? std::to_string(*number) : Literal(*argument.row->initial, nullptr));
-        }
-    }
-    if (method.result != nullptr && method.result->type->description != nullptr) text += ", **properties";
-    return text + ")\n--\n\n" + Comment(owner.row->name, method.row->name);
-}
-
-}  // namespace
-
-void SetAttributes(PyObject* object, PyObject* keywords) {
-    Py_ssize_t at = 0;
-    PyObject *name = nullptr, *value = nullptr;
-    while (keywords != nullptr && PyDict_Next(keywords, &at, &name, &value) != 0)
-        Check(PyObject_SetAttr(object, name, value));
+PyObject* IndexedItem(PyObject* self, PyObject* arguments) {
+    return Guarded([&] {
+        const char* name = nullptr;
+        PyObject *index = nullptr, *value = nullptr;
+        if (PyArg_ParseTuple(arguments, "sO|O", &name, &index, &value) == 0) throw PythonError{};
+        Object& object = Use(self);
+        const ClassProperty* row = object.Description().FindProperty(name);
+        if (row == nullptr || row->arguments.empty()) RaisePython(PyExc_AttributeError, "%s", name);
+        if (value != nullptr && row->set == nullptr)
+            RaisePython(PyExc_TypeError, "%s has no items that can be set",
+                        WordingOf(object.Description().name, name).name);
+        std::array<Variant, 2> values{FromPython(index, *row->arguments[0].type, object)};
+        if (value == nullptr)
+            return ToPython(row->get(Use(self), {values.data(), 1}), TypeOf(row->type),
+                            AsWrapper(self).keeper);
+        values[1] = FromPython(value, *row->type, object);
+        row->set(Use(self), values);
+        return Py_NewRef(Py_None);
+    });
 }
 
 void AddAttributes(PythonClass& to, std::string_view owner, std::span<const ClassProperty> rows) {
     for (const ClassProperty& row : rows) {
-        PythonProperty& property =
-            to.properties.emplace_back(PythonProperty{&row, TypeOf(row.type), MemberName(row.name)});
+        const auto [name, doc, arguments] = WordingOf(owner, row.name);
+        auto& property =
+            to.properties.emplace_back(Member<ClassProperty>{&row, name, TypeOf(row.type), arguments});
         const bool isIndexed = !row.arguments.empty();
         const auto get = row.get == nullptr ? nullptr : isIndexed ? GetIndexed : GetAttribute;
         const auto set = row.set == nullptr || isIndexed ? nullptr : SetAttribute;
-        to.attributes.push_back({property.name.c_str(), get, set, Comment(owner, row.name), &property});
+        to.attributes.push_back({name, get, set, doc, &property});
     }
     to.attributes.push_back({});
 }
 
-void AddMethods(PythonClass& to) {
-    if (to.row->methods.size() > MostMethods) throw std::length_error("a class has too many methods");
-    for (const ClassMethod& row : to.row->methods) {
+void AddMethods(PythonClass& to, const Class& one) {
+    for (const ClassMethod& row : one.methods) {
         const std::size_t place = to.methods.size();
-        PythonMethod& method = to.methods.emplace_back(
-            PythonMethod{&row, TypeOf(row.result), MemberName(row.name), ArgumentsOf(row.arguments)});
-        if (row.name == to.row->defaultMember && to.row->items != nullptr) {
+        auto& method = to.methods.emplace_back(Member<ClassMethod>{&row, nullptr, TypeOf(row.result)});
+        if (place >= MostMethods || row.arguments.size() > MostArguments)
+            throw std::length_error("a class has too many methods, or a method too many arguments");
+        if (one.items != nullptr && row.name == one.defaultMember) {
             to.items = &method;  // Python has [] for it
             continue;
         }
-        // What Python has of its own takes the place of what is described.
-        const auto isSame = [&](const PyMethodDef& own) { return own.ml_name == method.name; };
-        if (std::any_of(to.functions.begin(), to.functions.end(), isSame)) continue;
+        const auto [name, doc, arguments] = WordingOf(one.name, row.name);
+        method.name = name;
+        method.arguments = arguments;
         const auto function = reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(Methods[place]));
-        to.functions.push_back(
-            {method.name.c_str(), function, METH_FASTCALL | METH_KEYWORDS, Keep(Documentation(to, method))});
+        to.functions.push_back({name, function, METH_FASTCALL | METH_KEYWORDS, doc});
     }
 }
 

@@ -1,5 +1,8 @@
 #include "tests/support/Documents.h"
 
+#include <thread>
+#include <vector>
+
 namespace draftwick::test {
 
 TEST(Content, IsWrittenWhenItsNextSiblingArrives) {
@@ -67,6 +70,99 @@ TEST(Paragraph, WithATextIsWholeWhenTheFileFails) {
         }
     }
     EXPECT_TRUE(document.Body().ends_with("a}\\par\\pard~{b}\\par\\pard~{b}"));
+}
+
+// The same bytes, whatever the text, the style and the paragraph's look; and what was added as an object stays current.
+TEST(Paragraph, AddsATextAsItAddsARun) {
+    for (const dwSpelling spelling : {dwSpellingClassic, dwSpellingStandard}) {
+        std::string written[2];
+        for (const bool asObject : {false, true}) {
+            const TestDocument document;
+            document->SetSpelling(spelling);
+            document->TextStyles()->Add("Strong")->FontFormat()->SetBold(true);
+            for (const bool withLook : {false, true}) {
+                for (std::string text : {std::string{}, std::string{"a"}, std::string{"{a}\t\r\nb"},
+                                         std::string{"\u0416 \u05D0 \xFF"}, std::string(20000, 'x')}) {
+                    for (const char* style : {"", "strong"}) {
+                        const auto paragraph = document.AddParagraph();
+                        if (withLook) paragraph->FontFormat()->SetItalic(true);
+                        const auto first = paragraph->AddTextItem("first");
+                        if (asObject) {
+                            paragraph->AddTextItem(text)->SetStyleName(style);
+                        } else {
+                            paragraph->AddText(text, style);
+                            EXPECT_EQ(paragraph->CurrentTextItem(), first);
+                        }
+                    }
+                }
+            }
+            written[asObject] = document.Finish();
+        }
+        EXPECT_EQ(written[0], written[1]);
+    }
+}
+
+TEST(Paragraph, RefusesATextWithoutATrace) {
+    const TestDocument document;
+    const auto paragraph = document.AddParagraph();
+    EXPECT_EQ(Refusal([&] { paragraph->AddText("a", "None"); }), "X112 Item not found 'None'.");
+    paragraph->Format()->SetAlign(dwAlignRight);
+    paragraph->AddText("b");
+    document.AddParagraph();
+    EXPECT_EQ(Refusal([&] { paragraph->AddText("c"); }), Emitted("Paragraph"));
+    EXPECT_EQ(document.Body(), R"(\pard\plain\fs24\cf0\qr\sb0\sa0\sl240\slmult1{b}\par\pard~)");
+}
+
+// What is written again and again is copied: the lines end where they do without that.
+TEST(Paragraph, WithoutALookHasTheSameLinesAtEveryColumn) {
+    for (const dwSpelling spelling : {dwSpellingClassic, dwSpellingStandard}) {
+        std::string written[2];
+        for (const bool touched : {false, true}) {
+            const TestDocument document;
+            document->SetSpelling(spelling);
+            document->TextStyles()->Add("Long name")->FontFormat()->SetUnderline(dwUnderlineDashDotDot);
+            for (std::size_t column = 0; column < 140; ++column) {
+                const auto paragraph = document.AddParagraph();
+                if (touched) paragraph->Format();
+                paragraph->AddTextItem(std::string(column, 'x'));
+                const auto item = paragraph->AddTextItem("y");
+                item->SetStyleName("Long name");
+                if (touched) item->Border();
+            }
+            written[touched] = document.Finish();
+        }
+        EXPECT_EQ(written[0], written[1]);
+    }
+}
+
+// Their memory serves the next ones in the thread that lets them go, which need not be the one that made them.
+TEST(Content, CanBeLetGoInAnyThread) {
+    std::vector<std::shared_ptr<Object>> kept;
+    static std::vector<std::shared_ptr<Object>> untilTheEnd;
+    const auto fill = [&](std::size_t keep) {
+        const TestDocument document;
+        for (std::size_t i = 0; i < 300; ++i) {
+            const auto paragraph = document.AddParagraph();
+            for (int runs = 0; runs < 3; ++runs) {
+                auto item = paragraph->AddTextItem("longer than texts that need no memory");
+                if (i % 7 < keep) kept.push_back(item->FontFormat());
+            }
+            if (keep != 0 && i % 50 == 0) untilTheEnd.push_back(paragraph);
+        }
+        std::string expected = R"(\pard~)";
+        for (int runs = 0; runs < 3; ++runs) expected += "{longer than texts that need no memory}";
+        EXPECT_TRUE(document.Body().ends_with("\\par" + expected + "\\par" + expected));
+    };
+    std::thread{[&] { fill(3); }}.join();
+    std::vector<std::thread> others;
+    for (std::size_t thread = 0; thread < 4; ++thread) {
+        others.emplace_back([&, thread] {
+            for (std::size_t i = thread; i < kept.size(); i += 4) kept[i].reset();
+        });
+    }
+    fill(0);
+    for (std::thread& thread : others) thread.join();
+    for (const auto& paragraph : untilTheEnd) EXPECT_EQ(paragraph->Document(), nullptr);
 }
 
 // A run that cannot be written is refused before its first byte: the host mends it and goes on.

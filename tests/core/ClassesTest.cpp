@@ -388,7 +388,8 @@ TEST(EveryWay, LeadsToSettingsThatChangeTheFile) {
     };
     static const std::set<std::string> NotWritten{"Document.Filename",  "Document.TempPath",
                                                   "Document.ScaleMode", "Document.BodyInMemory",
-                                                  "Columns.Spacing",    "Document.DiscardOnRelease"};
+                                                  "Columns.Spacing",    "Document.DiscardOnRelease",
+                                                  "Document.Durable"};
     // A row's frame stands in its paragraphs; what every document has is linked to nothing.
     static const std::set<std::string> Others{"Document_AddSection_AddTable_Frame",
                                               "Document_Properties_Items"};

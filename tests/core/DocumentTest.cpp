@@ -99,6 +99,34 @@ TEST_F(Documents, KeepNoMoreThanABlockOfTheirBodyInMemory) {
     document->Finish();
 }
 
+// In the standard spelling the body of a file with a name goes to the file itself, behind a place for the header, which
+// ends where a page of the disk does.
+TEST_F(Documents, AreWrittenOnceWhereTheHeaderFits) {
+    for (const int colors : {10, 500}) {
+        files = std::make_shared<MemoryFiles>();
+        auto document = NewDocument();
+        document->SetSpelling(dwSpellingStandard);
+        document->SetFilename("out.rtf");
+        auto section = document->AddSection();
+        for (int i = 0; i < 1000; ++i) {
+            auto item = section->AddParagraph()->AddTextItem(std::string(100, 'a'));
+            if (i >= 1000 - colors) item->FontFormat()->SetColor(i);
+        }
+        EXPECT_EQ(files->Names(), std::vector<std::string>{"./~dwout1.tmp"});
+        const int before = files->Operations();
+        document->Finish();
+        const std::string bytes = files->Bytes("out.rtf");
+        EXPECT_EQ(CheckFile(bytes), "");
+        EXPECT_EQ(files->Names(), std::vector<std::string>{"out.rtf"});
+        int inTable = 0;
+        for (std::size_t at = 0; (at = bytes.find("\\red", at)) != bytes.npos; ++at) ++inTable;
+        EXPECT_EQ(inTable, 1 + colors);  // and black
+        const bool fits = colors == 10;
+        EXPECT_EQ(files->Operations() - before == 5, fits);  // write, seek, write, close, rename
+        EXPECT_EQ(bytes.find("\r\n\\deftab720"), fits ? 4096 - 2 : bytes.find("\\deftab720") - 2);
+    }
+}
+
 TEST_F(Documents, ThatAreLetGoLeaveNothingThatCrashes) {
     auto document = NewDocument();
     auto section = document->AddSection();

@@ -6,7 +6,6 @@
 #include "tests/support/FakePlatform.h"
 
 #include <cstdlib>
-#include <cstring>
 
 using namespace draftwick;
 
@@ -35,8 +34,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     pictures->Record(*picture, width, height, files, "recorded", error);
     if (error) std::abort();
     const std::string recorded = files.Bytes("recorded");
-    std::uint32_t claimed = 0;  // this machine is little-endian, as the file is
-    std::memcpy(&claimed, recorded.data() + 48, sizeof claimed);
+    std::uint32_t claimed = 0;
+    for (std::size_t byte = 4; byte-- > 0;)
+        claimed = claimed << 8 | static_cast<unsigned char>(recorded[48 + byte]);
     if (claimed != recorded.size()) std::abort();
     // One pixel more is not there.
     pictures->Record(*picture, width + 1, height, files, "recorded", error);

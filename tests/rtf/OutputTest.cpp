@@ -102,11 +102,16 @@ TEST(Output, TakesLineBreaksOutOfLongLinesOnly) {
 }
 
 TEST(Output, EncodesCharactersWhereverTheyStand) {
-    for (std::size_t before = 0; before < 18; ++before) {
-        for (std::size_t after = 0; after < 10; ++after) {
-            const std::string text = X(before) + "\xE2\x80\xA6\xC3\xA9" + X(after);
-            EXPECT_EQ(Written([&](Output& o) { o.WriteText(text); }),
-                      X(before) + "\x85\xE9" + X(after) + "\r\n");
+    // Around eight bytes, a piece of 64, and the room of a line.
+    for (const std::size_t begin : {0, 55, 500, 1010}) {
+        for (std::size_t before = begin; before < begin + 20; ++before) {
+            for (std::size_t after = 0; after < 10; ++after) {
+                const std::string text = X(before) + "\xE2\x80\xA6\xC3\xA9" + X(after);
+                EXPECT_EQ(Written([&](Output& o) { o.WriteText(text); }),
+                          X(before) + "\x85\xE9" + X(after) + "\r\n");
+            }
+            EXPECT_EQ(Written([&](Output& o) { o.WriteText(X(before) + "y", Letters::Ascii); }),
+                      X(before) + "y\r\n");
         }
     }
 }

@@ -10,10 +10,11 @@
 namespace draftwick::test {
 
 /// Fills a document with every construct there is. Each step that may reach a file goes through `attempt`, which gives
-/// the step's result. The pictures are a bitmap, which becomes a metafile on the way, and a JPEG.
+/// the step's result. It is longer than what is kept in memory, if that is asked for. The pictures are a bitmap, which becomes a metafile on the way, and a JPEG.
 inline void AddEverything(const std::shared_ptr<Document>& document, const std::string& bmp,
                           const std::string& jpg,
-                          const std::function<Variant(const std::function<Variant()>&)>& attempt) {
+                          const std::function<Variant(const std::function<Variant()>&)>& attempt,
+                          bool moreThanABlock = true) {
     using Pointer = std::shared_ptr<Object>;
     const auto add = [&](const Pointer& to, const char* method, std::vector<Variant> arguments = {}) {
         return std::get<Pointer>(attempt([&] { return Call(*to, method, arguments); }));
@@ -51,6 +52,7 @@ inline void AddEverything(const std::shared_ptr<Document>& document, const std::
     write(add(styled, "AddFootnote"), "n");
     write(add(styled, "AddFootnote", {true}), "e");
     set(add(styled, "AddTextItem", {"t"}), "Border", "Style", dwBSSingle);
+    attempt([&] { return Call(*styled, "AddText", {"u", "A"}); });
     const auto table = add(section, "AddTable");
     for (int cells = 0; cells < 2; ++cells) {
         const auto cell = add(table, "AddCell");
@@ -71,8 +73,8 @@ inline void AddEverything(const std::shared_ptr<Document>& document, const std::
     set(picture, "Fill", "Picture", bmp);
     const auto art = add(drawing, "AddShape", {dwSKRectangle});
     set(art, "WordArt", "Text", "w");
-    // More than any buffer holds.
-    for (int paragraphs = 0; paragraphs < 15; ++paragraphs) write(section, std::string(10000, 'a'));
+    for (int paragraphs = 0; paragraphs < (moreThanABlock ? 15 : 0); ++paragraphs)
+        write(section, std::string(10000, 'a'));
     write(add(document, "AddSection"), "z");
 }
 

@@ -18,7 +18,8 @@ public:
     std::size_t Write(const char* bytes, std::size_t size, std::error_code& error) override {
         error = files_->Count();
         const std::size_t taken = error ? std::min(size, files_->taken_) : size;
-        content_->append(bytes, taken);
+        content_->replace(position_, std::min(taken, content_->size() - position_), bytes, taken);
+        position_ += taken;
         return taken;
     }
 
@@ -36,6 +37,16 @@ public:
         Release();
     }
 
+    void Seek(std::uint64_t position, std::error_code& error) override {
+        error = files_->Count();
+        if (!error) position_ = static_cast<std::size_t>(position);
+    }
+
+    void Sync(std::error_code& error) override {
+        error = files_->Count();
+        if (!error) files_->synced_[content_] = *content_;
+    }
+
 private:
     void Release() {
         if (content_) --files_->open_;
@@ -46,6 +57,17 @@ private:
     Content content_;
     std::size_t position_ = 0;
 };
+
+void MemoryFiles::SyncFolder(const std::string&, std::error_code& error) {
+    error = Count();
+    if (!error) syncedNames_ = files_;
+}
+
+std::string MemoryFiles::BytesAfterPowerCut(const std::string& name) const {
+    const auto file = syncedNames_.find(name);
+    const auto bytes = file == syncedNames_.end() ? synced_.end() : synced_.find(file->second);
+    return bytes == synced_.end() ? "" : bytes->second;
+}
 
 std::vector<std::string> MemoryFiles::Names() const {
     std::vector<std::string> names;

@@ -24,8 +24,11 @@ public:
     }
     std::vector<std::string> Names() const;
 
-    /// Lets one operation fail, counted from 1 over every Create, OpenForReading, Write, Read, Close, Length, Delete
-    /// and Rename since the beginning. When it is a Write, the first `taken` bytes still get through. A Close that
+    /// What a disk would have that was only told to write by Sync and SyncFolder; empty for nothing.
+    std::string BytesAfterPowerCut(const std::string& name) const;
+
+    /// Lets one operation fail, counted from 1 over every Create, OpenForReading, Write, Read, Seek, Sync, Close, Length,
+    /// Delete, Rename and SyncFolder since the beginning. When it is a Write, the first `taken` bytes still get through. A Close that
     /// fails ends the use of the file nevertheless.
     void FailAt(int operation, std::errc error, std::size_t taken = 0);
     /// As FailAt, and nothing that comes after it does anything: as if the process had been killed.
@@ -47,6 +50,7 @@ public:
     void Delete(const std::string& name, std::error_code& error) override;
     bool CanReplace(const std::string&) override { return true; }
     void Rename(const std::string& from, const std::string& to, std::error_code& error) override;
+    void SyncFolder(const std::string& folder, std::error_code& error) override;
     std::string FullName(const std::string& name) override { return name; }
     char Separator() const override { return '/'; }
 
@@ -59,6 +63,8 @@ private:
     Content Find(const std::string& name, std::error_code& error);
 
     std::map<std::string, Content> files_;
+    std::map<std::string, Content> syncedNames_;
+    std::map<Content, std::string> synced_;
     std::set<std::string> locked_;
     int operations_ = 0;
     int open_ = 0;

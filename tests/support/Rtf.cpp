@@ -20,7 +20,7 @@ bool IsWord(std::string_view piece) {
 /// that ends it, a byte, a symbol, or text.
 std::string_view FirstPiece(std::string_view rtf) {
     if (rtf[0] != '\\') {
-        const bool single = rtf.find_first_of("{}\r\n") == 0;
+        const bool single = std::string_view{"{}\r\n"}.find(rtf[0]) != rtf.npos;
         return rtf.substr(0, rtf.starts_with("\r\n") ? 2 : single ? 1 : rtf.find_first_of("{}\\\r\n"));
     }
     if (!IsWord(rtf)) return rtf.substr(0, rtf.starts_with("\\'") ? 4 : 2);

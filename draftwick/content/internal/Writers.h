@@ -28,7 +28,7 @@ struct ParagraphSettings {
     const ParagraphBorders* borders;
     const Background* background;
     const FontFormat* fontFormat;
-    const ParagraphFormat::Values& format;
+    const ParagraphFormat* format;
     const TabStops* tabStops;
 };
 /// \s0\brdrt...\shading...\plain\fs24\cf0\sb0\sa0\sl240\slmult1\tx720
@@ -49,9 +49,12 @@ void EmitDirection(RtfWriter& writer, const Scripts& scripts);
 void EmitRunFormat(RtfWriter& writer, const RunSettings& run, const Scripts& scripts,
                    const DocumentSettings& document);
 
-/// "{\b text}"; the text is RTF already.
-void EmitTextItem(RtfWriter& writer, const RunSettings& run, std::string_view text, const Scripts& scripts,
+/// "{\b text}"; the text is RTF already, of these letters.
+void EmitTextItem(RtfWriter& writer, const RunSettings& run, std::string_view text, Letters letters,
                   const DocumentSettings& document);
+/// The same of a text as a host sends it.
+void EmitText(RtfWriter& writer, const RunSettings& run, std::string_view text,
+              const DocumentSettings& document);
 /// "{\b1{\field{\*\fldinst PAGE}{\fldrslt 1}}}"
 void EmitField(RtfWriter& writer, const RunSettings& run, const Field::Values& field,
                const DocumentSettings& document);

@@ -2,6 +2,7 @@
 
 #include <draftwick/base/internal/Names.h>
 #include <draftwick/rtf/BlockWriter.h>
+#include <draftwick/rtf/UniqueFile.h>
 
 #include <exception>
 #include <functional>
@@ -24,12 +25,14 @@ struct Sink {
     std::function<void()> end;  // after the last bytes; can be empty
 };
 
+class OnePassFile;
+
 /// The two files of a document: the temporary file, or the memory, that the body goes to while the document is built,
-/// and the file or sink that gets the whole.
+/// and the file or sink that gets the whole. What fits in a block never goes to the temporary file. In the standard
+/// spelling the two are one where the output has its name from the beginning: see OnePassFile.
 class OutputFiles {
 public:
     OutputFiles();
-    /// Closes the body file of a document that was let go, with the lines that it had written. Nothing fails.
     ~OutputFiles();
     OutputFiles(const OutputFiles&) = delete;
     OutputFiles& operator=(const OutputFiles&) = delete;
@@ -44,6 +47,8 @@ public:
     void AssembleInto(Session& session, const Sink& sink);
     /// Gives the body up.
     std::error_code Discard() noexcept;
+    /// Closes the body file of a document that was let go, with the lines that it had written. Nothing fails.
+    void LetGo() noexcept;
 
     /// Whether the brace that closes the document is written.
     bool Ended() const noexcept { return ended_; }
@@ -55,16 +60,23 @@ public:
     std::uint64_t LostInHeader() const noexcept { return lostInHeader_; }
 
 private:
+    bool OpenOnePass(Session& session);
+    void SetBody(platform::FileSystem& files, UniqueFile& file, const std::string& knownName);
     void EndBody(Session& session);
     void DeleteBody();
     std::string CreateOutputFile(Session& session);
-    void WriteHeader(Session& session, BlockWriter& output);
-    void WriteOutput(Session& session, platform::File& body, BlockWriter output);
+    bool CompleteOnePass(platform::FileSystem& files, const std::string& header, const std::string& name,
+                         bool durable);
+    std::unique_ptr<platform::File> ReopenBody() const;
+    std::string Header(const Session& session);
+    void WriteOutput(const std::string& header, platform::File* body, BlockWriter output, bool durable);
 
     std::unique_ptr<FileInMemory> memory_;
     platform::FileSystem* bodyFiles_ = nullptr;  // where the body is
     std::unique_ptr<BlockWriter> body_;
-    std::string bodyFileName_;
+    OnePassFile* onePass_ = nullptr;  // the body's file, as long as it can become the output
+    std::uint64_t gap_ = 0;           // so many bytes of the body file come before the body
+    std::string bodyFileName_;        // empty when there is nothing to delete
     std::uint64_t lostInHeader_ = 0;
     std::string actualFileName_;
     std::string fullFileName_;

@@ -26,9 +26,10 @@ void EmitFontFormat(RtfWriter& writer, const FontFormat::Values& format, bool wi
 /// What holds where no format was ever asked for: the defaults and the document's default font.
 FontFormat::Values DefaultFontFormat(const DocumentSettings& document);
 
-/// \b1\fs28: what differs from the reference, or from the style.
+/// \b1\fs28: what differs from the reference (null: from the default format), or from the style.
 void EmitFontFormatChanges(RtfWriter& writer, const FontFormat::Values& format,
-                           const FontFormat::Values& reference, const FontFormat::Values* style = nullptr);
+                           const FontFormat::Values* reference, const DocumentSettings& document,
+                           const FontFormat::Values* style = nullptr);
 /// \dbch\af0 for East Asian text, \rtlch\af0\afs24\ab for text that runs to the left, \rtlch\af0\afs24\ab\ltrch for
 /// that of India: the words that readers take the look of such text from, beside those for all text.
 void EmitScripts(RtfWriter& writer, const Scripts& scripts, const FontFormat::Values& format);
@@ -36,6 +37,9 @@ void EmitScripts(RtfWriter& writer, const Scripts& scripts, const FontFormat::Va
 /// \keep\qc\li720\sb0\sa0\sl240\slmult1\ls1\ilvl0
 void EmitParagraphFormat(RtfWriter& writer, const ParagraphFormat::Values& format,
                          const DocumentSettings& settings, const ParagraphFormat::Values* style = nullptr);
+
+/// What holds where no format was ever asked for: the defaults and the document's WidowOrphanControl.
+ParagraphFormat::Values DefaultParagraphFormat(const DocumentSettings& document);
 
 /// What a paragraph or style uses of the document's lists. Noted when it is settled, before it is written.
 void NoteLists(ListNumbers& lists, const ParagraphFormat::Values& format);

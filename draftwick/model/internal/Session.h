@@ -1,6 +1,7 @@
 #pragma once
 
 #include <draftwick/base/internal/Names.h>
+#include <draftwick/model/Content.h>
 #include <draftwick/model/DocumentSettings.h>
 #include <draftwick/platform/Platform.h>
 #include <draftwick/rtf/RtfWriter.h>
@@ -13,7 +14,6 @@ namespace draftwick {
 class Document;
 class Fonts;
 class Lists;
-class Object;
 class ParagraphStyles;
 class Properties;
 class TextStyles;
@@ -39,7 +39,7 @@ public:
     DocumentSettings settings;
     RtfWriter writer;
     std::int32_t lastShapeIndex = 0;  // counted up before use
-    bool discarded = false;
+    bool usable = false;  // from the creation of the document until it is gone or given up
 
     // Null once the document is gone.
     draftwick::Document* document = nullptr;
@@ -48,5 +48,12 @@ public:
 };
 
 }  // namespace detail
+
+inline detail::Session& Object::Session() const {
+    if (session_ == nullptr || !session_->usable) RefuseWithoutSession();
+    return *session_;
+}
+
+inline RtfWriter& detail::Content::Writer() const { return Session().writer; }
 
 }  // namespace draftwick

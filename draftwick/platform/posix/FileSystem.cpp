@@ -65,6 +65,16 @@ public:
         descriptor_ = -1;
     }
 
+    void Seek(std::uint64_t position, std::error_code& error) override {
+        error.clear();
+        if (::lseek(descriptor_, static_cast<off_t>(position), SEEK_SET) < 0) error = LastError();
+    }
+
+    void Sync(std::error_code& error) override {
+        error.clear();
+        if (::fsync(descriptor_) != 0) error = LastError();
+    }
+
 private:
     friend class PosixFileSystem;
 
@@ -116,6 +126,10 @@ public:
     void Rename(const std::string& from, const std::string& to, std::error_code& error) override {
         if (IsName(from, error) && IsName(to, error) && ::rename(from.c_str(), to.c_str()) != 0)
             error = LastError();
+    }
+
+    void SyncFolder(const std::string& folder, std::error_code& error) override {
+        if (const auto opened = Open(folder, O_RDONLY | O_DIRECTORY, 0, error)) opened->Sync(error);
     }
 
     std::string FullName(const std::string& name) override {

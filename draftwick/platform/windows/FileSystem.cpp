@@ -101,6 +101,18 @@ public:
         if (!handle_.Close()) error = LastError();
     }
 
+    void Seek(std::uint64_t position, std::error_code& error) override {
+        error.clear();
+        LARGE_INTEGER to;
+        to.QuadPart = static_cast<LONGLONG>(position);
+        if (!::SetFilePointerEx(handle_, to, nullptr, FILE_BEGIN)) error = LastError();
+    }
+
+    void Sync(std::error_code& error) override {
+        error.clear();
+        if (!::FlushFileBuffers(handle_)) error = LastError();
+    }
+
 private:
     Handle handle_;
 };
@@ -173,6 +185,9 @@ public:
         if (!error && !::MoveFileExW(before.c_str(), after.c_str(), MOVEFILE_REPLACE_EXISTING))
             error = LastError();
     }
+
+    /// The system keeps a journal of names and has no call that waits for it.
+    void SyncFolder(const std::string&, std::error_code& error) override { error.clear(); }
 
     std::string FullName(const std::string& name) override {
         std::wstring full(32767, L'\0');

@@ -1,5 +1,5 @@
 /* The border of the C interface: what crosses it, what is refused, what owns what. Words and files are compared by
- * tests/words through this interface; see hosts/python/tests. */
+ * tests/words through this interface; see hosts/tests. */
 #include <draftwick/draftwick_c.h>
 
 #include <stdio.h>

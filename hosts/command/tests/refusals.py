@@ -17,6 +17,7 @@ ROWS = [
     ("in --set title", "x", 2, 'draftwick: --set wants name=value, not "title"'),
     ("in --toc", "{}", 2, "draftwick: a document in JSON says all of this itself: --style, --data, --set, --toc and "
      "--number-sections are for Markdown"),
+    ("--clean none", "", 1, "none: error: cannot be read: No such file or directory"),
     ("none.md", "", 1, "none.md: error: cannot be read: No such file or directory"),
     ("in --style lettr", "x", 1, 'lettr: error: no such style file, and no look of this name; did you mean "letter"?'),
     ("in --data none", "x", 1, "none: error: cannot be read"),

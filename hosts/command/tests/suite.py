@@ -5,6 +5,7 @@ usage: suite.py write FOLDER PROGRAM   the documents that LibreOffice is to conv
        suite.py guide FOLDER           writes the guide's table
 """
 import json
+import os
 import subprocess
 import sys
 import tempfile
@@ -115,6 +116,19 @@ class Command(unittest.TestCase):
         with open("/dev/full", "wb") as full:
             result = subprocess.run([PROGRAM, "-"], input=b"text", stdout=full, stderr=subprocess.PIPE)
         self.assertEqual((result.returncode, b"No space left" in result.stderr), (1, True), result.stderr)
+
+    def test_clean_deletes_what_killed_processes_left(self):
+        names = {"~dw1.tmp": "deleted", "~dwout12.tmp": "deleted", "~DWGC1.tmp": "deleted", "~dw2.tmp": "left",
+                 "~dw.tmp": None, "~dw1.tmp.rtf": None, "~dwx1.tmp": None}
+        for name in names:
+            (self.folder / name).write_bytes(b"x")
+            if name != "~dw2.tmp":
+                os.utime(self.folder / name, (1e9, 1e9))
+        said = run("--clean", str(self.folder)).stdout.decode().splitlines()
+        self.assertEqual(sorted(line.split(",")[0] for line in said),
+                         sorted(f"{self.folder}/{name}: {what}" for name, what in names.items() if what))
+        self.assertEqual({path.name for path in self.folder.iterdir()},
+                         {name for name, what in names.items() if what != "deleted"})
 
     def test_documents_in_json(self):
         """Every way to say something, beside the same in Markdown or in other words."""

@@ -17,18 +17,19 @@ if _sysconfig.get_config_var("Py_GIL_DISABLED"):
     raise ImportError("draftwick needs a Python with the global interpreter lock; this is a free-threaded build")
 
 from ._draftwick import *  # noqa: E402,F403
-from ._draftwick import __version__, _describe, _enumeration, _enumeration_names  # noqa: E402,F401
-from . import _documents  # noqa: E402,F401
-from ._tables import add_table_from as _add_table_from  # noqa: E402
+from ._draftwick import __version__, _describe  # noqa: E402,F401
+from . import _documents, _errors, _values  # noqa: E402
+from ._errors import Error  # noqa: E402,F401
+from ._values import IndexedProperty  # noqa: E402,F401
 
-Document.add_table_from = _add_table_from  # noqa: F405
+globals().update(_errors.KINDS)
 
 
 def __getattr__(name):
     # Enumerations are made when they are first used.
-    value = globals()[name] = _enumeration(name)
+    value = globals()[name] = _values.enumeration(name)
     return value
 
 
 def __dir__():
-    return sorted(set(globals()) | set(_enumeration_names()))
+    return sorted(globals().keys() | _values.ENUMERATIONS.keys())

@@ -1,30 +1,68 @@
-"""What documents and errors have in Python beyond what all hosts have."""
+"""What documents and objects have in Python beyond what all hosts have. What has annotations goes into the stubs, in their terms."""
+# mypy: ignore-errors
 
+from __future__ import annotations
+
+import io
 import os
 import warnings
 
 from . import _draftwick as _d
+from ._errors import KINDS
+from ._tables import add_table_from
 
 _finish = _d.Document.finish
 
 
-def finish(self, to=None):
-    """Writes the document to its filename, or to a path or file object instead. A file gets its name when it is complete.
+class Object:
+    def __init__(self, /, **properties):
+        for name, value in properties.items():
+            setattr(self, name, value)
 
-    When that fails the document is not finished, and another finish() writes the whole once the cause is gone. On a document
-    that is finished, finish() does nothing, and finish(to) is refused. UnicodeWarning when the file does not hold all
-    characters, which only the classic spelling does not."""
-    _finish_to(self, to, 3)
-
-
-def to_bytes(self):
-    """Finishes the document and gives the bytes of its file."""
-    pieces = []
-    _finish_to(self, _Pieces(pieces), 3)
-    return b"".join(pieces)
+    def __reduce_ex__(self, protocol=None):
+        raise TypeError(f"a {type(self).__name__} belongs to its document: it can be neither copied nor pickled")
 
 
-def _finish_to(document, to, stack_level):
+class Document:
+    def __init__(self, filename=None, /, **properties):
+        if filename is not None:
+            self.filename = filename
+        for name, value in properties.items():
+            setattr(self, name, value)
+
+    def __enter__(self: _Self) -> _Self:
+        return self
+
+    def __exit__(self, kind: type[BaseException] | None, error: BaseException | None, trace: TracebackType | None) -> None:
+        """Finishes the document; gives it up when an exception leaves the block."""
+        if kind is not None:
+            self.discard()
+            return
+        try:
+            _finish_to(self, None)
+        except KINDS["TargetEmitted"]:
+            pass  # it was given up in the block
+
+    def finish(self, to: _Path | _Writes | None = None) -> None:
+        """Writes the document to its filename, or to a path or file object instead. A file gets its name when it is
+        complete.
+
+        When that fails the document is not finished, and another finish() writes the whole once the cause is gone. On a
+        document that is finished, finish() does nothing, and finish(to) is refused. UnicodeWarning when the file does not
+        hold all characters, which only the classic spelling does not."""
+        _finish_to(self, to)
+
+    def to_bytes(self) -> bytes:
+        """Finishes the document and gives the bytes of its file."""
+        file = io.BytesIO()
+        _finish_to(self, file)
+        return file.getvalue()
+
+
+Document.add_table_from = add_table_from
+
+
+def _finish_to(document, to):
     if to is None:
         if document.finished:
             return
@@ -35,12 +73,7 @@ def _finish_to(document, to, stack_level):
         _finish_to_path(document, os.fspath(to))
     if document.lost_characters:
         warnings.warn(f"{document.lost_characters} characters are not in the file, which has '?' in their place: only the "
-                      "standard spelling has all of Unicode", UnicodeWarning, stack_level)
-
-
-class _Pieces:
-    def __init__(self, pieces):
-        self.write = pieces.append
+                      "standard spelling has all of Unicode", UnicodeWarning, 3)
 
 
 def _whole(write):
@@ -52,8 +85,7 @@ def _whole(write):
 
 
 def _finish_to_path(document, path):
-    mark = b"~dwout" if isinstance(path, bytes) else "~dwout"
-    unfinished = path + mark
+    unfinished = path + (b"~dwout" if isinstance(path, bytes) else "~dwout")
     with open(unfinished, "xb") as file:
         try:
             document._finish_to(file.write)
@@ -64,31 +96,7 @@ def _finish_to_path(document, path):
             raise
 
 
-def _enter(self):
-    return self
-
-
-def _exit(self, kind, error, trace):
-    """Finishes the document; gives it up when an exception leaves the block."""
-    if kind is not None:
-        self.discard()
-        return
-    try:
-        _finish_to(self, None, 3)
-    except _d.TargetEmitted:
-        pass  # it was given up in the block
-
-
-def _text_of_error(self):
-    return " ".join(str(text) for text in (*self.args[:1], self.advice) if text)
-
-
-def _refuse_to_copy(self, protocol=None):
-    raise TypeError(f"a {type(self).__name__} belongs to its document: it can be neither copied nor pickled")
-
-
-_d.Object.__reduce_ex__ = _refuse_to_copy
-for _name, _method in {"finish": finish, "to_bytes": to_bytes, "__enter__": _enter, "__exit__": _exit}.items():
-    setattr(_d.Document, _name, _method)
-_d.Error.__str__ = _text_of_error
-_d.Error.number, _d.Error.advice = 0, ""
+for _members, _class in (Object, _d.Object), (Document, _d.Document):
+    for _name, _member in vars(_members).items():
+        if callable(_member):
+            setattr(_class, _name, _member)

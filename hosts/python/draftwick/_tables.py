@@ -1,17 +1,22 @@
 """Tables from rows of data."""
+# mypy: ignore-errors
+
+from __future__ import annotations
 
 import itertools
 import numbers
 from collections.abc import Mapping
 
-from . import _draftwick as _d
+from ._values import enumeration
 
 _PEEKED = 100  # rows that say how wide a column is and where its texts stand
 _NARROWEST, _WIDEST = 4, 40  # letters of a column that others make room for
 
 
-def add_table_from(self, rows, columns=None, *, into=None, widths=None, header=True, lines=True, stripes="#f2f2f2",
-                   style_name="", text=None):
+def add_table_from(self, rows: Iterable[Any], columns: Sequence[str] | Mapping[Any, str] | None = None, *,
+                   into: Section | Header | Footnote | Shape | None = None, widths: Sequence[_Length] | None = None,
+                   header: bool = True, lines: bool = True, stripes: _Color | None = "#f2f2f2", style_name: str = "",
+                   text: Callable[[Any], str] | None = None) -> int:
     """Adds a table of rows of data, one after the other: however many there are, none is kept.
 
     rows is any iterable of lists, tuples, mappings or rows of a database cursor, or a frame of pandas or polars. columns has
@@ -37,42 +42,35 @@ def add_table_from(self, rows, columns=None, *, into=None, widths=None, header=T
     elif len(widths) != count:
         raise ValueError(f"{len(widths)} widths for {count} columns")
     right = [_are_numbers(row[column] for row in first) for column in range(count)]
-    table = _Table(into, widths, right, lines, style_name)
-    if header and headings:
-        table.add_row(headings, "#d9d9d9", True)
-    number = 0
-    for number, row in enumerate(itertools.chain(first, rest), 1):
-        table.add_row(map(text, row), stripes if number % 2 == 0 else None)
-    return number
+    right_align, solid = enumeration("ParagraphAlign").RIGHT, enumeration("Texture").SOLID
+    single = enumeration("BorderStyle").SINGLE
 
-
-class _Table:
-    def __init__(self, into, widths, right, lines, style_name):
-        self.into, self.widths, self.right, self.lines, self.style_name = into, widths, right, lines, style_name
-        self.right_align = _d._enumeration("ParagraphAlign").RIGHT
-        self.solid, self.single = _d._enumeration("Texture").SOLID, _d._enumeration("BorderStyle").SINGLE
-
-    def add_row(self, texts, color, is_header=False):
-        row = self.into.add_table(keep_together=True)
-        if is_header:
-            row.header = True
-        for text, width, right in zip(texts, self.widths, self.right):
+    def add_row(texts, color, is_header=False):
+        row = into.add_table(keep_together=True, header=is_header)
+        for text, width, is_number in zip(texts, widths, right):
             cell = row.add_cell()
             cell.width = width
-            if self.lines:
+            if lines:
                 for side in cell.borders:
-                    side.style = self.single
+                    side.style = single
             if color is not None:
                 background = cell.background
-                background.texture, background.back_color = self.solid, color
+                background.texture, background.back_color = solid, color
             paragraph = cell.add_paragraph()
-            if self.style_name:
-                paragraph.style_name = self.style_name
-            if right:
-                paragraph.format.align = self.right_align
+            if style_name:
+                paragraph.style_name = style_name
+            if is_number:
+                paragraph.format.align = right_align
             if is_header:
                 paragraph.font_format.bold = True
             paragraph.add_text_item(text)
+
+    if header and headings:
+        add_row(headings, "#d9d9d9", True)
+    number = 0
+    for number, row in enumerate(itertools.chain(first, rest), 1):
+        add_row(map(text, row), stripes if number % 2 == 0 else None)
+    return number
 
 
 def _shape(rows, columns):
