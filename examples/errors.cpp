@@ -36,7 +36,7 @@ const Case Cases[] = {
     {"the seventh border of six", [](Paragraph& p) { p.Borders()->Items(dwParagraphBorder{7}); }},
     {"a change after the first text",
      [](Paragraph& p) {
-         p.AddTextItem("Written: ");
+         p.AddText("Written: ");
          p.Format()->SetAlign(dwAlignRight);
      }},
 };
@@ -71,7 +71,7 @@ void WriteErrors(const std::string& filename) {
         auto paragraph = section->AddParagraph("Normal");
         const std::string refusal = Refusal(one.call, *paragraph);
         paragraph->AddTextItem(one.what)->FontFormat()->SetBold(true);
-        paragraph->AddTextItem(": " + refusal);
+        paragraph->AddText(": " + refusal);
     }
 
     // A folder stands where the file is to go.

@@ -23,7 +23,7 @@ def refusal(call: Callable[[Paragraph], Any], paragraph: Paragraph) -> str:
 
 
 def write_and_align(paragraph: Paragraph) -> None:
-    paragraph.add_text_item("Written: ")
+    paragraph.add_text("Written: ")
     paragraph.format.align = ParagraphAlign.RIGHT
 
 
@@ -65,7 +65,7 @@ def write_errors(filename: str) -> None:
         paragraph = section.add_paragraph("Normal")
         refused = refusal(call, paragraph)
         paragraph.add_text_item(what).font_format.bold = True
-        paragraph.add_text_item(f": {refused}")
+        paragraph.add_text(f": {refused}")
 
     # A folder stands where the file is to go.
     if os.path.exists(filename):

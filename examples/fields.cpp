@@ -51,9 +51,9 @@ void WriteFields(const char* filename) {
     auto footer = section->AddHeader(dwFooter)->AddParagraph("Normal");
     footer->Format()->SetAlign(dwAlignCenter);
     footer->AddField("TITLE", "Rules of the allotment");
-    footer->AddTextItem(" · page ");
+    footer->AddText(" · page ");
     footer->AddField("PAGE", "1");
-    footer->AddTextItem(" of ");
+    footer->AddText(" of ");
     footer->AddField("NUMPAGES", "2");
     // [footer]
 
@@ -64,14 +64,14 @@ void WriteFields(const char* filename) {
 
     auto reference = section->AddParagraph("Normal", "What the pump may be used for stands on page ");
     reference->AddField("PAGEREF water", "2");
-    reference->AddTextItem(". As of ");
+    reference->AddText(". As of ");
     reference->AddField("DATE", "1 April 2026")->SetDatePicture("d MMMM yyyy");
-    reference->AddTextItem(" it is locked at night.");
+    reference->AddText(" it is locked at night.");
 
     auto heading = section->AddParagraph("Heading 1");
     heading->Format()->SetPageBreakBefore(true);
     heading->AddBookmark("water");
-    heading->AddTextItem("Water");
+    heading->AddText("Water");
     heading->AddBookmark("water", false);
     // [contents]
     section->AddParagraph("Normal", "For plants, hands and the coffee of the committee.");

@@ -44,9 +44,9 @@ def write_fields(filename: str) -> None:
         footer = section.add_header(HeaderKind.FOOTER).add_paragraph("Normal")
         footer.format.align = ParagraphAlign.CENTER
         footer.add_field("TITLE", "Rules of the allotment")
-        footer.add_text_item(" · page ")
+        footer.add_text(" · page ")
         footer.add_field("PAGE", "1")
-        footer.add_text_item(" of ")
+        footer.add_text(" of ")
         footer.add_field("NUMPAGES", "2")
         # [footer]
 
@@ -56,14 +56,14 @@ def write_fields(filename: str) -> None:
 
         reference = section.add_paragraph("Normal", "What the pump may be used for stands on page ")
         reference.add_field("PAGEREF water", "2")
-        reference.add_text_item(". As of ")
+        reference.add_text(". As of ")
         reference.add_field("DATE", "1 April 2026", date_picture="d MMMM yyyy")
-        reference.add_text_item(" it is locked at night.")
+        reference.add_text(" it is locked at night.")
 
         heading = section.add_paragraph("Heading 1")
         heading.format.page_break_before = True
         heading.add_bookmark("water")
-        heading.add_text_item("Water")
+        heading.add_text("Water")
         heading.add_bookmark("water", is_start=False)
         # [contents]
         section.add_paragraph("Normal", "For plants, hands and the coffee of the committee.")

@@ -19,8 +19,8 @@ void WriteReport(const char* filename) {
     auto title = section->AddParagraph();
     title->Format()->SetAlign(dwAlignCenter);
     title->FontFormat()->SetSize(18);
-    title->AddTextItem("Quarterly report");
-    section->AddParagraph()->AddTextItem("Sales rose by a tenth, complaints fell by half.");
+    title->AddText("Quarterly report");
+    section->AddParagraph()->AddText("Sales rose by a tenth, complaints fell by half.");
     document->Finish();
 }
 // [document]

@@ -19,7 +19,7 @@ def write_report(filename: str) -> None:
         title = section.add_paragraph()
         title.format.align = ParagraphAlign.CENTER
         title.font_format.size = 18
-        title.add_text_item("Quarterly report")
+        title.add_text("Quarterly report")
         section.add_paragraph(text="Sales rose by a tenth, complaints fell by half.")
 # [document]
 

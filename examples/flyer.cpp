@@ -170,7 +170,7 @@ void DrawBurst(Paragraph& anchor) {
     stamp->FontFormat()->SetSize(16);
     stamp->FontFormat()->SetBold(true);
     stamp->FontFormat()->SetColor(White);
-    stamp->AddTextItem("Free!");
+    stamp->AddText("Free!");
 }
 
 // [box]
@@ -196,7 +196,7 @@ void AddProgramme(Paragraph& anchor) {
     }
     auto below = box->AddParagraph();
     below->FontFormat()->SetColor(Navy);
-    below->AddTextItem("Soup while there is any.");
+    below->AddText("Soup while there is any.");
 }
 // [box]
 

@@ -137,7 +137,7 @@ def draw_burst(anchor: Paragraph) -> None:
     stamp.font_format.size = 16
     stamp.font_format.bold = True
     stamp.font_format.color = WHITE
-    stamp.add_text_item("Free!")
+    stamp.add_text("Free!")
 
 
 # [box]
@@ -155,7 +155,7 @@ def add_programme(anchor: Paragraph) -> None:
         row.add_cell(width=2.5).add_paragraph("Copy", event)
     below = box.add_paragraph()
     below.font_format.color = NAVY
-    below.add_text_item("Soup while there is any.")
+    below.add_text("Soup while there is any.")
 # [box]
 
 

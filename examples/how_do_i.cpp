@@ -53,7 +53,7 @@ void AddStep(Section& section, const char* list, const char* text) {
     item->Format()->SetListLevel(1);
     item->Format()->SetIndentLeft(1_cm);
     item->Format()->SetIndentFirst(-1_cm);
-    item->AddTextItem(text);
+    item->AddText(text);
 }
 // [step]
 
@@ -62,7 +62,7 @@ void AddStep(Section& section, const char* list, const char* text) {
 void AddContentsLine(Section& section, const std::string& text, const std::string& bookmark, int page) {
     auto line = section.AddParagraph("Contents");
     line->AddField("HYPERLINK \\l \"" + bookmark + "\"", text);
-    line->AddTextItem("\t");
+    line->AddText("\t");
     line->AddField("PAGEREF " + bookmark, std::to_string(page));
 }
 // [contents-line]
@@ -71,7 +71,7 @@ void AddContentsLine(Section& section, const std::string& text, const std::strin
 void AddHeading(Section& section, const std::string& text, const std::string& bookmark) {
     auto heading = section.AddParagraph("Heading 1");
     heading->AddBookmark(bookmark);
-    heading->AddTextItem(text);
+    heading->AddText(text);
     heading->AddBookmark(bookmark, false);
 }
 // [heading]
@@ -83,9 +83,9 @@ void AddHeaders(Section& section, const std::string& logo) {
     // [header-picture]
     // [page-of]
     auto footer = section.AddHeader(dwFooter)->AddParagraph("Normal");
-    footer->AddTextItem("Page ");
+    footer->AddText("Page ");
     footer->AddField("PAGE", "1");
-    footer->AddTextItem(" of ");
+    footer->AddText(" of ");
     footer->AddField("NUMPAGES", "6");
     // [page-of]
 }
@@ -94,7 +94,7 @@ void AddText(Section& section) {
     // [bold]
     auto paragraph = section.AddParagraph("Normal", "One word is ");
     paragraph->AddTextItem("bold")->FontFormat()->SetBold(true);
-    paragraph->AddTextItem(", the others are not.");
+    paragraph->AddText(", the others are not.");
     // [bold]
     // [unicode]
     section.AddParagraph("Normal", "Łódź, Ελλάδα, Київ, 日本 and 🙂");
@@ -113,19 +113,19 @@ void AddText(Section& section) {
     auto link = text->AddField("HYPERLINK \"https://example.org/tickets\"", "example.org/tickets");
     link->FontFormat()->SetColor(Rgb(5, 99, 193));
     link->FontFormat()->SetUnderline(dwUnderlineSingle);
-    text->AddTextItem(".");
+    text->AddText(".");
     // [link]
     // [tab]
     auto price = section.AddParagraph("Normal");
     price->TabStops()->Add(16_cm, dwTabRight, dwTabLeaderDots);
-    price->AddTextItem("Ferry, return\t18.50");
+    price->AddText("Ferry, return\t18.50");
     // [tab]
     // [footnote]
     auto noted = section.AddParagraph("Normal", "The first boat leaves at six");
     noted->AddTextItem("")->AddSpecial(Special::Footnote());
     auto note = noted->AddFootnote()->AddParagraph("Normal");
     note->AddTextItem("")->AddSpecial(Special::Footnote());
-    note->AddTextItem(" On Sundays at seven.");
+    note->AddText(" On Sundays at seven.");
     // [footnote]
     // [today]
     section.AddParagraph("Normal", "As of ")->AddField("DATE", "1 April 2026")->SetDatePicture("d MMMM yyyy");
@@ -136,7 +136,7 @@ void AddReferences(Section& section, const std::string& photo) {
     // [picture]
     auto words = section.AddParagraph("Normal", "The sign ");
     words->AddPicture(photo, 0, 14_pt);  // 14 points high, as wide as that makes it
-    words->AddTextItem(" means that the harbour is open.");
+    words->AddText(" means that the harbour is open.");
     // [picture]
     // [caption]
     auto figure = section.AddParagraph("Normal");
@@ -144,17 +144,17 @@ void AddReferences(Section& section, const std::string& photo) {
     figure->AddPicture(photo, 6_cm);
     auto caption = section.AddParagraph("Normal");
     caption->AddBookmark("harbour");
-    caption->AddTextItem("Figure ");
+    caption->AddText("Figure ");
     caption->AddField("SEQ Figure", "1");
     caption->AddBookmark("harbour", false);
-    caption->AddTextItem(": The harbour in the evening");
+    caption->AddText(": The harbour in the evening");
     // [caption]
     // [reference]
     auto text = section.AddParagraph("Normal", "See ");
     text->AddField("REF harbour \\h", "Figure 1");
-    text->AddTextItem(" on page ");
+    text->AddText(" on page ");
     text->AddField("PAGEREF harbour", "1");
-    text->AddTextItem(".");
+    text->AddText(".");
     // [reference]
 }
 
@@ -247,8 +247,8 @@ void AddShapes(Section& section, const std::string& photo) {
     frame->SetReferenceX(dwSRXColumn);
     frame->SetReferenceY(dwSRYParagraph);
     frame->SetWrap(dwSWAround);
-    paragraph->AddTextItem("The picture stands on the right, twelve centimetres from where the column "
-                           "begins, and the text flows around it.");
+    paragraph->AddText("The picture stands on the right, twelve centimetres from where the column "
+                       "begins, and the text flows around it.");
     // [wrap]
     // [box]
     auto anchor = section.AddParagraph("Normal");
@@ -300,7 +300,7 @@ void WriteAnswers(const std::string& filename) {
     // [page-break]
     auto next = section->AddParagraph("Normal");
     next->Format()->SetPageBreakBefore(true);
-    next->AddTextItem("This line begins a page.");
+    next->AddText("This line begins a page.");
     // [page-break]
     AddHeading(*section, "Tables", "chapter2");
     AddTables(*section, photo);
@@ -322,7 +322,7 @@ void WriteAnswers(const std::string& filename) {
     columns->AddParagraph("Normal", "In the first column.");
     auto second = columns->AddParagraph("Normal");
     second->AddTextItem("")->AddSpecial(Special::ColumnBreak());
-    second->AddTextItem("In the second column.");
+    second->AddText("In the second column.");
     // [first-page]
     auto annex = document->AddSection();
     annex->SetTitlePage(true);

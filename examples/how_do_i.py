@@ -47,7 +47,7 @@ def add_step(section: Section, list_name: str, text: str) -> None:
     item.format.list_level = 1
     item.format.indent_left = "1cm"
     item.format.indent_first = "-1cm"
-    item.add_text_item(text)
+    item.add_text(text)
 # [step]
 
 
@@ -56,7 +56,7 @@ def add_contents_line(section: Section, text: str, bookmark: str, page: int) -> 
     """A line of a table of contents that every reader shows and follows: a link, a tab and the number of the page."""
     line = section.add_paragraph("Contents")
     line.add_field(rf'HYPERLINK \l "{bookmark}"', text)
-    line.add_text_item("\t")
+    line.add_text("\t")
     line.add_field(f"PAGEREF {bookmark}", str(page))
 # [contents-line]
 
@@ -65,7 +65,7 @@ def add_contents_line(section: Section, text: str, bookmark: str, page: int) -> 
 def add_heading(section: Section, text: str, bookmark: str) -> None:
     heading = section.add_paragraph("Heading 1")
     heading.add_bookmark(bookmark)
-    heading.add_text_item(text)
+    heading.add_text(text)
     heading.add_bookmark(bookmark, is_start=False)
 # [heading]
 
@@ -77,9 +77,9 @@ def add_headers(section: Section, logo: str) -> None:
     # [header-picture]
     # [page-of]
     footer = section.add_header(HeaderKind.FOOTER).add_paragraph("Normal")
-    footer.add_text_item("Page ")
+    footer.add_text("Page ")
     footer.add_field("PAGE", "1")
-    footer.add_text_item(" of ")
+    footer.add_text(" of ")
     footer.add_field("NUMPAGES", "6")
     # [page-of]
 
@@ -88,7 +88,7 @@ def add_text(section: Section) -> None:
     # [bold]
     paragraph = section.add_paragraph("Normal", "One word is ")
     paragraph.add_text_item("bold").font_format.bold = True
-    paragraph.add_text_item(", the others are not.")
+    paragraph.add_text(", the others are not.")
     # [bold]
     # [unicode]
     section.add_paragraph("Normal", "Łódź, Ελλάδα, Київ, 日本 and 🙂")
@@ -107,19 +107,19 @@ def add_text(section: Section) -> None:
     link = text.add_field('HYPERLINK "https://example.org/tickets"', "example.org/tickets")
     link.font_format.color = "#0563c1"
     link.font_format.underline = UnderlineStyle.SINGLE
-    text.add_text_item(".")
+    text.add_text(".")
     # [link]
     # [tab]
     price = section.add_paragraph("Normal")
     price.tab_stops.add("16cm", TabAlign.RIGHT, TabLeader.DOTS)
-    price.add_text_item("Ferry, return\t18.50")
+    price.add_text("Ferry, return\t18.50")
     # [tab]
     # [footnote]
     noted = section.add_paragraph("Normal", "The first boat leaves at six")
     noted.add_text_item("").add_special(SPECIAL.footnote)  # SPECIAL is draftwick.Special()
     note = noted.add_footnote().add_paragraph("Normal")
     note.add_text_item("").add_special(SPECIAL.footnote)
-    note.add_text_item(" On Sundays at seven.")
+    note.add_text(" On Sundays at seven.")
     # [footnote]
     # [today]
     section.add_paragraph("Normal", "As of ").add_field("DATE", "1 April 2026", date_picture="d MMMM yyyy")
@@ -130,7 +130,7 @@ def add_references(section: Section, photo: str) -> None:
     # [picture]
     words = section.add_paragraph("Normal", "The sign ")
     words.add_picture(photo, height="14pt")  # as wide as that makes it
-    words.add_text_item(" means that the harbour is open.")
+    words.add_text(" means that the harbour is open.")
     # [picture]
     # [caption]
     figure = section.add_paragraph("Normal")
@@ -138,17 +138,17 @@ def add_references(section: Section, photo: str) -> None:
     figure.add_picture(photo, "6cm")
     caption = section.add_paragraph("Normal")
     caption.add_bookmark("harbour")
-    caption.add_text_item("Figure ")
+    caption.add_text("Figure ")
     caption.add_field("SEQ Figure", "1")
     caption.add_bookmark("harbour", is_start=False)
-    caption.add_text_item(": The harbour in the evening")
+    caption.add_text(": The harbour in the evening")
     # [caption]
     # [reference]
     text = section.add_paragraph("Normal", "See ")
     text.add_field(r"REF harbour \h", "Figure 1")
-    text.add_text_item(" on page ")
+    text.add_text(" on page ")
     text.add_field("PAGEREF harbour", "1")
-    text.add_text_item(".")
+    text.add_text(".")
     # [reference]
 
 
@@ -262,7 +262,7 @@ def write_answers(filename: str, photo: str) -> None:
         # [page-break]
         following = section.add_paragraph("Normal")
         following.format.page_break_before = True
-        following.add_text_item("This line begins a page.")
+        following.add_text("This line begins a page.")
         # [page-break]
         add_heading(section, "Tables", "chapter2")
         add_tables(section, photo)
@@ -281,7 +281,7 @@ def write_answers(filename: str, photo: str) -> None:
         columns.add_paragraph("Normal", "In the first column.")
         second = columns.add_paragraph("Normal")
         second.add_text_item("").add_special(SPECIAL.column_break)
-        second.add_text_item("In the second column.")
+        second.add_text("In the second column.")
         # [first-page]
         annex = document.add_section(title_page=True)
         annex.add_header(HeaderKind.HEADER_FIRST).add_paragraph("Normal", "Only on the first page")

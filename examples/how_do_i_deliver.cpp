@@ -83,11 +83,11 @@ void WriteAnswers(const std::string& filename) {
     auto frame = paragraph->AddShape(dwSKPictureFrame);
     frame->Fill()->SetPicture("of-a-customer.jpg");
     try {
-        paragraph->AddTextItem(" with its picture.");  // the call that writes the picture
+        paragraph->AddText(" with its picture.");  // the call that writes the picture
     } catch (const Error& error) {
         Explain(error);
         frame->Remove();
-        paragraph->AddTextItem(" without its picture.");
+        paragraph->AddText(" without its picture.");
     }
     // [remove]
     // [discard]

@@ -79,7 +79,7 @@ def write_answers(filename: str) -> None:
         except draftwick.Error as error:
             explain(error)
             frame.remove()
-            paragraph.add_text_item(" without its picture.")
+            paragraph.add_text(" without its picture.")
         # [remove]
         # [discard]
         draft = draftwick.Document()

@@ -84,23 +84,23 @@ void AddHeaders(Section& section) {
     name->FontFormat()->SetSize(22);
     name->FontFormat()->SetBold(true);
     name->FontFormat()->SetColor(Rgb(16, 59, 122));
-    name->AddTextItem("Nordlicht Stage Services");
+    name->AddText("Nordlicht Stage Services");
     auto address = letterhead->AddParagraph("Small print");
     address->Format()->SetSpaceAfter(6);
     address->Borders()->Items(dwPBorderBottom)->SetStyle(dwBSSingle);
-    address->AddTextItem("Kaistraße 4 · 24103 Kiel · +49 431 555 0117 · office@nordlicht.example");
+    address->AddText("Kaistraße 4 · 24103 Kiel · +49 431 555 0117 · office@nordlicht.example");
 
     auto running = section.AddHeader(dwHeader)->AddParagraph("Small print");
     running->TabStops()->Add(6.7, dwTabRight, dwTabLeaderNone);
-    running->AddTextItem("Nordlicht Stage Services\tInvoice " + Number);
+    running->AddText("Nordlicht Stage Services\tInvoice " + Number);
 
     for (const dwHeaderKind kind : {dwFooterFirst, dwFooter}) {
         auto footer = section.AddHeader(kind)->AddParagraph("Small print");
         footer->TabStops()->Add(6.7, dwTabRight, dwTabLeaderNone);
-        footer->AddTextItem("IBAN DE02 1203 0000 0000 2020 51\tPage ");
+        footer->AddText("IBAN DE02 1203 0000 0000 2020 51\tPage ");
         // Readers compute these; the numbers here are shown until they do.
         footer->AddField("PAGE", "1");
-        footer->AddTextItem(" of ");
+        footer->AddText(" of ");
         footer->AddField("NUMPAGES", "1");
     }
 }
@@ -120,7 +120,7 @@ void AddText(Cell& cell, std::string_view text, dwParagraphAlign align = dwAlign
     auto paragraph = cell.AddParagraph("Cell");
     paragraph->Format()->SetAlign(align);
     paragraph->FontFormat()->SetBold(bold);
-    paragraph->AddTextItem(text);
+    paragraph->AddText(text);
 }
 
 void Shade(Cell& cell, double percent) {
@@ -225,7 +225,7 @@ void WriteInvoice(const std::string& filename) {
     auto closing = section->AddParagraph("Normal");
     closing->Format()->SetSpaceBefore(12);
     closing->Format()->SetKeepIntact(true);
-    closing->AddTextItem("Please pay within 14 days to the account below, with the number of this invoice.");
+    closing->AddText("Please pay within 14 days to the account below, with the number of this invoice.");
 
     document->Finish();
 }

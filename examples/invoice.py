@@ -71,23 +71,23 @@ def add_headers(section: Section) -> None:
     name.font_format.size = 22
     name.font_format.bold = True
     name.font_format.color = "#103b7a"
-    name.add_text_item("Nordlicht Stage Services")
+    name.add_text("Nordlicht Stage Services")
     address = letterhead.add_paragraph("Small print")
     address.format.space_after = 6
     address.borders[ParagraphBorderSide.BOTTOM].style = BorderStyle.SINGLE
-    address.add_text_item("Kaistraße 4 · 24103 Kiel · +49 431 555 0117 · office@nordlicht.example")
+    address.add_text("Kaistraße 4 · 24103 Kiel · +49 431 555 0117 · office@nordlicht.example")
 
     running = section.add_header(HeaderKind.HEADER).add_paragraph("Small print")
     running.tab_stops.add(6.7, TabAlign.RIGHT, TabLeader.NONE)
-    running.add_text_item(f"Nordlicht Stage Services\tInvoice {NUMBER}")
+    running.add_text(f"Nordlicht Stage Services\tInvoice {NUMBER}")
 
     for kind in HeaderKind.FOOTER_FIRST, HeaderKind.FOOTER:
         footer = section.add_header(kind).add_paragraph("Small print")
         footer.tab_stops.add(6.7, TabAlign.RIGHT, TabLeader.NONE)
-        footer.add_text_item("IBAN DE02 1203 0000 0000 2020 51\tPage ")
+        footer.add_text("IBAN DE02 1203 0000 0000 2020 51\tPage ")
         # Readers compute these; the numbers here are shown until they do.
         footer.add_field("PAGE", "1")
-        footer.add_text_item(" of ")
+        footer.add_text(" of ")
         footer.add_field("NUMPAGES", "1")
 
 
@@ -105,7 +105,7 @@ def add_text(cell: Cell, text: str, align: ParagraphAlign = ParagraphAlign.LEFT,
     paragraph = cell.add_paragraph("Cell")
     paragraph.format.align = align
     paragraph.font_format.bold = bold
-    paragraph.add_text_item(text)
+    paragraph.add_text(text)
 
 
 def add_head(section: Section) -> None:
@@ -171,7 +171,7 @@ def write_invoice(filename: str) -> None:
         closing = section.add_paragraph("Normal")
         closing.format.space_before = 12
         closing.format.keep_intact = True
-        closing.add_text_item("Please pay within 14 days to the account below, with the number of this invoice.")
+        closing.add_text("Please pay within 14 days to the account below, with the number of this invoice.")
 
 
 if __name__ == "__main__":

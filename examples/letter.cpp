@@ -45,13 +45,12 @@ void WriteLetter(const char* filename) {
     AddStyles(*document);
 
     auto section = document->AddSection();
-    section->AddParagraph("Address", "Fenwick & Daughters, bookbinders")
-        ->AddTextItem("\n12 Mill Lane\nAshford");
+    section->AddParagraph("Address", "Fenwick & Daughters, bookbinders")->AddText("\n12 Mill Lane\nAshford");
 
     // What differs from the style is set on the paragraph, before it gets its text.
     auto date = section->AddParagraph("Letter");
     date->Format()->SetAlign(dwAlignRight);
-    date->AddTextItem("3 March");
+    date->AddText("3 March");
 
     section->AddParagraph("Address", "Mrs. Zoë Müller");
     section->AddParagraph("Address", "Municipal Library, Castle Street 4");
@@ -59,21 +58,21 @@ void WriteLetter(const char* filename) {
     section->AddParagraph("Letter", "Dear Mrs. Müller,");
 
     auto offer = section->AddParagraph("Letter", "thank you for letting us see the nine volumes of the ");
-    offer->AddTextItem("Ashford Chronicle")->SetStyleName("Title");
-    offer->AddTextItem(". Three of them need new spines, the others only their corners mended. We offer the "
-                       "whole work for €1,240 and need “about six weeks”, as you asked.");
+    offer->AddText("Ashford Chronicle", "Title");
+    offer->AddText(". Three of them need new spines, the others only their corners mended. We offer the "
+                   "whole work for €1,240 and need “about six weeks”, as you asked.");
 
     auto closing =
         section->AddParagraph("Letter", "We would fetch the books ourselves: they should not travel "
                                         "in the post in ");
     auto stress = closing->AddTextItem("their");
     stress->FontFormat()->SetUnderline(dwUnderlineSingle);
-    closing->AddTextItem(" condition.");
+    closing->AddText(" condition.");
 
     section->AddParagraph("Letter", "Yours sincerely,");
     auto name = section->AddParagraph("Letter");
     name->Format()->SetSpaceBefore(24);
-    name->AddTextItem("Ada Fenwick");
+    name->AddText("Ada Fenwick");
 
     document->Finish();
     std::cout << "written: " << document->ActualFileName() << '\n';

@@ -42,7 +42,7 @@ def write_letter(filename: str) -> None:
         # What differs from the style is set on the paragraph, before it gets its text.
         date = section.add_paragraph("Letter")
         date.format.align = ParagraphAlign.RIGHT
-        date.add_text_item("3 March")
+        date.add_text("3 March")
 
         section.add_paragraph("Address", "Mrs. Zoë Müller")
         section.add_paragraph("Address", "Municipal Library, Castle Street 4")
@@ -50,18 +50,18 @@ def write_letter(filename: str) -> None:
         section.add_paragraph("Letter", "Dear Mrs. Müller,")
 
         offer = section.add_paragraph("Letter", "thank you for letting us see the nine volumes of the ")
-        offer.add_text_item("Ashford Chronicle", style_name="Title")
+        offer.add_text("Ashford Chronicle", style_name="Title")
         offer.add_text_item(". Three of them need new spines, the others only their corners mended. We offer the whole work "
                             "for €1,240 and need “about six weeks”, as you asked.")
 
         closing = section.add_paragraph("Letter", "We would fetch the books ourselves: they should not travel in the post in ")
         closing.add_text_item("their").font_format.underline = UnderlineStyle.SINGLE
-        closing.add_text_item(" condition.")
+        closing.add_text(" condition.")
 
         section.add_paragraph("Letter", "Yours sincerely,")
         name = section.add_paragraph("Letter")
         name.format.space_before = 24
-        name.add_text_item("Ada Fenwick")
+        name.add_text("Ada Fenwick")
 
 
 if __name__ == "__main__":

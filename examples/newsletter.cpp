@@ -48,7 +48,7 @@ void AddHeading(Section& section, std::string_view bookmark, std::string_view te
     auto heading = AddParagraph(section, Headline);
     heading->Format()->SetKeepWithNext(true);
     heading->AddBookmark(bookmark);
-    heading->AddTextItem(text);
+    heading->AddText(text);
     heading->AddBookmark(bookmark, false);
 }
 
@@ -64,8 +64,8 @@ void AddNote(Paragraph& paragraph, std::string_view text, bool isEndnote = false
     auto note = paragraph.AddFootnote(isEndnote)->AddParagraph();
     note->FontFormat()->SetSize(8.5);
     AddNoteNumber(*note);
-    note->AddTextItem(" ");
-    note->AddTextItem(text);
+    note->AddText(" ");
+    note->AddText(text);
 }
 
 /// The first letter of an article, three lines high: a paragraph of its own in a frame at the head of the text, which
@@ -77,46 +77,41 @@ void AddDropCap(Section& section, std::string_view letter) {
     paragraph->Frame()->SetSpacingX(0.04);
     paragraph->Format()->SetLineSpacingStyle(dwSpacingExactly);
     paragraph->Format()->SetLineSpacingDistance(40);  // three lines of the text
-    paragraph->AddTextItem(letter);
+    paragraph->AddText(letter);
 }
 
 void AddArticles(Section& section) {
     AddHeading(section, "Harvest", "A late harvest");
     AddDropCap(section, "T");
     auto first = AddParagraph(section, Text);
-    first->AddTextItem(
-        "he orchard behind the station gave more apples this year than in the three years before "
-        "together. The first baskets went to the school kitchen");
+    first->AddText("he orchard behind the station gave more apples this year than in the three years before "
+                   "together. The first baskets went to the school kitchen");
     AddNote(*first, "412 kg, weighed by the pupils themselves.");
-    first->AddTextItem(
-        ", the rest to the cider press in the old fire station, which ran for nine days without a "
-        "break. Whoever brought apples took bottles home; whoever brought none could buy them.");
+    first->AddText(", the rest to the cider press in the old fire station, which ran for nine days without a "
+                   "break. Whoever brought apples took bottles home; whoever brought none could buy them.");
     auto second = AddParagraph(section, Text);
-    second->AddTextItem(
-        "Two trees at the northern fence will be felled in winter. They were planted in 1921");
+    second->AddText("Two trees at the northern fence will be felled in winter. They were planted in 1921");
     AddNote(*second, "Parish register of 1921, page 88.", true);
-    second->AddTextItem(
+    second->AddText(
         " and have carried nothing but mistletoe for some years. Six young trees of old varieties "
         "will take their place, each with a godparent in the neighbourhood. Names for the list "
         "are still welcome.");
 
     AddHeading(section, "Bridge", "The bridge is open");
     auto third = AddParagraph(section, Text);
-    third->AddTextItem(
-        "After fourteen months of detours the footbridge over the mill stream is open again. The "
-        "new deck is oak, the railings are the old ones, straightened and galvanised. It carries "
-        "bicycles, prams and one horse at a time");
+    third->AddText("After fourteen months of detours the footbridge over the mill stream is open again. The "
+                   "new deck is oak, the railings are the old ones, straightened and galvanised. It carries "
+                   "bicycles, prams and one horse at a time");
     AddNote(*third, "The limit is 2.5 tonnes; the sign has been corrected.");
-    third->AddTextItem(
-        ". On the first Sunday more than three hundred people crossed it, most of them several "
-        "times and in both directions.");
+    third->AddText(". On the first Sunday more than three hundred people crossed it, most of them several "
+                   "times and in both directions.");
     auto fourth = AddParagraph(section, Text);
-    fourth->AddTextItem(
+    fourth->AddText(
         "The council thanks the volunteers who ferried shopping across the stream in a rowing boat. "
         "The boat has been given to the museum, which will show it from May, next to the beams of "
         "the first bridge of 1788");
     AddNote(*fourth, "See the museum's catalogue of 1994, number 31.", true);
-    fourth->AddTextItem(".");
+    fourth->AddText(".");
 
     AddHeading(section, "Dates", "Dates");
     for (const std::string_view date :
@@ -124,7 +119,7 @@ void AddArticles(Section& section) {
           "18 April\tMeeting of the residents"}) {
         auto line = AddParagraph(section, Line);
         line->TabStops()->Add(0.9, dwTabLeft, dwTabLeaderNone);
-        line->AddTextItem(date);
+        line->AddText(date);
     }
 }
 
@@ -145,11 +140,11 @@ void WriteNewsletter(const std::string& filename) {
     auto front = document->AddSection();
     auto footer = AddParagraph(*front->AddHeader(dwFooter), Footer);
     footer->AddTextItem("The Mill Stream, page ")->AddSpecial(Special::PageNumber());
-    AddParagraph(*front, Title)->AddTextItem("The Mill Stream");
+    AddParagraph(*front, Title)->AddText("The Mill Stream");
     auto issue = AddParagraph(*front, Issue);
     issue->Borders()->Items(dwPBorderBottom)->SetStyle(dwBSThinThickSmallGap);
     issue->Borders()->Items(dwPBorderBottom)->SetWidth(3);
-    issue->AddTextItem("News from both banks · Spring 2026");
+    issue->AddText("News from both banks · Spring 2026");
 
     // A section that begins where the one before ended: the columns start below the title.
     auto columns = document->AddSection();

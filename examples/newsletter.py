@@ -53,7 +53,7 @@ def add_heading(section: Section, bookmark: str, text: str) -> None:
     heading = add_paragraph(section, HEADLINE)
     heading.format.keep_with_next = True
     heading.add_bookmark(bookmark)
-    heading.add_text_item(text)
+    heading.add_text(text)
     heading.add_bookmark(bookmark, is_start=False)
 
 
@@ -69,8 +69,8 @@ def add_note(paragraph: Paragraph, text: str, is_endnote: bool = False) -> None:
     note = paragraph.add_footnote(is_endnote).add_paragraph()
     note.font_format.size = 8.5
     add_note_number(note)
-    note.add_text_item(" ")
-    note.add_text_item(text)
+    note.add_text(" ")
+    note.add_text(text)
 
 
 def add_drop_cap(section: Section, letter: str) -> None:
@@ -82,7 +82,7 @@ def add_drop_cap(section: Section, letter: str) -> None:
     paragraph.frame.spacing_x = 0.04
     paragraph.format.line_spacing_style = LineSpacingStyle.EXACTLY
     paragraph.format.line_spacing_distance = 40  # three lines of the text
-    paragraph.add_text_item(letter)
+    paragraph.add_text(letter)
 
 
 def add_articles(section: Section) -> None:
@@ -95,7 +95,7 @@ def add_articles(section: Section) -> None:
     first.add_text_item(", the rest to the cider press in the old fire station, which ran for nine days without a break. Whoever "
                         "brought apples took bottles home; whoever brought none could buy them.")
     second = add_paragraph(section, TEXT)
-    second.add_text_item("Two trees at the northern fence will be felled in winter. They were planted in 1921")
+    second.add_text("Two trees at the northern fence will be felled in winter. They were planted in 1921")
     add_note(second, "Parish register of 1921, page 88.", is_endnote=True)
     second.add_text_item(" and have carried nothing but mistletoe for some years. Six young trees of old varieties will take "
                          "their place, each with a godparent in the neighbourhood. Names for the list are still welcome.")
@@ -112,14 +112,14 @@ def add_articles(section: Section) -> None:
     fourth.add_text_item("The council thanks the volunteers who ferried shopping across the stream in a rowing boat. The boat has "
                          "been given to the museum, which will show it from May, next to the beams of the first bridge of 1788")
     add_note(fourth, "See the museum's catalogue of 1994, number 31.", is_endnote=True)
-    fourth.add_text_item(".")
+    fourth.add_text(".")
 
     add_heading(section, "Dates", "Dates")
     for date in ("3 March\tWorking party in the orchard", "21 March\tConcert in the mill", "2 April\tRepair café",
                  "18 April\tMeeting of the residents"):
         line = add_paragraph(section, LINE)
         line.tab_stops.add(0.9, TabAlign.LEFT, TabLeader.NONE)
-        line.add_text_item(date)
+        line.add_text(date)
 
 
 def write_newsletter(filename: str) -> None:
@@ -133,11 +133,11 @@ def write_newsletter(filename: str) -> None:
         front = document.add_section()
         footer = add_paragraph(front.add_header(HeaderKind.FOOTER), FOOTER)
         footer.add_text_item("The Mill Stream, page ").add_special(SPECIAL.page_number)
-        add_paragraph(front, TITLE).add_text_item("The Mill Stream")
+        add_paragraph(front, TITLE).add_text("The Mill Stream")
         issue = add_paragraph(front, ISSUE)
         issue.borders[ParagraphBorderSide.BOTTOM].style = BorderStyle.THIN_THICK_SMALL_GAP
         issue.borders[ParagraphBorderSide.BOTTOM].width = 3
-        issue.add_text_item("News from both banks · Spring 2026")
+        issue.add_text("News from both banks · Spring 2026")
 
         # A section that begins where the one before ended: the columns start below the title.
         columns = document.add_section()

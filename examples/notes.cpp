@@ -23,8 +23,8 @@ void AddNote(Paragraph& paragraph, const char* text, bool isEndnote = false) {
     auto note = paragraph.AddFootnote(isEndnote)->AddParagraph("Normal");
     note->FontFormat()->SetSize(9);
     AddNumber(*note);
-    note->AddTextItem(" ");
-    note->AddTextItem(text);
+    note->AddText(" ");
+    note->AddText(text);
 }
 // [note]
 
@@ -49,19 +49,19 @@ void WriteNotes(const char* filename) {
     auto first = section->AddParagraph("Normal", "The town bought its first fire engine in ");
     // A bookmark has a start and an end with the same name.
     first->AddBookmark("engine");
-    first->AddTextItem("1862");
+    first->AddText("1862");
     first->AddBookmark("engine", false);
     AddNote(*first, "It was drawn by the mayor’s horses, and by the mayor when they were out.");
-    first->AddTextItem(", second-hand, with forty buckets");
+    first->AddText(", second-hand, with forty buckets");
     AddNote(*first, "Council minutes, volume 7, page 112.", true);
-    first->AddTextItem(" and one hose.");
+    first->AddText(" and one hose.");
 
     auto second = section->AddParagraph(
         "Normal", "The hose was the one that had been lent out before. It came back three years after ");
     second->AddField("REF engine", "1862");  // what is between the two marks
-    second->AddTextItem(", patched in eleven places");
+    second->AddText(", patched in eleven places");
     AddNote(*second, "Nine, according to the brewery.");
-    second->AddTextItem(".");
+    second->AddText(".");
     // [text]
     document->Finish();
 }

@@ -24,8 +24,8 @@ def add_note(paragraph: Paragraph, text: str, is_endnote: bool = False) -> None:
     note = paragraph.add_footnote(is_endnote).add_paragraph("Normal")
     note.font_format.size = 9
     add_number(note)
-    note.add_text_item(" ")
-    note.add_text_item(text)
+    note.add_text(" ")
+    note.add_text(text)
 # [note]
 
 
@@ -48,19 +48,19 @@ def write_notes(filename: str) -> None:
         first = section.add_paragraph("Normal", "The town bought its first fire engine in ")
         # A bookmark has a start and an end with the same name.
         first.add_bookmark("engine")
-        first.add_text_item("1862")
+        first.add_text("1862")
         first.add_bookmark("engine", is_start=False)
         add_note(first, "It was drawn by the mayor’s horses, and by the mayor when they were out.")
-        first.add_text_item(", second-hand, with forty buckets")
+        first.add_text(", second-hand, with forty buckets")
         add_note(first, "Council minutes, volume 7, page 112.", is_endnote=True)
-        first.add_text_item(" and one hose.")
+        first.add_text(" and one hose.")
 
         second = section.add_paragraph("Normal", "The hose was the one that had been lent out before. It came back three "
                                                  "years after ")
         second.add_field("REF engine", "1862")  # what is between the two marks
-        second.add_text_item(", patched in eleven places")
+        second.add_text(", patched in eleven places")
         add_note(second, "Nine, according to the brewery.")
-        second.add_text_item(".")
+        second.add_text(".")
         # [text]
 
 

@@ -46,7 +46,7 @@ void AddItem(Section& section, const char* style, const char* list, int level, c
     auto paragraph = section.AddParagraph(style);
     paragraph->Format()->SetListName(list);
     paragraph->Format()->SetListLevel(level);
-    paragraph->AddTextItem(text);
+    paragraph->AddText(text);
 }
 
 void WriteOutline(const char* filename) {
@@ -88,12 +88,12 @@ void WriteOutline(const char* filename) {
     auto last = section->AddParagraph("Item 1");
     last->Format()->SetListName("Agenda");
     last->Format()->SetListFormatName("Roman");
-    last->AddTextItem("Any other business");
+    last->AddText("Any other business");
 
     auto bring = section->AddParagraph();
     bring->Format()->SetSpaceBefore(8);
     bring->Format()->SetSpaceAfter(3);
-    bring->AddTextItem("Please bring");
+    bring->AddText("Please bring");
     AddItem(*section, "Bullet", "Things", 1, "your reader’s card");
     AddItem(*section, "Bullet", "Things", 1, "a chair, if you are more than forty");
 

@@ -44,7 +44,7 @@ def add_item(section: Section, style: str, list_name: str, level: int, text: str
     paragraph = section.add_paragraph(style)
     paragraph.format.list_name = list_name
     paragraph.format.list_level = level
-    paragraph.add_text_item(text)
+    paragraph.add_text(text)
 
 
 def write_outline(filename: str) -> None:
@@ -80,12 +80,12 @@ def write_outline(filename: str) -> None:
         last = section.add_paragraph("Item 1")
         last.format.list_name = "Agenda"
         last.format.list_format_name = "Roman"
-        last.add_text_item("Any other business")
+        last.add_text("Any other business")
 
         bring = section.add_paragraph()
         bring.format.space_before = 8
         bring.format.space_after = 3
-        bring.add_text_item("Please bring")
+        bring.add_text("Please bring")
         add_item(section, "Bullet", "Things", 1, "your reader’s card")
         add_item(section, "Bullet", "Things", 1, "a chair, if you are more than forty")
 

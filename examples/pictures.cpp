@@ -71,7 +71,7 @@ void WritePictures(const std::string& filename) {
     second->SetWrapLeft(0.2);
     second->Fill()->SetPicture(board);  // a bitmap is written as a drawing, a pixel for a pixel
     // [second]
-    text->AddTextItem(
+    text->AddText(
         "From the tower one sees four ranges of hills, and on the clearest days of the year a fifth, which "
         "may be a cloud. The keeper has a board and pieces up there and plays against whoever climbs the two "
         "hundred and eleven steps; he has lost once, in the winter of the long snow, against a girl of nine "

@@ -26,9 +26,9 @@ def write_report(filename: str) -> None:
         section.add_paragraph("Title", "Quarterly report")
         text = section.add_paragraph("Normal")
         text.format.align = ParagraphAlign.JUSTIFY
-        text.add_text_item("Sales rose by ")
+        text.add_text("Sales rose by ")
         text.add_text_item("a tenth").font_format.bold = True
-        text.add_text_item(", complaints fell by half — Žofie’s team in αβγ Street deserves a prize.")
+        text.add_text(", complaints fell by half — Žofie’s team in αβγ Street deserves a prize.")
 
         # Rows are lists, tuples, mappings, named tuples, a database cursor, a frame of pandas or polars.
         document.add_table_from(SALES, ["Region", "Sold", "Growth"], widths=["6cm", "3cm", "3cm"], stripes="#eef3f8")

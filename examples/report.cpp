@@ -164,7 +164,7 @@ void AddHeading(Section& section, const Heading& heading) {
     auto paragraph = section.AddParagraph(heading.style);
     paragraph->Format()->SetPageBreakBefore(paragraph->Format()->OutlineLevel() == 1);
     paragraph->AddBookmark(heading.bookmark);
-    paragraph->AddTextItem(heading.text);
+    paragraph->AddText(heading.text);
     paragraph->AddBookmark(heading.bookmark, false);
 }
 
@@ -184,20 +184,20 @@ void AddContents(Section& section) {
 // "The house" on page 3
 void AddReference(Paragraph& paragraph, const Heading& heading) {
     const std::string bookmark = heading.bookmark;
-    paragraph.AddTextItem("“");
+    paragraph.AddText("“");
     paragraph.AddField("REF " + bookmark + " \\h", heading.text);
-    paragraph.AddTextItem("” on page ");
+    paragraph.AddText("” on page ");
     paragraph.AddField("PAGEREF " + bookmark + " \\h", std::to_string(heading.page));
 }
 
 void AddFooter(Section& section) {
     auto footer = section.AddHeader(dwFooter)->AddParagraph("Footer");
     footer->AddField("TITLE", "The library’s year");
-    footer->AddTextItem(", printed on ");
+    footer->AddText(", printed on ");
     footer->AddField("DATE", "12 January 2027")->SetDatePicture("d MMMM yyyy");
-    footer->AddTextItem("\tPage ");
+    footer->AddText("\tPage ");
     footer->AddField("PAGE", "1");
-    footer->AddTextItem(" of ");
+    footer->AddText(" of ");
     footer->AddField("NUMPAGES", "3");
 }
 
@@ -219,13 +219,13 @@ void WriteCover(Section& section) {
                 "move to the old granary, and for the first time the children’s room lent more "
                 "than the reading room. The most borrowed book was ");
     summary->AddTextItem("A Field Guide to Hedges")->FontFormat()->SetItalic(true);
-    summary->AddTextItem(", shelved under ");
-    summary->AddTextItem(" 582.17 HED ")->SetStyleName("Call number");
-    summary->AddTextItem("; it was never in for ");
-    summary->AddTextItem("longer than a day")->SetStyleName("Marked");
-    summary->AddTextItem(". What became of the boilers stands in ");
+    summary->AddText(", shelved under ");
+    summary->AddText(" 582.17 HED ", "Call number");
+    summary->AddText("; it was never in for ");
+    summary->AddText("longer than a day", "Marked");
+    summary->AddText(". What became of the boilers stands in ");
     AddReference(*summary, Repairs);
-    summary->AddTextItem(".");
+    summary->AddText(".");
     AddContents(section);
 }
 
@@ -258,13 +258,13 @@ void WriteHouse(Section& section) {
     auto repairs = section.AddParagraph("Body");
     repairs->Format()->SetIndentFirst(0.25);
     repairs->FontFormat()->SetSize(10);
-    repairs->AddTextItem("The roof was tight, the heating was not. Of the two boilers ");
+    repairs->AddText("The roof was tight, the heating was not. Of the two boilers ");
     auto one = repairs->AddTextItem("one");
     one->FontFormat()->SetUnderline(dwUnderlineWave);
-    repairs->AddTextItem(" was replaced in May; water use fell from 410 to 268 m³ a year. The ");
+    repairs->AddText(" was replaced in May; water use fell from 410 to 268 m³ a year. The ");
     auto old = repairs->AddTextItem("sliding");
     old->FontFormat()->SetStrikethrough(true);
-    repairs->AddTextItem(" revolving door still sticks.");
+    repairs->AddText(" revolving door still sticks.");
 
     auto box = section.AddParagraph("Box");
     box->AddTextItem("For the year to come")->FontFormat()->SetBold(true);
@@ -276,7 +276,7 @@ void WriteHouse(Section& section) {
     imprint->Format()->SetAlign(dwAlignCenter);
     imprint->Format()->SetSpaceBefore(10);
     imprint->FontFormat()->SetColor(Pine);
-    imprint->AddTextItem("Printed for the readers’ meeting on 12 January");
+    imprint->AddText("Printed for the readers’ meeting on 12 January");
 }
 
 void WriteReport(const char* filename) {

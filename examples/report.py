@@ -148,7 +148,7 @@ def add_heading(section: Section, heading: Heading) -> None:
     paragraph = section.add_paragraph(heading.style)
     paragraph.format.page_break_before = paragraph.format.outline_level == 1
     paragraph.add_bookmark(heading.bookmark)
-    paragraph.add_text_item(heading.text)
+    paragraph.add_text(heading.text)
     paragraph.add_bookmark(heading.bookmark, is_start=False)
 
 
@@ -163,20 +163,20 @@ def add_contents(section: Section) -> None:
 
 def add_reference(paragraph: Paragraph, heading: Heading) -> None:
     """“The house” on page 3"""
-    paragraph.add_text_item("“")
+    paragraph.add_text("“")
     paragraph.add_field(rf"REF {heading.bookmark} \h", heading.text)
-    paragraph.add_text_item("” on page ")
+    paragraph.add_text("” on page ")
     paragraph.add_field(rf"PAGEREF {heading.bookmark} \h", str(heading.page))
 
 
 def add_footer(section: Section) -> None:
     footer = section.add_header(HeaderKind.FOOTER).add_paragraph("Footer")
     footer.add_field("TITLE", "The library’s year")
-    footer.add_text_item(", printed on ")
+    footer.add_text(", printed on ")
     footer.add_field("DATE", "12 January 2027", date_picture="d MMMM yyyy")
-    footer.add_text_item("\tPage ")
+    footer.add_text("\tPage ")
     footer.add_field("PAGE", "1")
-    footer.add_text_item(" of ")
+    footer.add_text(" of ")
     footer.add_field("NUMPAGES", "3")
 
 
@@ -196,13 +196,13 @@ def write_cover(section: Section) -> None:
         "Body", "The town library was open on 287 days. It lent more than in any year since the move to the old granary, and for "
                 "the first time the children’s room lent more than the reading room. The most borrowed book was ")
     summary.add_text_item("A Field Guide to Hedges").font_format.italic = True
-    summary.add_text_item(", shelved under ")
-    summary.add_text_item(" 582.17 HED ", style_name="Call number")
-    summary.add_text_item("; it was never in for ")
-    summary.add_text_item("longer than a day", style_name="Marked")
-    summary.add_text_item(". What became of the boilers stands in ")
+    summary.add_text(", shelved under ")
+    summary.add_text(" 582.17 HED ", style_name="Call number")
+    summary.add_text("; it was never in for ")
+    summary.add_text("longer than a day", style_name="Marked")
+    summary.add_text(". What became of the boilers stands in ")
     add_reference(summary, REPAIRS)
-    summary.add_text_item(".")
+    summary.add_text(".")
     add_contents(section)
 
 
@@ -231,11 +231,11 @@ def write_house(section: Section) -> None:
     repairs = section.add_paragraph("Body")
     repairs.format.indent_first = 0.25
     repairs.font_format.size = 10
-    repairs.add_text_item("The roof was tight, the heating was not. Of the two boilers ")
+    repairs.add_text("The roof was tight, the heating was not. Of the two boilers ")
     repairs.add_text_item("one").font_format.underline = UnderlineStyle.WAVE
-    repairs.add_text_item(" was replaced in May; water use fell from 410 to 268 m³ a year. The ")
+    repairs.add_text(" was replaced in May; water use fell from 410 to 268 m³ a year. The ")
     repairs.add_text_item("sliding").font_format.strikethrough = True
-    repairs.add_text_item(" revolving door still sticks.")
+    repairs.add_text(" revolving door still sticks.")
 
     section.add_paragraph("Box").add_text_item("For the year to come").font_format.bold = True
     section.add_paragraph(
@@ -246,7 +246,7 @@ def write_house(section: Section) -> None:
     imprint.format.align = ParagraphAlign.CENTER
     imprint.format.space_before = 10
     imprint.font_format.color = PINE
-    imprint.add_text_item("Printed for the readers’ meeting on 12 January")
+    imprint.add_text("Printed for the readers’ meeting on 12 January")
 
 
 def write_report(filename: str) -> None:

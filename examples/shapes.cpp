@@ -61,7 +61,7 @@ void WriteShapes(const char* filename) {
     auto section = document->AddSection();
     auto title = section->AddParagraph();
     title->FontFormat()->SetSize(14);
-    title->AddTextItem("Sales by quarter");
+    title->AddText("Sales by quarter");
     DrawChart(*title);
     document->Finish();
 }

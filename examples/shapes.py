@@ -50,7 +50,7 @@ def write_shapes(filename: str) -> None:
         section = document.add_section()
         title = section.add_paragraph()
         title.font_format.size = 14
-        title.add_text_item("Sales by quarter")
+        title.add_text("Sales by quarter")
         draw_chart(title)
 
 

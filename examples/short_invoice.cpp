@@ -46,7 +46,7 @@ void WriteInvoice(const char* filename) {
     section->AddHeader(dwHeader)->AddParagraph("Body")->AddPictureData(examples::RingPng(), 1.5_cm);
     auto footer = section->AddHeader(dwFooter)->AddParagraph("Body", "Page ");
     footer->AddField("PAGE", "1");
-    footer->AddTextItem(" of ");
+    footer->AddText(" of ");
     footer->AddField("NUMPAGES", "1");
     section->AddParagraph("Body", "Żaneta Ślęzak\nul. Piotrkowska 12\n90-001 Łódź");
     section->AddParagraph("Title", "Invoice 2026-117");

@@ -39,7 +39,7 @@ def write_invoice(filename: str) -> None:
         section.add_header(HeaderKind.HEADER).add_paragraph("Body").add_picture_data(LOGO, "1.5cm")
         footer = section.add_header(HeaderKind.FOOTER).add_paragraph("Body", "Page ")
         footer.add_field("PAGE", "1")
-        footer.add_text_item(" of ")
+        footer.add_text(" of ")
         footer.add_field("NUMPAGES", "1")
         section.add_paragraph("Body", "Żaneta Ślęzak\nul. Piotrkowska 12\n90-001 Łódź")
         section.add_paragraph("Title", "Invoice 2026-117")

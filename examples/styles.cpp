@@ -56,16 +56,16 @@ void AddStyles(Document& document) {
 void AddRecipe(Section& section) {
     section.AddParagraph("Dish", "Nettle soup");
     auto recipe = section.AddParagraph("Recipe", "Wash ");
-    recipe->AddTextItem("300 g")->SetStyleName("Amount");
-    recipe->AddTextItem(" of young nettle tips and chop them. Fry an onion in butter, add the nettles and ");
+    recipe->AddText("300 g", "Amount");
+    recipe->AddText(" of young nettle tips and chop them. Fry an onion in butter, add the nettles and ");
     recipe->AddTextItem("a litre")->FontFormat()->SetBold(true);
-    recipe->AddTextItem(" of broth, and let it simmer for a quarter of an hour.");
+    recipe->AddText(" of broth, and let it simmer for a quarter of an hour.");
     section.AddParagraph("Remark", "Gloves on until the water boils: after that the leaves are harmless.");
 
     // A paragraph can go its own way after it has taken its style.
     auto close = section.AddParagraph("Recipe");
     close->Format()->SetAlign(dwAlignRight);
-    close->AddTextItem("Serves four.");
+    close->AddText("Serves four.");
 }
 // [use]
 

@@ -53,16 +53,16 @@ def add_styles(document: Document) -> None:
 def add_recipe(section: Section) -> None:
     section.add_paragraph("Dish", "Nettle soup")
     recipe = section.add_paragraph("Recipe", "Wash ")
-    recipe.add_text_item("300 g", style_name="Amount")
-    recipe.add_text_item(" of young nettle tips and chop them. Fry an onion in butter, add the nettles and ")
+    recipe.add_text("300 g", style_name="Amount")
+    recipe.add_text(" of young nettle tips and chop them. Fry an onion in butter, add the nettles and ")
     recipe.add_text_item("a litre").font_format.bold = True
-    recipe.add_text_item(" of broth, and let it simmer for a quarter of an hour.")
+    recipe.add_text(" of broth, and let it simmer for a quarter of an hour.")
     section.add_paragraph("Remark", "Gloves on until the water boils: after that the leaves are harmless.")
 
     # A paragraph can go its own way after it has taken its style.
     close = section.add_paragraph("Recipe")
     close.format.align = ParagraphAlign.RIGHT
-    close.add_text_item("Serves four.")
+    close.add_text("Serves four.")
 # [use]
 
 

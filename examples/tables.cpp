@@ -26,7 +26,7 @@ void AddCell(Table& row, double width, const char* text, dwParagraphAlign align 
 
     auto paragraph = cell->AddParagraph("In a cell");
     paragraph->Format()->SetAlign(align);
-    paragraph->AddTextItem(text);
+    paragraph->AddText(text);
 }
 // [cell]
 

@@ -22,7 +22,7 @@ def add_cell(row: Table, width: float, text: str, align: ParagraphAlign = Paragr
 
     paragraph = cell.add_paragraph("In a cell")
     paragraph.format.align = align
-    paragraph.add_text_item(text)
+    paragraph.add_text(text)
 # [cell]
 
 

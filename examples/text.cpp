@@ -42,7 +42,7 @@ void WriteText(const char* filename) {
     title->FontFormat()->SetSize(20);
     title->FontFormat()->SetBold(true);
     title->Format()->SetSpaceAfter(10);
-    title->AddTextItem("The kiln");
+    title->AddText("The kiln");
 
     auto text = section->AddParagraph();
     text->Format()->SetAlign(dwAlignJustify);
@@ -51,18 +51,18 @@ void WriteText(const char* filename) {
     // [paragraph]
 
     // [runs]
-    text->AddTextItem("A kiln is heated ");
+    text->AddText("A kiln is heated ");
     text->AddTextItem("slowly")->FontFormat()->SetItalic(true);
-    text->AddTextItem(": the first hundred degrees take an hour. ");
+    text->AddText(": the first hundred degrees take an hour. ");
     auto warning = text->AddTextItem("Never open it above 200 °C.");
     warning->FontFormat()->SetBold(true);
     warning->FontFormat()->SetColor(Brick);
-    text->AddTextItem(" Water leaves the clay as steam, H");
+    text->AddText(" Water leaves the clay as steam, H");
     auto two = text->AddTextItem("2");
     two->FontFormat()->SetSubscript(true);
-    text->AddTextItem("O and nothing else; what ");
+    text->AddText("O and nothing else; what ");
     text->AddTextItem("else")->FontFormat()->SetUnderline(dwUnderlineWave);
-    text->AddTextItem(" there is burns off later.");
+    text->AddText(" there is burns off later.");
     // [runs]
 
     // [indents]
@@ -71,7 +71,7 @@ void WriteText(const char* filename) {
     hint->Format()->SetIndentFirst(-18);
     hint->Format()->SetSpaceAfter(8);
     hint->FontFormat()->SetSize(11);
-    hint->AddTextItem(
+    hint->AddText(
         "– Wear gloves, and goggles too. A second line of a paragraph whose first line is indented to "
         "the left begins further in than the first.");
 
@@ -79,7 +79,7 @@ void WriteText(const char* filename) {
         auto row = section->AddParagraph();
         row->TabStops()->Add(150, dwTabRight, dwTabLeaderDots);
         row->TabStops()->Add(200, dwTabLeft, dwTabLeaderNone);
-        row->AddTextItem(line);
+        row->AddText(line);
     }
     // [indents]
 
@@ -87,8 +87,8 @@ void WriteText(const char* filename) {
     // The program's text is UTF-8. "\n" is a line break within a paragraph; braces and backslashes need no care.
     auto last = section->AddParagraph();
     last->Format()->SetSpaceBefore(8);
-    last->AddTextItem("Žofie’s price: 12 € {each} — “ask” at C:\\shop.\n");
-    last->AddTextItem("All alphabets are at home in the file: αβγ, абв.");
+    last->AddText("Žofie’s price: 12 € {each} — “ask” at C:\\shop.\n");
+    last->AddText("All alphabets are at home in the file: αβγ, абв.");
     // [characters]
 
     document->Finish();

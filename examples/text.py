@@ -38,7 +38,7 @@ def write_text(filename: str) -> None:
         title.font_format.size = 20
         title.font_format.bold = True
         title.format.space_after = 10
-        title.add_text_item("The kiln")
+        title.add_text("The kiln")
 
         text = section.add_paragraph()
         text.format.align = ParagraphAlign.JUSTIFY
@@ -47,18 +47,18 @@ def write_text(filename: str) -> None:
         # [paragraph]
 
         # [runs]
-        text.add_text_item("A kiln is heated ")
+        text.add_text("A kiln is heated ")
         text.add_text_item("slowly").font_format.italic = True
-        text.add_text_item(": the first hundred degrees take an hour. ")
+        text.add_text(": the first hundred degrees take an hour. ")
         warning = text.add_text_item("Never open it above 200 °C.")
         warning.font_format.bold = True
         warning.font_format.color = BRICK
-        text.add_text_item(" Water leaves the clay as steam, H")
+        text.add_text(" Water leaves the clay as steam, H")
         two = text.add_text_item("2")
         two.font_format.subscript = True
-        text.add_text_item("O and nothing else; what ")
+        text.add_text("O and nothing else; what ")
         text.add_text_item("else").font_format.underline = UnderlineStyle.WAVE
-        text.add_text_item(" there is burns off later.")
+        text.add_text(" there is burns off later.")
         # [runs]
 
         # [indents]
@@ -74,15 +74,15 @@ def write_text(filename: str) -> None:
             row = section.add_paragraph()
             row.tab_stops.add(150, TabAlign.RIGHT, TabLeader.DOTS)
             row.tab_stops.add(200, TabAlign.LEFT, TabLeader.NONE)
-            row.add_text_item(line)
+            row.add_text(line)
         # [indents]
 
         # [characters]
         # "\n" is a line break within a paragraph; braces and backslashes need no care.
         last = section.add_paragraph()
         last.format.space_before = 8
-        last.add_text_item("Žofie’s price: 12 € {each} — “ask” at C:\\shop.\n")
-        last.add_text_item("All alphabets are at home in the file: αβγ, абв.")
+        last.add_text("Žofie’s price: 12 € {each} — “ask” at C:\\shop.\n")
+        last.add_text("All alphabets are at home in the file: αβγ, абв.")
         # [characters]
 
 

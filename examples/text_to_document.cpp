@@ -74,7 +74,7 @@ public:
     }
 
     void WriteCode(const Lines& lines) {
-        for (const std::string& line : lines) section_->AddParagraph("Code")->AddTextItem(line);
+        for (const std::string& line : lines) section_->AddParagraph("Code")->AddText(line);
     }
 
     void Finish() { document_->Finish(); }

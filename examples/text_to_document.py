@@ -125,7 +125,7 @@ def write_block(section: Section, block: Block, is_first: bool) -> None:
 
 def write_code(section: Section, lines: Block) -> None:
     for line in lines:
-        section.add_paragraph("Code").add_text_item(line)
+        section.add_paragraph("Code").add_text(line)
 
 
 def convert(text: str, filename: str) -> None:
