@@ -98,7 +98,8 @@ void EmitTextItem(RtfWriter& writer, const RunSettings& run, std::string_view te
     const Scripts scripts = writer.Standard() ? ScriptsOf(text, letters) : Scripts{};
     EmitDirection(writer, scripts);
     writer.Group([&] {
-        EmitRunFormat(writer, run, scripts, document);
+        if (!IsPlain(run) || run.style != nullptr || scripts.Any())
+            EmitRunFormat(writer, run, scripts, document);
         writer.output.WriteText(text, letters);
     });
 }

@@ -53,19 +53,20 @@ std::string SpecialCode(std::string_view special) {
 
 }  // namespace
 
-TextItem::TextItem(const Origin& origin, std::string_view text, bool raw) : Run(origin) {
-    if (raw) {
-        text_ = ToValidUtf8(text);
-        Note(letters_, Letters::Any);
-    } else {
-        Append(text);
-    }
+TextItem::TextItem(const Origin& origin, std::string_view text, bool raw)
+    : Run(origin), text_(raw ? ToValidUtf8(text) : Escape(text)) {
+    if (raw) Note(letters_, Letters::Any);
 }
 
-void TextItem::Append(std::string_view text) {
+std::string TextItem::Escape(std::string_view text) {
     const bool standard = SharedSession()->settings.spelling == dwSpellingStandard;
-    Note(letters_, AppendEscaped(text_, text, standard ? Escaping::Lines : Escaping::Classic));
+    Letters letters;
+    std::string escaped = EscapeText(text, standard ? Escaping::Lines : Escaping::Classic, letters);
+    Note(letters_, letters);
+    return escaped;
 }
+
+void TextItem::Append(std::string_view text) { text_ += Escape(text); }
 
 void TextItem::AddText(std::string_view text) {
     OpenForChange();

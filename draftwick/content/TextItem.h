@@ -29,10 +29,11 @@ protected:
     void WriteStart() override;
 
 private:
+    std::string Escape(std::string_view text);
     void Append(std::string_view text);
 
-    std::string text_;
     unsigned char letters_ = 0;  // what characters it has at most: a number of Letters
+    std::string text_;
 };
 
 }  // namespace draftwick

@@ -46,7 +46,6 @@ void Document::Open() {
     collections.lists = std::make_shared<draftwick::Lists>(origin);
     collections.paragraphStyles = std::make_shared<draftwick::ParagraphStyles>(origin);
     collections.textStyles = std::make_shared<draftwick::TextStyles>(origin);
-    collections.properties = std::make_shared<draftwick::Properties>(origin);
     detail::Session& session = *SharedSession();
     session.document = this;
     session.usable = true;
@@ -74,8 +73,11 @@ std::shared_ptr<draftwick::ParagraphStyles> Document::ParagraphStyles() const {
 std::shared_ptr<draftwick::TextStyles> Document::TextStyles() const {
     return inside_->collections.textStyles;
 }
+/// There are many built-in ones, and most documents set none.
 std::shared_ptr<draftwick::Properties> Document::Properties() const {
-    return inside_->collections.properties;
+    std::shared_ptr<draftwick::Properties>& properties = inside_->collections.properties;
+    if (properties == nullptr) properties = std::make_shared<draftwick::Properties>(OriginOfChild());
+    return properties;
 }
 
 std::shared_ptr<Section> Document::AddSection() {

@@ -116,7 +116,7 @@ void EmitHeader(RtfWriter& writer, const DocumentSettings& settings) {
     WriteColorTable(writer);
     EmitStylesheet(writer, *writer.names->paragraphStyles, *writer.names->textStyles, settings);
     EmitListTable(writer, *writer.names->lists);
-    EmitProperties(writer, *writer.names->properties);
+    if (writer.names->properties != nullptr) EmitProperties(writer, *writer.names->properties);
     writer.output.FlushLine();
 }
 

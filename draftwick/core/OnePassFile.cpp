@@ -34,24 +34,26 @@ bool OnePassFile::SetHeader(std::string header) {
 }
 
 std::size_t OnePassFile::Write(const char* bytes, std::size_t size, std::error_code& error) {
-    WriteFront(error);
-    return error ? 0 : file_->Write(bytes, size, error);
-}
-
-void OnePassFile::WriteFront(std::error_code& error) {
     error.clear();
-    if (gap_ == 0) {
-        try {
+    try {
+        if (gap_ == 0) {
             front_ = headerSoFar_();
             FillWithLineEnds(front_, (front_.size() + Reserve + Page - 1) / Page * Page);
             gap_ = front_.size();
-        } catch (...) {  // a header is refused by nothing else
-            error = std::make_error_code(std::errc::not_enough_memory);
-            return;
         }
+        if (front_.empty()) return file_->Write(bytes, size, error);
+        // In one go: it is all that there is of a small document.
+        front_.reserve(front_.size() + size);
+    } catch (...) {  // nothing else is refused here
+        error = std::make_error_code(std::errc::not_enough_memory);
+        return 0;
     }
-    if (front_.empty()) return;
-    front_.erase(0, file_->Write(front_.data(), front_.size(), error));
+    const std::size_t before = front_.size();
+    const std::size_t done = file_->Write(front_.append(bytes, size).data(), before + size, error);
+    front_.resize(before);
+    front_.erase(0, done);
+    if (front_.empty()) front_.shrink_to_fit();
+    return done < before ? 0 : done - before;
 }
 
 void OnePassFile::WriteHeader(std::error_code& error) {

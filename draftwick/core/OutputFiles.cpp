@@ -281,7 +281,7 @@ bool OutputFiles::CompleteOnePass(platform::FileSystem& files, const std::string
     if (onePass_ == nullptr) return false;
     OnePassFile& file = *std::exchange(onePass_, nullptr);
     const bool fits = !name.empty() && FolderOf(files, name) == FolderOf(files, bodyFileName_)
-                      && files.CanReplace(name) && file.SetHeader(header);
+                      && file.SetHeader(header);
     if (fits || body_->Written() != 0) body_->Close(fits && durable);
     return fits;
 }

@@ -113,18 +113,23 @@ void AppendSpecial(std::string& to, std::string_view text, std::size_t& at, Esca
 
 Letters AppendEscaped(std::string& to, std::string_view text, Escaping how) {
     if (text.size() < 8 || !IsPlainAscii(text)) return AppendMixed(to, text, how);
-    if (to.capacity() < text.size() && to.empty()) {
-        to = std::string{text};
-    } else {
-        to.append(text);
-    }
+    to.append(text);
     return Letters::Ascii;
 }
 
-std::string EscapeText(std::string_view text, Escaping how) {
+std::string EscapeText(std::string_view text, Escaping how, Letters& letters) {
+    if (text.size() >= 8 && IsPlainAscii(text)) {
+        letters = Letters::Ascii;
+        return std::string{text};
+    }
     std::string escaped;
-    AppendEscaped(escaped, text, how);
+    letters = AppendMixed(escaped, text, how);
     return escaped;
+}
+
+std::string EscapeText(std::string_view text, Escaping how) {
+    Letters letters;
+    return EscapeText(text, how, letters);
 }
 
 std::string ASCIIChar(std::int32_t byte) {

@@ -19,7 +19,9 @@ enum class Escaping {
 /// UTF-8 becomes U+FFFD. Nothing else but line breaks changes: other control characters and characters above 127 pass
 /// through. Tells what characters there are.
 Letters AppendEscaped(std::string& to, std::string_view text, Escaping how = Escaping::Classic);
+/// The same as a text of its own.
 std::string EscapeText(std::string_view text, Escaping how = Escaping::Classic);
+std::string EscapeText(std::string_view text, Escaping how, Letters& letters);
 
 /// The RTF escape of one byte: \' and upper-case hexadecimal without a leading zero. Error 6 outside of a byte.
 std::string ASCIIChar(std::int32_t byte);

@@ -32,7 +32,6 @@ public:
     void Close(std::error_code& error) override;
 
 private:
-    void WriteFront(std::error_code& error);
     void WriteHeader(std::error_code& error);
 
     HeaderSoFar headerSoFar_;

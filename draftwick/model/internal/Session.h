@@ -26,7 +26,7 @@ struct Collections {
     std::shared_ptr<draftwick::Lists> lists;
     std::shared_ptr<draftwick::ParagraphStyles> paragraphStyles;
     std::shared_ptr<draftwick::TextStyles> textStyles;
-    std::shared_ptr<draftwick::Properties> properties;
+    std::shared_ptr<draftwick::Properties> properties;  // null until they are asked for
 };
 
 /// What all objects of one document share. It lives as long as any of them; `document` ends with the document, and
