@@ -36,6 +36,12 @@ TEST(Content, LiesAtMost200Deep) {
 }
 
 // Refused as a whole: nothing is added.
+TEST(Special, GivesAByteWithoutALeadingZero) {
+    EXPECT_EQ(Special::ASCII(10), "\\'A");
+    EXPECT_EQ(Special::ASCII(255), "\\'FF");
+    EXPECT_EQ(RefusalNumber([] { Special::ASCII(256); }), 6);
+}
+
 TEST(Paragraph, IsAddedWithItsStyleAndTextOrNotAtAll) {
     const TestDocument document;
     document->ParagraphStyles()->Add("Title")->Format()->SetAlign(dwAlignCenter);

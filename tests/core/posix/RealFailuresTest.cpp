@@ -215,8 +215,14 @@ TEST(RealFailures, OfAFolderThatCannotBeWrittenOrIsGone) {
     });
     if (status == 77) GTEST_SKIP() << "this system lets nobody become another user";
     EXPECT_EQ(status, 0);
-    // A body that is gone is lost, and that is said.
-    const TempFolder temp;
+    // A body that is cut short or gone is lost, and that is said.
+    const TempFolder cut, temp;
+    const auto shortened = NewDocument(folder / "late/b.rtf", cut.Path());
+    EXPECT_THROW(shortened->Finish(), std::system_error);
+    std::filesystem::create_directory(folder / "late");
+    std::filesystem::resize_file(cut / "~dw1.tmp", 1000);
+    EXPECT_EQ(Failure([&] { shortened->Finish(); }, cut.Path()), std::errc::io_error);
+    EXPECT_EQ(Files(folder / "late"), 0);
     const auto document = NewDocument(folder / "b.rtf", temp.Path());
     std::filesystem::remove_all(temp.Path());
     EXPECT_EQ(Failure([&] { document->Finish(); }, temp.Path()), std::errc::no_such_file_or_directory);

@@ -73,6 +73,16 @@ TEST_F(Store, LeavesADamagedFileAlone) {
     EXPECT_EQ(registry.ReadString("", "c", "other"), "other");
 }
 
+TEST_F(Store, LeavesNothingBehindWhenItCannotBeWritten) {
+    std::filesystem::create_directories(file + "/taken");
+    EXPECT_TRUE(store->CreateKey(RegistryRoot::CurrentUser, "a"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "draftwick"), {}), 1);
+    std::filesystem::remove_all(folder / "draftwick");
+    WriteFile(folder / "draftwick", "a file");
+    EXPECT_TRUE(store->CreateKey(RegistryRoot::CurrentUser, "a"));
+    EXPECT_EQ(ReadFile(folder / "draftwick"), "a file");
+}
+
 TEST_F(Store, IsNotThereWithoutAFolder) {
     const EnvironmentValue relative{"XDG_CONFIG_HOME", "relative"};
     const EnvironmentValue home{"HOME", ""};
