@@ -169,7 +169,20 @@ TEST(RealFailures, OfAPipeThatNobodyReads) {
     });
     EXPECT_EQ(Failure([&] { document->Finish(); }, pipe), std::errc::broken_pipe);
     leaving.join();
-    // One that takes a byte at a time, while signals interrupt every write.
+    std::string received;
+    std::thread reading([&] { received = ReadFile(pipe); });
+    document->Finish();
+    reading.join();
+    EXPECT_EQ(received, Undisturbed());
+    EXPECT_EQ(Files(temp.Path()), 0);
+}
+
+TEST(RealFailures, DoNotComeFromAReaderThatTakesAByteAtATime) {
+    const TempFolder folder, temp;
+    const std::string pipe = folder / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const auto document = NewDocument(pipe, temp.Path());
+    // Signals interrupt the writes, so that they are as short.
     struct sigaction action {};
     struct sigaction before {};
     action.sa_handler = [](int) {};
