@@ -160,6 +160,7 @@ TEST(Pictures, FileErrorsAreNotPictureErrors) {
     EXPECT_FALSE(SystemPictures()->Load(*files, testing::TempDir(), PictureKind::Bmp, error));
     EXPECT_EQ(error, std::errc::is_a_directory);
     EXPECT_EQ(make_error_code(PictureError::Unreadable).message(), "Invalid picture");
+    EXPECT_STREQ(make_error_code(PictureError::Unreadable).category().name(), "picture");
     EXPECT_THROW(SystemPictures(0), std::invalid_argument);
 
     const auto picture = LoadBytes(oneOfEach[4], PictureKind::Bmp, error);
