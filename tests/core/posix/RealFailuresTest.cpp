@@ -3,6 +3,7 @@
 
 #include "tests/fire/LongDocument.h"
 #include "tests/support/Rtf.h"
+#include "tests/support/System.h"
 
 #include <gtest/gtest.h>
 
@@ -218,6 +219,9 @@ TEST(RealFailures, OfAFolderThatCannotBeWrittenOrIsGone) {
     const int status = InProcess([&] {
         // The administrator may write everywhere.
         if (::geteuid() == 0 && ::chown(inner.c_str(), 65534, 65534) + ::seteuid(65534) != 0) return 77;
+        // That user's temporary files, too, are where it may write, if it may get there.
+        if (::eaccess(inner.c_str(), W_OK) != 0) return 77;
+        const EnvironmentValue there{"TMPDIR", inner}, pictures{"TEMP", inner};
         FailsUntilMended(
             name, std::errc::permission_denied, [&] { EXPECT_EQ(::chmod(inner.c_str(), 0555), 0); },
             [&] {
