@@ -280,8 +280,8 @@ bool OutputFiles::CompleteOnePass(platform::FileSystem& files, const std::string
                                   const std::string& name, bool durable) {
     if (onePass_ == nullptr) return false;
     OnePassFile& file = *std::exchange(onePass_, nullptr);
-    const bool fits = !name.empty() && FolderOf(files, name) == FolderOf(files, bodyFileName_)
-                      && file.SetHeader(header);
+    const bool fits =
+        !name.empty() && FolderOf(files, name) == FolderOf(files, bodyFileName_) && file.SetHeader(header);
     if (fits || body_->Written() != 0) body_->Close(fits && durable);
     return fits;
 }

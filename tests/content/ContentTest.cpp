@@ -39,6 +39,17 @@ TEST(Content, LiesAtMost200Deep) {
 }
 
 // Refused as a whole: nothing is added.
+TEST(Special, GivesAByteWithoutALeadingZero) {
+    EXPECT_EQ(Special::ASCII(10), "\\'A");
+    EXPECT_EQ(Special::ASCII(255), "\\'FF");
+    EXPECT_EQ(RefusalNumber([] { Special::ASCII(256); }), 6);
+    // What is no byte is a text in the standard spelling.
+    const TestDocument document;
+    document->SetSpelling(dwSpellingStandard);
+    document.AddParagraph()->AddTextItem("x")->AddSpecial("\\'g");
+    EXPECT_NE(document.Body().find("x\\\\'g"), std::string::npos);
+}
+
 TEST(Paragraph, IsAddedWithItsStyleAndTextOrNotAtAll) {
     const TestDocument document;
     document->ParagraphStyles()->Add("Title")->Format()->SetAlign(dwAlignCenter);

@@ -51,6 +51,25 @@ private:
 
 }  // namespace
 
+TEST_F(Delivered, HeadersLongerThanAnyBlockAreTheBytesOfTheFile) {
+    const auto withManyFonts = [&] {
+        auto document = Document::Create(MakeFakePlatform(files));
+        for (int number = 0; number < 10000; ++number)
+            document->Fonts()->Add("Font " + std::to_string(number));
+        document->AddSection()->AddParagraph("", "text");
+        return document;
+    };
+    const auto written = withManyFonts();
+    written->Finish();
+    const auto delivered = withManyFonts();
+    int left = 1;
+    const auto sink = [&](std::string_view) {
+        if (left-- > 0) throw std::runtime_error("not yet");
+    };
+    EXPECT_THROW(delivered->FinishTo(sink), std::runtime_error);
+    EXPECT_EQ(Streamed(*delivered), files->Bytes(written->ActualFileName()));
+}
+
 TEST_F(Delivered, ToAStreamAreTheBytesOfTheFile) {
     const std::string expected = Bytes();
     files = std::make_shared<MemoryFiles>();

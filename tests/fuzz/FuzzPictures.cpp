@@ -11,7 +11,7 @@ using namespace draftwick;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;
-    const auto kind = static_cast<platform::PictureKind>(data[0] % 5);
+    const auto kind = static_cast<platform::PictureKind>(data[0] % 6);
     const auto memory = std::make_shared<test::MemoryFiles>();
     test::MemoryFiles& files = *memory;
     files.Put("picture", {reinterpret_cast<const char*>(data + 1), size - 1});

@@ -159,6 +159,9 @@ TEST(Pictures, FileErrorsAreNotPictureErrors) {
     EXPECT_EQ(error, std::errc::no_such_file_or_directory);
     EXPECT_FALSE(SystemPictures()->Load(*files, testing::TempDir(), PictureKind::Bmp, error));
     EXPECT_EQ(error, std::errc::is_a_directory);
+    EXPECT_EQ(make_error_code(PictureError::Unreadable).message(), "Invalid picture");
+    EXPECT_STREQ(make_error_code(PictureError::Unreadable).category().name(), "picture");
+    EXPECT_THROW(SystemPictures(0), std::invalid_argument);
 
     const auto picture = LoadBytes(oneOfEach[4], PictureKind::Bmp, error);
     for (int operation = 1; operation <= 3; ++operation) {

@@ -3,6 +3,7 @@
 
 #include "tests/fire/LongDocument.h"
 #include "tests/support/Rtf.h"
+#include "tests/support/System.h"
 
 #include <gtest/gtest.h>
 
@@ -169,7 +170,20 @@ TEST(RealFailures, OfAPipeThatNobodyReads) {
     });
     EXPECT_EQ(Failure([&] { document->Finish(); }, pipe), std::errc::broken_pipe);
     leaving.join();
-    // One that takes a byte at a time, while signals interrupt every write.
+    std::string received;
+    std::thread reading([&] { received = ReadFile(pipe); });
+    document->Finish();
+    reading.join();
+    EXPECT_EQ(received, Undisturbed());
+    EXPECT_EQ(Files(temp.Path()), 0);
+}
+
+TEST(RealFailures, DoNotComeFromAReaderThatTakesAByteAtATime) {
+    const TempFolder folder, temp;
+    const std::string pipe = folder / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const auto document = NewDocument(pipe, temp.Path());
+    // Signals interrupt the writes, so that they are as short.
     struct sigaction action {};
     struct sigaction before {};
     action.sa_handler = [](int) {};
@@ -205,6 +219,9 @@ TEST(RealFailures, OfAFolderThatCannotBeWrittenOrIsGone) {
     const int status = InProcess([&] {
         // The administrator may write everywhere.
         if (::geteuid() == 0 && ::chown(inner.c_str(), 65534, 65534) + ::seteuid(65534) != 0) return 77;
+        // That user's temporary files, too, are where it may write, if it may get there.
+        if (::eaccess(inner.c_str(), W_OK) != 0) return 77;
+        const EnvironmentValue there{"TMPDIR", inner}, pictures{"TEMP", inner};
         FailsUntilMended(
             name, std::errc::permission_denied, [&] { EXPECT_EQ(::chmod(inner.c_str(), 0555), 0); },
             [&] {
@@ -215,8 +232,14 @@ TEST(RealFailures, OfAFolderThatCannotBeWrittenOrIsGone) {
     });
     if (status == 77) GTEST_SKIP() << "this system lets nobody become another user";
     EXPECT_EQ(status, 0);
-    // A body that is gone is lost, and that is said.
-    const TempFolder temp;
+    // A body that is cut short or gone is lost, and that is said.
+    const TempFolder cut, temp;
+    const auto shortened = NewDocument(folder / "late/b.rtf", cut.Path());
+    EXPECT_THROW(shortened->Finish(), std::system_error);
+    std::filesystem::create_directory(folder / "late");
+    std::filesystem::resize_file(cut / "~dw1.tmp", 1000);
+    EXPECT_EQ(Failure([&] { shortened->Finish(); }, cut.Path()), std::errc::io_error);
+    EXPECT_EQ(Files(folder / "late"), 0);
     const auto document = NewDocument(folder / "b.rtf", temp.Path());
     std::filesystem::remove_all(temp.Path());
     EXPECT_EQ(Failure([&] { document->Finish(); }, temp.Path()), std::errc::no_such_file_or_directory);

@@ -45,6 +45,11 @@ TEST_F(Recorder, IsNamedByTheCommandLineAlone) {
     EXPECT_EQ(programs->FirstProgram("/\"none\"/"), R"("/\"none\"/")");
 }
 
+TEST_F(Recorder, HasNoWindowHere) {
+    EXPECT_THROW(programs->Activate(1), std::system_error);
+    EXPECT_THROW(programs->SendKeys("x"), std::system_error);
+}
+
 // From Preview to the program, through files of the real file system.
 TEST_F(Recorder, GetsTheFinishedDocument) {
     const auto desktop = std::make_shared<FakeDesktop>();

@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace draftwick::test {
 
 namespace {
@@ -71,6 +74,32 @@ TEST_F(Store, LeavesADamagedFileAlone) {
     registry.SetPath(deep);
     registry.WriteString("", "c", "new");
     EXPECT_EQ(registry.ReadString("", "c", "other"), "other");
+}
+
+TEST_F(Store, LeavesNothingBehindWhenItCannotBeWritten) {
+    std::filesystem::create_directories(file + "/taken");
+    EXPECT_TRUE(store->CreateKey(RegistryRoot::CurrentUser, "a"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "draftwick"), {}), 1);
+    std::filesystem::remove_all(folder / "draftwick");
+    WriteFile(folder / "draftwick", "a file");
+    EXPECT_TRUE(store->CreateKey(RegistryRoot::CurrentUser, "a"));
+    EXPECT_EQ(ReadFile(folder / "draftwick"), "a file");
+    const EnvironmentValue inner{"XDG_CONFIG_HOME", folder / "draftwick/inner"};
+    EXPECT_TRUE(store->CreateKey(RegistryRoot::CurrentUser, "a"));
+    // No room for what is new: what was there stays.
+    const EnvironmentValue other{"XDG_CONFIG_HOME", folder / "other"};
+    registry.SetPath("a");
+    registry.WriteString("", "b", "c");
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit none{0, before.rlim_max};
+    auto* const action = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
+    EXPECT_TRUE(store->CreateKey(RegistryRoot::CurrentUser, "d"));
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, action);
+    EXPECT_EQ(registry.ReadString("", "b", ""), "c");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "other/draftwick"), {}), 1);
 }
 
 TEST_F(Store, IsNotThereWithoutAFolder) {
