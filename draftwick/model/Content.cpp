@@ -9,8 +9,7 @@ void Content::CheckNotEmitted() const {
     if (emitted_) RaiseError(dwErrTargetEmitted, {std::string{Description().name}});
 }
 
-void Content::CheckNotFinished(const char* method) const {
-    if (!finished_) return;
+void Content::RefuseFinished(const char* method) const {
     RaiseError(dwErrTargetEmitted, {std::string{Description().name}}, AdviceOnLateAddition(*this, method));
 }
 
@@ -23,13 +22,12 @@ void Content::Emit() {
 void Content::Close() {
     if (finished_) return;
     Emit();
-    CloseCurrentChild();
+    if (open_ != nullptr) CloseCurrentChild();
     WriteEnd();
     finished_ = true;
 }
 
 void Content::CloseCurrentChild() {
-    if (open_ == nullptr) return;
     open_->Close();
     open_ = nullptr;
 }
@@ -48,10 +46,10 @@ void Content::RefuseDepth() const {
 
 void Content::PrepareAdd(const Class& (*child)()) {
     RtfWriter& writer = Writer();
-    if (finished_) CheckNotFinished(("Add" + std::string{child().name}).c_str());
+    if (finished_) RefuseFinished(("Add" + std::string{child().name}).c_str());
     CheckDepth(1);
-    Emit();
-    CloseCurrentChild();
+    if (!emitted_) Emit();
+    if (open_ != nullptr) CloseCurrentChild();
     writer.output.Checkpoint();
 }
 

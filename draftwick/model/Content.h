@@ -46,7 +46,9 @@ protected:
     /// Takes the object out of what it was added to, as long as nothing of it is written: it is closed without a trace.
     void Withdraw();
     /// dwErrTargetEmitted with the class's name once the object is finished. The name of the method is for the advice.
-    void CheckNotFinished(const char* method = __builtin_FUNCTION()) const;
+    void CheckNotFinished(const char* method = __builtin_FUNCTION()) const {
+        if (finished_) RefuseFinished(method);
+    }
 
     /// Every Add method: refuses once finished and beyond MaxDepth, writes the start, finishes the child before, creates
     /// the child and keeps it in the slot of its kind. A failure of the file is reported here, before there is a new
@@ -82,6 +84,7 @@ private:
         open_->depth_ = depth_ + 1;
         return slot;
     }
+    [[noreturn]] void RefuseFinished(const char* method) const;
     [[noreturn]] void RefuseDepth() const;
 
     Content* holder_ = nullptr;

@@ -60,8 +60,10 @@ void Output::WriteControlWords(std::string_view words) {
 
 void Output::WriteText(std::string_view text, Letters letters) {
     if (afterControlWord_) line_[length_++] = ' ';
-    if (letters == Letters::Ascii) {
-        AppendAscii(text);
+    if (letters == Letters::Ascii && text.size() <= Room - LongLine - 1) {
+        // memcpy of less than 1 KiB is slower where the compiler puts it in line.
+        std::memmove(line_ + length_, text.data(), text.size());
+        length_ += text.size();
     } else {
         AppendEncoded(text);
     }
@@ -116,17 +118,6 @@ void Output::AppendNumber(std::int32_t number) {
         length_ = static_cast<std::size_t>(std::to_chars(line_ + length_, line_ + Room, number).ptr - line_);
     }
     EndAppend();
-}
-
-void Output::AppendAscii(std::string_view text) {
-    while (!text.empty()) {
-        if (length_ > Room / 2) MakeRoom();
-        const std::size_t size = std::min(text.size(), Room - length_);
-        std::memmove(line_ + length_, text.data(),
-                     size);  // memcpy of some bytes is slower where the compiler has it in line
-        length_ += size;
-        text.remove_prefix(size);
-    }
 }
 
 void Output::AppendEncoded(std::string_view text) {

@@ -90,7 +90,6 @@ private:
     void EndAppend() {
         if (length_ >= LongLine) FlushLongLine();
     }
-    void AppendAscii(std::string_view text);
     void AppendEncoded(std::string_view text);
     char* PutEncoded(char32_t character, char* to);
     void Send(const char* bytes, std::size_t size);
