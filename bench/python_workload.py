@@ -1,6 +1,7 @@
 """One workload as a whole process, for scripts/bench: the long document and the letters of Workload.cpp from Python.
 
 usage: python_workload.py long PARAGRAPHS FILE         three runs a paragraph, a row of four cells after every tenth
+       python_workload.py addtext PARAGRAPHS FILE      the same by add_text
        python_workload.py docx PARAGRAPHS FILE         the same with python-docx
        python_workload.py plain PARAGRAPHS FILE        the same RTF out of format strings, without a library
        python_workload.py letters COUNT CSV FOLDER     a letter with a table for each line of the file, on two processors
@@ -27,6 +28,25 @@ def write_long(count, filename):
                     cell = row.add_cell()
                     cell.width = 2268
                     cell.add_paragraph().add_text_item(f"Cell {number:06} {letter}")
+
+
+def write_text(count, filename):
+    import draftwick
+    with draftwick.Document(filename, scale_mode=draftwick.ScaleMode.TWIPS, spelling=draftwick.Spelling.CLASSIC) as document:
+        document.text_styles.add("Bold").font_format.bold = True
+        document.text_styles.add("Red").font_format.color = 200
+        section = document.add_section()
+        for number in range(1, count + 1):
+            paragraph = section.add_paragraph()
+            paragraph.add_text(f"Line {number:06} plain run, ")
+            paragraph.add_text("bold run of this one, ", "Bold")
+            paragraph.add_text("red end of para.", "Red")
+            if number % 10 == 0:
+                row = section.add_table()
+                for letter in "ABCD":
+                    cell = row.add_cell()
+                    cell.width = 2268
+                    cell.add_paragraph().add_text(f"Cell {number:06} {letter}")
 
 
 def write_docx(count, filename):
@@ -92,5 +112,5 @@ def write_csv(count, filename):
 kind, count, name, *FOLDER = sys.argv[1:]
 FOLDER = "".join(FOLDER)
 if __name__ == "__main__":
-    {"long": write_long, "docx": write_docx, "plain": write_plain, "letters": write_letters,
+    {"long": write_long, "addtext": write_text, "docx": write_docx, "plain": write_plain, "letters": write_letters,
      "csv": write_csv}[kind](int(count), name)
