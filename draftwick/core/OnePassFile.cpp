@@ -28,7 +28,7 @@ bool OnePassFile::SetHeader(std::string header) {
         return true;
     }
     if (header.size() > gap_) return false;
-    FillWithLineEnds(header, gap_);
+    FillWithLineEnds(header, static_cast<std::size_t>(gap_));
     header_ = std::move(header);
     return true;
 }

@@ -103,7 +103,7 @@ TEST(Output, TakesLineBreaksOutOfLongLinesOnly) {
 
 TEST(Output, EncodesCharactersWhereverTheyStand) {
     // Around eight bytes, a piece of 64, and the room of a line.
-    for (const std::size_t begin : {0, 55, 500, 1010}) {
+    for (const std::size_t begin : std::initializer_list<std::size_t>{0, 55, 500, 1010}) {
         for (std::size_t before = begin; before < begin + 20; ++before) {
             for (std::size_t after = 0; after < 10; ++after) {
                 const std::string text = X(before) + "\xE2\x80\xA6\xC3\xA9" + X(after);
