@@ -39,9 +39,9 @@ public:
 class EventLogOfSystem final : public EventLog {
 public:
     void Report(std::string_view text) noexcept override try {
+        const std::wstring wide = ToWide(text);
         const HANDLE source = ::RegisterEventSourceW(nullptr, L"Draftwick");
         if (source == nullptr) return;
-        const std::wstring wide = ToWide(text);
         const wchar_t* texts[] = {wide.c_str()};
         ::ReportEventW(source, EVENTLOG_ERROR_TYPE, 0, 0, nullptr, 1, 0, texts, nullptr);
         ::DeregisterEventSource(source);
