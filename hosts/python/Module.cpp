@@ -159,9 +159,9 @@ void AddType(PyObject* module, PythonClass& to, const Wording& wording, unsigned
     slots.push_back({Py_tp_methods, to.functions.data()});
     slots.push_back({Py_tp_doc, const_cast<char*>(wording.doc)});
     slots.push_back({0, nullptr});
-    PyType_Spec spec{wording.name, sizeof(Wrapper), 0, Py_TPFLAGS_DEFAULT | flags, slots.data()};
+    PyType_Spec layout{wording.name, sizeof(Wrapper), 0, Py_TPFLAGS_DEFAULT | flags, slots.data()};
     auto* const base = reinterpret_cast<PyObject*>(Module().common.type);
-    to.type = reinterpret_cast<PyTypeObject*>(Checked(PyType_FromSpecWithBases(&spec, base)));
+    to.type = reinterpret_cast<PyTypeObject*>(Checked(PyType_FromSpecWithBases(&layout, base)));
     Check(PyModule_AddType(module, to.type));
 }
 
