@@ -84,7 +84,7 @@ std::shared_ptr<Section> Document::AddSection() {
     // Once the file's last brace is written nothing can follow it, even if Finish failed after that.
     if (inside_->files.Ended()) {
         RaiseError(dwErrTargetEmitted, {std::string{Description().name}},
-                   "Document.AddSection: Finish has ended the text already; call it again");
+                   "Document.AddSection: the text was ended by Finish already; call that again");
     }
     return Add(currentSection_);
 }
@@ -125,8 +125,8 @@ void Document::CheckNotDelivering(const char* method) const {
 
 void Document::FinishInto(const detail::Sink& sink) {
     Session();
-    CheckNotFinished();
-    CheckNotDelivering();
+    CheckNotFinished("FinishTo");
+    CheckNotDelivering("FinishTo");
     const auto self = Self();  // the sink may let the document go
     struct Scope {
         const detail::Sink*& sink;

@@ -76,7 +76,7 @@ Variant Advising(const Object& object, std::string_view member, const Action& ac
     try {
         return action();
     } catch (Error& error) {
-        error.SetAdvice(WithMember(object, member, error.Advice()));
+        NameMember(error, object, member);
         throw;
     }
 }
@@ -132,6 +132,10 @@ const ClassProperty* Class::FindProperty(std::string_view property) const {
 }
 
 const ClassMethod* Class::FindMethod(std::string_view method) const { return FindRow(methods, method); }
+
+void NameMember(Error& error, const Object& object, std::string_view member) {
+    error.SetAdvice(WithMember(object, member, error.Advice()));
+}
 
 Variant Get(Object& object, std::string_view property, std::span<const Variant> arguments) {
     const ClassProperty& found = PropertyNamed(object, property);

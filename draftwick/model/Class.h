@@ -105,6 +105,9 @@ struct DRAFTWICK_API Class {
 /// Parent and Document, which all classes have.
 DRAFTWICK_API std::span<const ClassProperty> CommonProperties();
 
+/// Puts the member's name before the advice of an error that using it raised. Get, Set and Call do.
+DRAFTWICK_API void NameMember(Error& error, const Object& object, std::string_view member);
+
 /// The value of a property. dwErrItemNotFound ("Section.MarginTop") when the class has no such property, error 5
 /// when it cannot be read and for too few or too many arguments.
 DRAFTWICK_API Variant Get(Object& object, std::string_view property, std::span<const Variant> arguments);

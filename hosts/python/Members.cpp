@@ -9,10 +9,22 @@ namespace draftwick::python {
 
 namespace {
 
+/// Uses a member: what is refused says by which.
+template <class Row, class Action>
+auto Using(PyObject* self, const Row& row, const Action& action) {
+    try {
+        return action(Use(self));
+    } catch (Error& error) {
+        NameMember(error, *AsWrapper(self).object, row.name);
+        throw;
+    }
+}
+
 PyObject* GetAttribute(PyObject* self, void* closure) {
     return Guarded([&] {
         const auto& property = *static_cast<const Member<ClassProperty>*>(closure);
-        return ToPython(property.row->get(Use(self), {}), property.type, AsWrapper(self).keeper);
+        const auto read = [&](Object& object) { return property.row->get(object, {}); };
+        return ToPython(Using(self, *property.row, read), property.type, AsWrapper(self).keeper);
     });
 }
 
@@ -20,8 +32,10 @@ int SetAttribute(PyObject* self, PyObject* value, void* closure) {
     return Guarded(-1, [&] {
         const auto& property = *static_cast<const Member<ClassProperty>*>(closure);
         if (value == nullptr) RaisePython(PyExc_AttributeError, "%s cannot be deleted", property.name);
-        const Variant plain = FromPython(value, *property.row->type, Use(self));
-        property.row->set(Use(self), {&plain, 1});
+        Using(self, *property.row, [&](Object& object) {
+            const Variant plain = FromPython(value, *property.row->type, object);
+            property.row->set(Use(self), {&plain, 1});
+        });
         return 0;
     });
 }
@@ -58,7 +72,6 @@ constexpr std::size_t FewArguments = 2, MostArguments = 6;
 template <std::size_t Most>
 PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject* const* given,
                      std::size_t positional, PyObject* keywords) {
-    Object& object = Use(self);
     const auto& arguments = method.row->arguments;
     if (positional > arguments.size())
         RaisePython(PyExc_TypeError, "%s() takes at most %zu arguments, not %zu", method.name,
@@ -81,18 +94,20 @@ PyObject* CallMethod(const Member<ClassMethod>& method, PyObject* self, PyObject
             found[at] = value;
         }
     }
-    std::array<Variant, Most> values;
-    for (std::size_t at = 0; at < arguments.size(); ++at) {
-        if (found[at] != nullptr)
-            values[at] = FromPython(found[at], *arguments[at].type, object);
-        else if (arguments[at].initial)
-            values[at] = *arguments[at].initial;
-        else
-            RaisePython(PyExc_TypeError, "%s() misses the argument '%U'", method.name,
-                        PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at)));
-    }
-    Owned result(ToPython(method.row->call(Use(self), {values.data(), arguments.size()}), method.type,
-                          AsWrapper(self).keeper));
+    const auto call = [&](Object& object) {
+        std::array<Variant, Most> values;
+        for (std::size_t at = 0; at < arguments.size(); ++at) {
+            if (found[at] != nullptr)
+                values[at] = FromPython(found[at], *arguments[at].type, object);
+            else if (arguments[at].initial)
+                values[at] = *arguments[at].initial;
+            else
+                RaisePython(PyExc_TypeError, "%s() misses the argument '%U'", method.name,
+                            PyTuple_GetItem(method.arguments, static_cast<Py_ssize_t>(at)));
+        }
+        return method.row->call(Use(self), {values.data(), arguments.size()});
+    };
+    Owned result(ToPython(Using(self, *method.row, call), method.type, AsWrapper(self).keeper));
     if (settings.get() != nullptr) SetAttributes(result.get(), settings.get());
     return result.release();
 }
@@ -137,13 +152,13 @@ PyObject* IndexedItem(PyObject* self, PyObject* arguments) {
         if (value != nullptr && row->set == nullptr)
             RaisePython(PyExc_TypeError, "%s has no items that can be set",
                         WordingOf(object.Description().name, name).name);
-        std::array<Variant, 2> values{FromPython(index, *row->arguments[0].type, object)};
-        if (value == nullptr)
-            return ToPython(row->get(Use(self), {values.data(), 1}), TypeOf(row->type),
-                            AsWrapper(self).keeper);
-        values[1] = FromPython(value, *row->type, object);
-        row->set(Use(self), values);
-        return Py_NewRef(Py_None);
+        const auto use = [&](Object& at) -> Variant {
+            std::array<Variant, 2> values{FromPython(index, *row->arguments[0].type, at)};
+            if (value == nullptr) return row->get(Use(self), {values.data(), 1});
+            values[1] = FromPython(value, *row->type, at);
+            return row->set(Use(self), values);
+        };
+        return ToPython(Using(self, *row, use), TypeOf(row->type), AsWrapper(self).keeper);
     });
 }
 

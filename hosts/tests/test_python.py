@@ -209,11 +209,17 @@ def test_errors_leak_nothing():
 
 
 def test_threads(tmp_path):
+    kept = []
+
     def write(name):
         with draftwick.Document(tmp_path / name) as document:
             section = document.add_section()
             for i in range(2000):
-                section.add_paragraph().add_text_item(f"line {i}").font_format.bold = i % 2 == 0
+                item = section.add_paragraph().add_text_item(f"line {i}")
+                item.font_format.bold = i % 2 == 0
+                kept.append(item)
+                if len(kept) > 20:
+                    kept.pop(0)  # mostly another thread's
 
     threads = [threading.Thread(target=write, args=(f"{i}.rtf",)) for i in range(4)]
     for thread in threads:

@@ -28,7 +28,11 @@ class Error(Exception):
         return self._advice and _names().respelled(self._advice)
 
     def __str__(self):
-        return " ".join(str(text) for text in (*self.args[:1], self.advice) if text)
+        text, advice = str(self.args[0]) if self.args else "", self.advice
+        kind, colon, detail = text.partition(": ")
+        if colon and advice.endswith(detail):
+            return f"{kind}: {advice}"
+        return text + (" " if text.endswith(".") else ". ") + advice if advice else text
 
 
 KINDS = {name: type(name, (Error, getattr(builtins, relative)) if relative else (Error,),

@@ -40,6 +40,7 @@ class Names:
         # A word that is a class's name means the class.
         self.members = {name: member_name(name) for one in model["classes"] for rows in (one["properties"], one["methods"])
                         for name in (row["name"] for row in rows) if name not in classes}
+        self.members["FinishTo"] = "finish"  # which no description has
         self.enumerations, self.errors, self.constants = {}, {}, {}
         for one in model["enumerations"]:
             values = plain_values(one)
