@@ -50,7 +50,7 @@ def colour(document: draftwick.Document, color: str) -> None:
     try:
         text.font_format.color = color
     except draftwick.TypeMismatch as error:
-        print(error)  # Type mismatch: 'red' is no colour; write '#' and two hexadecimal digits each ...
+        print(error)  # Type mismatch: FontFormat.color: 'red' is no colour; write '#' and two ...
 # [refused]
 
 
