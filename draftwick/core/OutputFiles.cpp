@@ -154,6 +154,13 @@ bool OutputFiles::OpenOnePass(Session& session) {
     auto onePass = std::make_unique<OnePassFile>([this, &session] { return Header(session); }, gap_);
     try {
         UniqueFile file = CreateUniqueFile(files, folder, "~dwout", ".tmp", platform::Creation::Exclusive);
+        std::error_code error;
+        file.file->Seek(0, error);
+        if (error) {  // a file that cannot go back to its header
+            file.file.reset();
+            files.Delete(file.name, error);
+            return false;
+        }
         onePass->Open(std::move(file.file));
         OnePassFile* const opened = onePass.get();
         file.file = std::move(onePass);

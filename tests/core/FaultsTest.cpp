@@ -161,4 +161,22 @@ TEST(Faults, OfTheSystemSpareADurableFile) {
     }
 }
 
+// A program's own files need not be able to go back; where they cannot be forced to a disk, nothing says that they were.
+TEST(Faults, OfFilesThatCanOnlyBeWritten) {
+    FaultyDocument whole({"out.rtf", true}), plain({"out.rtf", true});
+    plain.files->BePlain();
+    whole.Build();
+    plain.Build();
+    EXPECT_TRUE(plain.reports.empty());
+    EXPECT_EQ(plain.Bytes(), whole.Bytes());
+    EXPECT_EQ(plain.Files(), whole.Files());
+    for (const bool once : {false, true}) {
+        FaultyDocument durable({"out.rtf", once, true, true});
+        durable.files->BePlain();
+        EXPECT_THROW(durable.Build(), FileError);
+        EXPECT_FALSE(durable.document->Finished());
+        EXPECT_EQ(durable.files->Bytes("out.rtf"), "old");
+    }
+}
+
 }  // namespace draftwick::test

@@ -282,6 +282,7 @@ TEST(RealFailures, DoNotComeFromNames) {
         const auto document = Document::Create();
         document->SetFilename(folder / (name + ".rtf"));
         document->SetTempPath(folder.Path());
+        document->SetDurable(byte > 250);
         document->AddSection();
         document->Finish();
         EXPECT_EQ(CheckFile(ReadFile(folder.Path() + "/" + name + ".rtf")), "") << byte;
