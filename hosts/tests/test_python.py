@@ -97,6 +97,8 @@ def test_refusals():
     assert isinstance(caught.value, ValueError) and caught.value.number == -2147220890
     with pytest.raises(draftwick.Overflow, match="Document.margin_left 200 inches: .*scale_mode is ScaleMode.INCHES"):
         document.margin_left = 200
+    with pytest.raises(draftwick.TypeMismatch, match="^Type mismatch: Document.facing_page: a Boolean is wanted$"):
+        document.facing_page = "yes"
     document.add_section()
     with pytest.raises(draftwick.TargetEmitted):
         document.margin_left = 1
@@ -165,7 +167,7 @@ def test_failing_files(tmp_path):
     with pytest.raises(FileNotFoundError):
         document.finish(tmp_path / "none" / "a.rtf")
     assert document.to_bytes().startswith(b"{\\rtf1") and document.finished
-    with pytest.raises(draftwick.TargetEmitted):
+    with pytest.raises(draftwick.TargetEmitted, match="Document.finish: the document is finished"):
         document.to_bytes()
 
 
