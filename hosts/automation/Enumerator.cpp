@@ -15,7 +15,7 @@ namespace {
 /// The items of a collection at the positions 1 to Count, which grows when one is added on the way.
 class Enumerator final : public Counted<IEnumVARIANT> {
 public:
-    Enumerator(std::shared_ptr<Object> collection, std::int32_t next)
+    Enumerator(std::shared_ptr<Object> collection, std::int64_t next)
         : collection_(std::move(collection)), next_(next) {}
 
     HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* values, ULONG* fetched) override {
@@ -25,14 +25,15 @@ public:
         ULONG done = 0;
         const HRESULT outcome = Guarded(nullptr, [&]() -> HRESULT {
             for (; done < count && next_ <= Count(); ++done) {
-                Give(Call(*collection_, collection_->Description().defaultMember, {next_}), true,
+                const auto position = static_cast<std::int32_t>(next_);
+                Give(Call(*collection_, collection_->Description().defaultMember, {position}), true,
                      values[done]);
                 ++next_;
             }
             return done == count ? S_OK : S_FALSE;
         });
         if (FAILED(outcome)) {
-            next_ -= static_cast<std::int32_t>(done);
+            next_ -= done;
             while (done > 0) ::VariantClear(&values[--done]);
         }
         if (fetched != nullptr) *fetched = done;
@@ -40,8 +41,8 @@ public:
     }
     HRESULT STDMETHODCALLTYPE Skip(ULONG count) override {
         return Guarded(nullptr, [&] {
-            const auto left = static_cast<ULONG>(std::max(Count() - next_ + 1, 0));
-            next_ += static_cast<std::int32_t>(std::min(count, left));
+            const std::int64_t left = std::max<std::int64_t>(Count() - next_ + 1, 0);
+            next_ += std::min<std::int64_t>(count, left);
             return count <= left ? S_OK : S_FALSE;
         });
     }
@@ -64,7 +65,7 @@ private:
 
     const DWORD thread_ = ::GetCurrentThreadId();
     const std::shared_ptr<Object> collection_;
-    std::int32_t next_;
+    std::int64_t next_;  // one more than any Count has room
 };
 
 }  // namespace

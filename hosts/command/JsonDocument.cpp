@@ -28,12 +28,24 @@ private:
         if (prefix.empty() && name == ContentMember) return Content(*object);
         const ClassMethod* method = prefix.empty() ? description.FindMethod(name) : nullptr;
         if (method != nullptr && IsCallable(description, *method)) return Add(*object, *method);
+        if (prefix.empty() && description.items == nullptr && description.FindProperty(name) == nullptr)
+            RefuseName(description, name, MembersBesideProperties(description));
         const Member member(object, prefix + name);
         switch (json_.Peek()) {
         case '{': member.WantsKey() ? Members(object, prefix + name + '.') : Members(member.Part()); break;
         case '[': Items(name, *member.Part()); break;
         default: member.Set(json_.Scalar());
         }
+    }
+
+    static std::vector<std::string_view> MembersBesideProperties(const Class& description) {
+        std::vector<std::string_view> names;
+        for (const ClassMethod& method : description.methods) {
+            if (IsCallable(description, method)) names.push_back(method.name);
+            if (!ContentName(method).empty() && (names.empty() || names.front() != ContentMember))
+                names.insert(names.begin(), ContentMember);
+        }
+        return names;
     }
 
     /// ["Arial", {"Name": "Georgia"}]: what is added to a collection.

@@ -27,15 +27,6 @@ std::string_view TakeName(std::string_view& path) {
     return name;
 }
 
-[[noreturn]] void RefuseName(const Class& description, std::string_view name) {
-    std::vector<std::string_view> names;
-    for (const ClassProperty& property : description.properties) {
-        if (property.set != nullptr || (property.type->kind == Kind::Object && !property.optional))
-            names.push_back(property.name);
-    }
-    Refuse(std::string{description.name} + " has no " + Quoted(name) + "; " + Alternatives(name, names));
-}
-
 }  // namespace
 
 Variant Fit(const Variant& value, const Type& type, const Object& object) {
@@ -63,6 +54,14 @@ bool ReadDate(std::string text, Date& date) {
         return true;
     }
     return false;
+}
+
+void RefuseName(const Class& description, std::string_view name, std::vector<std::string_view> others) {
+    for (const ClassProperty& property : description.properties) {
+        if (property.set != nullptr || (property.type->kind == Kind::Object && !property.optional))
+            others.push_back(property.name);
+    }
+    Refuse(std::string{description.name} + " has no " + Quoted(name) + "; " + Alternatives(name, others));
 }
 
 bool IsSettable(const Class& description, const ClassProperty& property) {

@@ -41,6 +41,10 @@ private:
     std::vector<Variant> keys_;
 };
 
+/// std::invalid_argument for a name that a class does not have; it has `others`, too, beside its properties.
+[[noreturn]] void RefuseName(const Class& description, std::string_view name,
+                             std::vector<std::string_view> others = {});
+
 /// The files of a document are the command line's own business.
 bool IsSettable(const Class& description, const ClassProperty& property);
 

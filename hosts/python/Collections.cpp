@@ -9,11 +9,18 @@ const Member<ClassMethod>& ItemsOf(PyObject* self) {
     return *Module().classes.at(&AsWrapper(self).object->Description()).items;
 }
 
-std::int32_t CountOf(PyObject* self) { return std::get<std::int32_t>(Get(Use(self), "Count")); }
+Variant ItemAt(PyObject* self, Variant index) { return ItemsOf(self).row->call(Use(self), {&index, 1}); }
 
 PyObject* Item(PyObject* self, Variant index) {
-    const auto& items = ItemsOf(self);
-    return ToPython(items.row->call(Use(self), {&index, 1}), items.type, AsWrapper(self).keeper);
+    return ToPython(ItemAt(self, std::move(index)), ItemsOf(self).type, AsWrapper(self).keeper);
+}
+
+/// How many items there are. Columns counts also what Auto asked for, which can be any number and is no items.
+std::int32_t CountOf(PyObject* self) {
+    const auto count = std::get<std::int32_t>(Get(Use(self), "Count"));
+    const bool areItems = !ItemsOf(self).row->optional
+                          || (count > 0 && !std::holds_alternative<std::monostate>(ItemAt(self, 1)));
+    return areItems ? count : 0;
 }
 
 /// The position from 1 of one from 0, or from the end.

@@ -36,6 +36,12 @@ def test_collections():
     borders = document.add_section().add_paragraph().borders
     borders[draftwick.ParagraphBorderSide.BOTTOM].style = draftwick.BorderStyle.DOUBLE
     assert [border.style for border in borders].count(draftwick.BorderStyle.DOUBLE) == 1
+    columns = document.add_section().columns
+    for wanted in (3, -1, 2**31 - 1):  # which are no items
+        columns.auto(wanted, 0)
+        assert (columns.count, len(columns), list(columns)) == (wanted, 0, [])
+    column = columns.add(1, 0.5)
+    assert list(columns) == [column] == [columns[-1]]
 
 
 def test_values():

@@ -31,6 +31,7 @@ ROWS = [
     ("in", '{"MarginTop": 1} x', 1, "in:1:18: error: The document root must not be followed by other values."),
     ("in", b'{"Caption": "\xff"}', 1, "in:1:14: error: Invalid encoding in string."),
     ("in", '{"MarginTpo": 1}', 1, 'in:1:2: error: Document has no "MarginTpo"; did you mean "MarginTop"?'),
+    ("in", '{"content": []}', 1, 'in:1:2: error: Document has no "content"; did you mean "Content"?'),
     ("in", '{"MarginTop": "2 miles"}', 1,
      "in:1:15: error: '2 miles' is no length; write a number and one of in, cm, mm, pt, pc, tw, as in '2.5cm'"),
     ("in", '{"Filename": "x"}', 1, 'in:1:2: error: "Filename" is for the command line to say'),
