@@ -28,9 +28,7 @@ private:
         if (prefix.empty() && name == ContentMember) return Content(*object);
         const ClassMethod* method = prefix.empty() ? description.FindMethod(name) : nullptr;
         if (method != nullptr && IsCallable(description, *method)) return Add(*object, *method);
-        if (prefix.empty() && description.items == nullptr && description.FindProperty(name) == nullptr)
-            RefuseName(description, name, MembersBesideProperties(description));
-        const Member member(object, prefix + name);
+        const Member member(object, prefix + name, MembersBesideProperties);
         switch (json_.Peek()) {
         case '{': member.WantsKey() ? Members(object, prefix + name + '.') : Members(member.Part()); break;
         case '[': Items(name, *member.Part()); break;
@@ -40,10 +38,12 @@ private:
 
     static std::vector<std::string_view> MembersBesideProperties(const Class& description) {
         std::vector<std::string_view> names;
-        for (const ClassMethod& method : description.methods) {
+        const auto& methods = description.methods;
+        if (std::any_of(methods.begin(), methods.end(),
+                        [](auto& method) { return !ContentName(method).empty(); }))
+            names.push_back(ContentMember);
+        for (const ClassMethod& method : methods) {
             if (IsCallable(description, method)) names.push_back(method.name);
-            if (!ContentName(method).empty() && (names.empty() || names.front() != ContentMember))
-                names.insert(names.begin(), ContentMember);
         }
         return names;
     }

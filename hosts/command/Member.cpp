@@ -27,6 +27,15 @@ std::string_view TakeName(std::string_view& path) {
     return name;
 }
 
+[[noreturn]] void RefuseName(const Class& description, std::string_view name,
+                             std::vector<std::string_view> names) {
+    for (const ClassProperty& property : description.properties) {
+        if (property.set != nullptr || (property.type->kind == Kind::Object && !property.optional))
+            names.push_back(property.name);
+    }
+    Refuse(std::string{description.name} + " has no " + Quoted(name) + "; " + Alternatives(name, names));
+}
+
 }  // namespace
 
 Variant Fit(const Variant& value, const Type& type, const Object& object) {
@@ -56,25 +65,19 @@ bool ReadDate(std::string text, Date& date) {
     return false;
 }
 
-void RefuseName(const Class& description, std::string_view name, std::vector<std::string_view> others) {
-    for (const ClassProperty& property : description.properties) {
-        if (property.set != nullptr || (property.type->kind == Kind::Object && !property.optional))
-            others.push_back(property.name);
-    }
-    Refuse(std::string{description.name} + " has no " + Quoted(name) + "; " + Alternatives(name, others));
-}
-
 bool IsSettable(const Class& description, const ClassProperty& property) {
     return &description != &Document::Describe() || property.type->kind != Kind::Path;
 }
 
-Member::Member(ObjectPointer object, std::string_view path) : object_(std::move(object)) {
+Member::Member(ObjectPointer object, std::string_view path, Names others) : object_(std::move(object)) {
     for (;;) {
         const Class& description = object_->Description();
         name_ = TakeName(path);
         property_ = description.FindProperty(name_);
         if (property_ == nullptr) {
-            if (description.items == nullptr) RefuseName(description, name_);
+            if (description.items == nullptr)
+                RefuseName(description, name_,
+                           others != nullptr ? others(description) : std::vector<std::string_view>{});
             const Argument& key = description.FindMethod("Items")->arguments[0];
             keys_.push_back(Key(name_, key, *object_));
         } else if (!property_->arguments.empty() && !path.empty()) {

@@ -23,7 +23,11 @@ bool ReadDate(std::string text, Date& date);
 /// ("Borders.dwPBorderLeft.Color"). std::invalid_argument for names that there are not.
 class Member {
 public:
-    Member(ObjectPointer object, std::string_view path);
+    /// Gives names of a class, beside those of its properties.
+    using Names = std::vector<std::string_view> (*)(const Class& description);
+
+    /// The other names are for the message when there is no such property.
+    Member(ObjectPointer object, std::string_view path, Names others = nullptr);
 
     /// Whether it is a property that is nothing without a key, which the path does not have.
     bool WantsKey() const { return property_ != nullptr && keys_.size() < property_->arguments.size(); }
@@ -40,10 +44,6 @@ private:
     const ClassProperty* property_ = nullptr;  // nullptr: an item of the collection
     std::vector<Variant> keys_;
 };
-
-/// std::invalid_argument for a name that a class does not have; it has `others`, too, beside its properties.
-[[noreturn]] void RefuseName(const Class& description, std::string_view name,
-                             std::vector<std::string_view> others = {});
 
 /// The files of a document are the command line's own business.
 bool IsSettable(const Class& description, const ClassProperty& property);
