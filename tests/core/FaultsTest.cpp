@@ -163,19 +163,22 @@ TEST(Faults, OfTheSystemSpareADurableFile) {
 
 // A program's own files need not be able to go back; where they cannot be forced to a disk, nothing says that they were.
 TEST(Faults, OfFilesThatCanOnlyBeWritten) {
+    using Ability = MemoryFiles::Ability;
     FaultyDocument whole({"out.rtf", true}), plain({"out.rtf", true});
-    plain.files->BePlain();
+    plain.files->BeWithout(Ability::Seek);
     whole.Build();
     plain.Build();
     EXPECT_TRUE(plain.reports.empty());
     EXPECT_EQ(plain.Bytes(), whole.Bytes());
     EXPECT_EQ(plain.Files(), whole.Files());
-    for (const bool once : {false, true}) {
-        FaultyDocument durable({"out.rtf", once, true, true});
-        durable.files->BePlain();
-        EXPECT_THROW(durable.Build(), FileError);
-        EXPECT_FALSE(durable.document->Finished());
-        EXPECT_EQ(durable.files->Bytes("out.rtf"), "old");
+    for (const Ability missing : {Ability::Sync, Ability::SyncFolder}) {
+        for (const bool once : {false, true}) {
+            FaultyDocument durable({"out.rtf", once, true, true});
+            durable.files->BeWithout(missing);
+            EXPECT_THROW(durable.Build(), FileError);
+            EXPECT_FALSE(durable.document->Finished());
+            EXPECT_EQ(durable.files->Bytes("out.rtf") == "old", missing == Ability::Sync);
+        }
     }
 }
 

@@ -38,13 +38,13 @@ public:
     }
 
     void Seek(std::uint64_t position, std::error_code& error) override {
-        if (files_->plain_) return File::Seek(position, error);
+        if (files_->missing_ == Ability::Seek) return File::Seek(position, error);
         error = files_->Count();
         if (!error) position_ = static_cast<std::size_t>(position);
     }
 
     void Sync(std::error_code& error) override {
-        if (files_->plain_) return File::Sync(error);
+        if (files_->missing_ == Ability::Sync) return File::Sync(error);
         error = files_->Count();
         if (!error) files_->synced_[content_] = *content_;
     }
@@ -61,7 +61,7 @@ private:
 };
 
 void MemoryFiles::SyncFolder(const std::string& folder, std::error_code& error) {
-    if (plain_) return FileSystem::SyncFolder(folder, error);
+    if (missing_ == Ability::SyncFolder) return FileSystem::SyncFolder(folder, error);
     error = Count();
     if (!error) syncedNames_ = files_;
 }

@@ -39,8 +39,9 @@ public:
     /// A locked file cannot be deleted or overwritten: std::errc::device_or_resource_busy.
     void Lock(const std::string& name) { locked_.insert(name); }
 
-    /// From now on files can neither go back nor be forced to a disk, like those of the simplest platform.
-    void BePlain() { plain_ = true; }
+    /// What a program's own files may leave to the base class, which cannot do it.
+    enum class Ability { None, Seek, Sync, SyncFolder };
+    void BeWithout(Ability ability) { missing_ = ability; }
 
     /// How many files are open.
     int OpenFiles() const { return open_; }
@@ -73,7 +74,7 @@ private:
     int open_ = 0;
     int failing_ = 0;
     bool stops_ = false;
-    bool plain_ = false;
+    Ability missing_ = Ability::None;
     std::errc failure_{};
     std::size_t taken_ = 0;
 };
